@@ -1,0 +1,141 @@
+#include "translator.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QXmlStreamReader>
+
+namespace vardeno::trans {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcTranslate, "vardeno.translate", QtWarningMsg)
+
+QString normalised(const QString& language)
+{
+    return QString(language).replace(QLatin1Char('-'), QLatin1Char('_'));
+}
+
+/// One string per text; U+001F cannot occur in an XML 1.0 file, so no two texts share a key.
+QString lookupKey(const QString& qualifiedContext, const QString& source)
+{
+    return qualifiedContext + QChar(0x1f) + source;
+}
+
+/// Reads one `.ts` document; `language` stays empty when the document is none.
+class TsReader
+{
+public:
+    explicit TsReader(QIODevice* device)
+        : m_xml(device)
+    {
+    }
+
+    bool read()
+    {
+        if (!m_xml.readNextStartElement() || m_xml.name() != QLatin1String("TS"))
+            return false;
+        language = normalised(m_xml.attributes().value(QLatin1String("language")).toString());
+        while (m_xml.readNextStartElement()) {
+            if (m_xml.name() == QLatin1String("context"))
+                readContext();
+            else
+                m_xml.skipCurrentElement();
+        }
+        while (!m_xml.atEnd())
+            m_xml.readNext(); // what follows the root element must be well-formed as well
+        return !m_xml.hasError() && !language.isEmpty();
+    }
+
+    QString language;
+    QHash<QString, QString> texts;
+
+private:
+    void readContext()
+    {
+        QString name;
+        while (m_xml.readNextStartElement()) {
+            if (m_xml.name() == QLatin1String("name"))
+                name = m_xml.readElementText();
+            else if (m_xml.name() == QLatin1String("message"))
+                readMessage(name);
+            else
+                m_xml.skipCurrentElement();
+        }
+    }
+
+    void readMessage(const QString& context)
+    {
+        QString source;
+        QString translation;
+        while (m_xml.readNextStartElement()) {
+            if (m_xml.name() == QLatin1String("source"))
+                source = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            else if (m_xml.name() == QLatin1String("translation"))
+                translation = readTranslation();
+            else
+                m_xml.skipCurrentElement();
+        }
+        if (!translation.isEmpty())
+            texts.insert(lookupKey(context, source), translation);
+    }
+
+    QString readTranslation()
+    {
+        const QString type = m_xml.attributes().value(QLatin1String("type")).toString();
+        const QString text = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        const bool retired = type == QLatin1String("obsolete") || type == QLatin1String("vanished");
+        return retired ? QString() : text;
+    }
+
+    QXmlStreamReader m_xml;
+};
+
+} // namespace
+
+Translator::Translator() = default;
+Translator::~Translator() = default;
+
+bool Translator::load(const QString& file)
+{
+    QFile device(file);
+    if (!device.open(QIODevice::ReadOnly))
+        return false;
+    TsReader reader(&device);
+    if (!reader.read())
+        return false;
+    Texts& texts = m_languages[reader.language];
+    for (auto it = reader.texts.cbegin(); it != reader.texts.cend(); ++it)
+        texts.insert(it.key(), it.value());
+    return true;
+}
+
+void Translator::switchLanguage(const QString& language)
+{
+    m_language = normalised(language);
+}
+
+QString Translator::language() const
+{
+    return m_language;
+}
+
+QString Translator::text(const QString& module, const QString& context, const QString& source) const
+{
+    const auto texts = m_languages.constFind(m_language);
+    if (texts == m_languages.cend())
+        return source;
+    const QString qualified = module + QLatin1String("::") + context;
+    const auto found = texts->constFind(lookupKey(qualified, source));
+    if (found != texts->cend())
+        return *found;
+    qCDebug(lcTranslate).noquote() << m_language << "lacks" << qualified << source;
+    return source;
+}
+
+QString translate(const Translator& translator, const QString& module, const QString& context,
+                  const QString& source)
+{
+    return translator.text(module, context, source);
+}
+
+} // namespace vardeno::trans
