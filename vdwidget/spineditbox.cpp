@@ -1,0 +1,40 @@
+#include "spineditbox.h"
+
+namespace vardeno::testcharttools {
+
+SpinEditBox::SpinEditBox(QWidget* parent)
+    : QDoubleSpinBox(parent)
+{
+    setKeyboardTracking(false);
+    setCorrectionMode(QAbstractSpinBox::CorrectToPreviousValue);
+    setAccelerated(true);
+    connect(this, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &SpinEditBox::valueChanged);
+}
+
+QValidator::State SpinEditBox::validate(QString& input, int& position) const
+{
+    const QValidator::State state = QDoubleSpinBox::validate(input, position);
+    // The base refuses the key that would leave the range ("500" in 1..100 becomes "50", and 50 is
+    // committed).
+    return state == QValidator::Invalid ? QValidator::Intermediate : state;
+}
+
+void SpinEditBox::fixup(QString& input) const
+{
+    input = prefix() + textFromValue(value()) + suffix();
+}
+
+QString SpinEditBox::textFromValue(double value) const
+{
+    QString text = QDoubleSpinBox::textFromValue(value);
+    const QString point = locale().decimalPoint();
+    if (!text.contains(point))
+        return text;
+    while (text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(point))
+        text.chop(point.size());
+    return text;
+}
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "vdwidget_export.h"
+
+#include <QDoubleSpinBox>
+
+namespace vardeno::testcharttools {
+
+/// A numeric entry with range and suffix.
+///
+/// A value is announced when it is committed (Enter, focus lost, an arrow key, the wheel, a step,
+/// `setValue`), never while it is being typed. Anything may be typed: an entry that is no number or lies
+/// outside the range goes back to the last valid value when the edit ends; nothing is cut to the range in
+/// silence. Numbers are shown without trailing zeros ("50", "0.5"). GUI thread only.
+class VDWIDGET_EXPORT SpinEditBox : public QDoubleSpinBox
+{
+    Q_OBJECT
+
+public:
+    explicit SpinEditBox(QWidget* parent = nullptr);
+
+    QValidator::State validate(QString& input, int& position) const override;
+    void fixup(QString& input) const override;
+    QString textFromValue(double value) const override;
+
+Q_SIGNALS:
+    /// The committed value. Declared again because Qt 5's base carries a deprecated overload for texts:
+    /// here `&SpinEditBox::valueChanged` names one signal.
+    void valueChanged(double value);
+};
+
+} // namespace vardeno::testcharttools
