@@ -1,0 +1,58 @@
+#pragma once
+
+#include "layerpainter.h"
+
+#include <QImage>
+#include <QSize>
+
+#include <vector>
+
+namespace vardeno::testcharttools {
+
+/// One layer of the chart in the stack.
+struct Layer
+{
+    int number;             ///< in the paint status
+    const char* memberName; ///< identifies the layer's paint reports
+    const char* doneText;   ///< logged for each of them
+    bool awaited;           ///< whether a repaint is complete only with this layer's report
+    LayerPainter* (*create)();
+};
+
+/// The layers of the chart, bottom to top. A layer is added to the chart by a line here.
+const std::vector<Layer>& chartLayers();
+
+/// The painters of all layers, stacked in one hidden view of the chart's full resolution.
+class LayerStack
+{
+public:
+    /// The view becomes a window of its own below `owner`, so that nothing that shows `owner` shows it.
+    explicit LayerStack(QWidget* owner);
+
+    /// The chart's resolution in pixels.
+    void setChartSize(const QSize& size);
+    QSize chartSize() const;
+
+    /// The composed chart at full resolution, opaque (RGB32). All visible painters paint, and report,
+    /// meanwhile.
+    QImage image() const;
+
+    /// By position in `chartLayers()`.
+    LayerPainter* painter(std::size_t layer) const { return m_painters[layer]; }
+
+    template <typename Painter>
+    Painter* find() const
+    {
+        for (LayerPainter* painter : m_painters) {
+            if (auto* found = qobject_cast<Painter*>(painter))
+                return found;
+        }
+        return nullptr;
+    }
+
+private:
+    QWidget* m_view;
+    std::vector<LayerPainter*> m_painters;
+};
+
+} // namespace vardeno::testcharttools

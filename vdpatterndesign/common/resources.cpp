@@ -1,0 +1,19 @@
+#include "common/resources.h"
+
+#include <QtGlobal>
+
+// The macro declares a function of the global namespace.
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(vdpatterndesign);
+}
+
+namespace vardeno::testcharttools {
+
+void ensureResources()
+{
+    static const bool done = (initialiseResources(), true);
+    Q_UNUSED(done)
+}
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,175 @@
+#include "common/settingrows.h"
+
+#include <spineditbox.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+constexpr QSize sliderSize(146, 24);
+constexpr QSize iconButtonSize(20, 20);
+constexpr QSize swatchSize(16, 16);
+constexpr QSize switchSize(28, 14);
+constexpr int rowSpacing = 8;
+
+QIcon switchIcon()
+{
+    QIcon icon;
+    icon.addFile(QStringLiteral(":/resources/images/Switch_on.png"), QSize(), QIcon::Normal, QIcon::On);
+    icon.addFile(QStringLiteral(":/resources/images/Switch_off.png"), QSize(), QIcon::Normal, QIcon::Off);
+    return icon;
+}
+
+} // namespace
+
+SettingRow::SettingRow(QWidget* panel, PanelControls& controls, QHBoxLayout* layout)
+    : m_panel(panel)
+    , m_controls(&controls)
+    , m_layout(layout)
+{
+}
+
+SettingRow& SettingRow::caption(const QString& source, const QSize& size)
+{
+    m_caption = new QLabel(m_panel);
+    m_caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    append(m_caption, size);
+    if (!source.isEmpty())
+        m_controls->captions.add(m_caption, source);
+    return *this;
+}
+
+SettingRow& SettingRow::spin(SpinEditBox*& box, const QSize& size, const SpinRange& range, Allowed allowed)
+{
+    box = new SpinEditBox(m_panel);
+    box->setRange(range.minimum, range.maximum);
+    box->setSuffix(range.unit);
+    box->setValue(range.initial);
+    appendLocked(box, size, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::slider(QSlider*& slider, int maximum, Allowed allowed)
+{
+    slider = new QSlider(Qt::Horizontal, m_panel);
+    slider->setRange(0, maximum);
+    slider->setValue(maximum);
+    appendLocked(slider, sliderSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::iconButton(QPushButton*& button, const QString& picture, const QString& hint,
+                                   const QString& objectName, Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setObjectName(objectName);
+    button->setFlat(true);
+    button->setIcon(QIcon(picture));
+    appendLocked(button, iconButtonSize, std::move(allowed));
+    QPushButton* const shown = button;
+    m_controls->captions.add(hint, [shown](const QString& text) {
+        shown->setToolTip(text);
+        shown->setAccessibleName(text);
+    });
+    return *this;
+}
+
+SettingRow& SettingRow::swatch(QPushButton*& button, const QString& objectName, const QString& role,
+                               Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setObjectName(objectName);
+    if (!role.isEmpty())
+        button->setProperty("btnProperty", role);
+    button->setFlat(true);
+    appendLocked(button, swatchSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::button(QPushButton*& button, const QString& source, const QSize& size,
+                               const QString& objectName, Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setObjectName(objectName);
+    appendLocked(button, size, std::move(allowed));
+    m_controls->captions.add(button, source, 2);
+    return *this;
+}
+
+SettingRow& SettingRow::toggle(QCheckBox*& box, bool checked)
+{
+    box = new QCheckBox(m_panel);
+    box->setProperty("switchStyle", QStringLiteral("general"));
+    box->setChecked(checked);
+    appendLocked(box, switchSize, {});
+    return *this;
+}
+
+SettingRow& SettingRow::toggle(QPushButton*& button, bool checked, Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setProperty("switchStyle", QStringLiteral("general"));
+    button->setCheckable(true);
+    button->setChecked(checked);
+    button->setFlat(true);
+    button->setIcon(switchIcon());
+    button->setIconSize(switchSize);
+    appendLocked(button, switchSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::widget(QWidget* widget)
+{
+    m_layout->insertWidget(m_layout->count() - 1, widget);
+    return *this;
+}
+
+SettingRow& SettingRow::gap(int pixels)
+{
+    m_layout->insertSpacing(m_layout->count() - 1, pixels);
+    return *this;
+}
+
+void SettingRow::append(QWidget* control, const QSize& size)
+{
+    control->setFixedSize(size);
+    widget(control);
+}
+
+void SettingRow::appendLocked(QWidget* control, const QSize& size, Allowed allowed)
+{
+    append(control, size);
+    m_controls->add(control, std::move(allowed));
+    if (m_caption)
+        m_caption->setBuddy(control);
+    m_caption = nullptr;
+}
+
+SettingRows::SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column,
+                         const QSize& captionSize)
+    : m_panel(panel)
+    , m_controls(&controls)
+    , m_column(column)
+    , m_captionSize(captionSize)
+{
+}
+
+SettingRow SettingRows::row(const QString& captionSource)
+{
+    auto* layout = new QHBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(rowSpacing);
+    layout->addStretch();
+    m_column->addLayout(layout);
+    SettingRow row(m_panel, *m_controls, layout);
+    row.caption(captionSource, m_captionSize);
+    return row;
+}
+
+} // namespace vardeno::testcharttools

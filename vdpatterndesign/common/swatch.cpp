@@ -1,0 +1,101 @@
+#include "common/swatch.h"
+
+#include "common/resources.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVariant>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+constexpr char paintedColor[] = "paintedColor";
+constexpr QSize disabledSize(40, 20);
+
+void setIconPixmap(QPushButton* button, const QPixmap& pixmap)
+{
+    button->setIcon(QIcon(pixmap));
+    button->setIconSize(pixmap.size());
+}
+
+QPixmap disabledPixmap()
+{
+    ensureResources();
+    QPixmap pixmap(disabledSize);
+    pixmap.fill(QColor(0x33, 0x33, 0x37));
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::transparent);
+    painter.setPen(QColor(0x63, 0x64, 0x74));
+    painter.drawRect(1, 1, disabledSize.width() - 2, disabledSize.height() - 2);
+    painter.drawPixmap(0, 0, QPixmap(QStringLiteral(":/resources/images/disable.png")));
+    return pixmap;
+}
+
+} // namespace
+
+void paintSwatch(QPushButton* button, const QColor& color)
+{
+    const QSize size = button->size();
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRect(1, 1, size.width() - 2, size.height() - 2);
+    painter.end();
+    setIconPixmap(button, pixmap);
+    button->setProperty(paintedColor, color);
+}
+
+void paintDisabledSwatch(QPushButton* button)
+{
+    setIconPixmap(button, disabledPixmap());
+}
+
+QColor swatchColor(const QPushButton* button)
+{
+    const QImage image = button->icon().pixmap(button->iconSize()).toImage();
+    if (image.isNull())
+        return {};
+    const QColor shown = image.pixelColor(image.width() / 2, image.height() / 2);
+    const auto painted = button->property(paintedColor).value<QColor>();
+    const bool same = painted.isValid() && qPremultiply(painted.rgba()) == qPremultiply(shown.rgba());
+    return same ? painted : shown;
+}
+
+SwitchedSwatch::SwitchedSwatch(QPushButton* button, const QColor& kept)
+    : m_button(button)
+    , m_kept(kept)
+{
+}
+
+void SwitchedSwatch::keep(bool on)
+{
+    if (!on)
+        m_kept = color();
+}
+
+void SwitchedSwatch::show(bool on)
+{
+    m_on = on;
+    if (on)
+        paintSwatch(m_button, m_kept);
+    else
+        paintDisabledSwatch(m_button);
+}
+
+void SwitchedSwatch::paint(const QColor& color)
+{
+    m_kept = color;
+    paintSwatch(m_button, color);
+}
+
+QColor SwitchedSwatch::color() const
+{
+    return m_on ? swatchColor(m_button) : m_kept;
+}
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,13 @@
+#include "common/translation.h"
+
+#include "translatemanager1.h"
+
+namespace vardeno::testcharttools {
+
+QString translated(const QString& source)
+{
+    return trans::translate(TranslateManager1::instance().translator(), QStringLiteral("TestChartTools"),
+                            QStringLiteral("Widget"), source);
+}
+
+} // namespace vardeno::testcharttools

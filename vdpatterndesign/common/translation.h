@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace vardeno::testcharttools {
+
+/// The shown text for an English source text, in the current language. The library's one way to the
+/// translator.
+QString translated(const QString& source);
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "vdpatterndesign_export.h"
+
+#include <QImage>
+#include <QThread>
+
+namespace vardeno::testcharttools {
+
+/// Writes one image to one file and reports how that went.
+///
+/// The format follows the ending of the path, in lower case: ".png", ".jpg" or ".jpeg", ".bmp". An empty path
+/// or any other ending writes nothing and counts as success. The file is written whole or not at all: a write
+/// that fails leaves what was there before. The folder must exist.
+///
+/// Constructed on the GUI thread; `run` touches nothing but the image and the path it was given. A thread
+/// that is destroyed while it writes waits until the file is complete.
+class VDPATTERNDESIGN_EXPORT SaveImageThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    SaveImageThread(const QImage& image, const QString& path, QObject* parent = nullptr);
+    ~SaveImageThread() override;
+
+Q_SIGNALS:
+    /// Sent once, from the thread.
+    void saveFinished(bool success);
+
+protected:
+    void run() override;
+
+private:
+    QImage m_image;
+    QString m_path;
+};
+
+} // namespace vardeno::testcharttools

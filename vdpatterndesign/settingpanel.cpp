@@ -1,0 +1,47 @@
+#include "settingpanel.h"
+
+#include "common/panelcontrols.h"
+#include "common/resources.h"
+
+#include <QEvent>
+
+namespace vardeno::testcharttools {
+
+SettingPanel::SettingPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_controls(new PanelControls)
+{
+    ensureResources();
+}
+
+SettingPanel::~SettingPanel() = default;
+
+void SettingPanel::setControlsDisabled(bool disabled)
+{
+    m_controls->setLocked(disabled);
+    focusAfterLock(disabled);
+}
+
+void SettingPanel::retranslate()
+{
+    m_controls->captions.retranslate();
+}
+
+void SettingPanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        retranslate(); // what fits has changed
+}
+
+void SettingPanel::focusAfterLock(bool)
+{
+    setFocus(Qt::OtherFocusReason);
+}
+
+PanelControls& SettingPanel::controls()
+{
+    return *m_controls;
+}
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "vdpatterndesign_export.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QPushButton;
+
+namespace vardeno::testcharttools {
+
+class PanelControls;
+struct TestChartToolsData;
+
+/// A settings panel of the chart tool: the controls of one group of the chart record.
+///
+/// This base owns what the panels share: captions that follow the language and are elided to their widgets,
+/// the lock that makes every control inert while the chart is painted, and the way to the shell. GUI thread
+/// only.
+class VDPATTERNDESIGN_EXPORT SettingPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SettingPanel(QWidget* parent = nullptr);
+    ~SettingPanel() override;
+
+    /// True makes every input control of the panel inert. False restores what the panel's switches allow.
+    /// Either way the focus then goes where the panel's `focusAfterLock` says.
+    void setControlsDisabled(bool disabled);
+
+    /// Shows every caption in the current language.
+    void retranslate();
+
+    /// Stores what the controls show in the panel's group of `record`.
+    virtual void collectInto(TestChartToolsData& record) const = 0;
+    /// Shows the panel's group of `record` in the controls, and with them in the painters.
+    virtual void pushFrom(const TestChartToolsData& record) = 0;
+
+Q_SIGNALS:
+    /// The panel's layers have changed: the change signal of every panel arrives here as well.
+    void changed();
+    /// The user wants to pick the colour of `button`: the colour signals of every panel arrive here as well.
+    void colorRequested(QPushButton* button);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+    /// The panel takes the focus after each lock and unlock, unless it says otherwise.
+    virtual void focusAfterLock(bool disabled);
+
+    PanelControls& controls();
+
+private:
+    std::unique_ptr<PanelControls> m_controls;
+};
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "testcharttoolsdata.h"
+#include "vdpatterndesign_export.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QPushButton;
+
+namespace vardeno::testcharttools {
+
+/// The test chart editor that a host embeds: the live chart on the left, the settings on the right, the edit
+/// buttons below. 1610 x 803 pixels.
+///
+/// The host sets the folder to save into, the mode (a new chart, or replacing one) and, when replacing, the
+/// stored record; the user edits; `sigTestToolEditDone` tells how the edit ended. Everything runs on the GUI
+/// thread; only the writing of an image file has a thread of its own. Nothing is thrown across this boundary.
+class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VTestChartTools(QWidget* parent = nullptr);
+    ~VTestChartTools() override;
+
+    /// The chart as it is shown.
+    TestChartToolsData getTestChartToolsData();
+    /// Shows `data`. Values outside a control's range are cut to it. While `isShowForAdd()`, the colour bar
+    /// gets its default colours instead of the record's.
+    void setTestChartToolsData(TestChartToolsData data);
+
+    /// `root`: the folder below which every saved chart gets a folder of its own. `name`: for
+    /// `slotSaveImage`.
+    void setSavePath(const QString& root, const QString& name);
+    /// The full path of the image that a replacement supersedes; its folder is removed after the replacement.
+    void setLastSavePath(const QString& path);
+    /// The file name, with its ending, of the chart that is being replaced.
+    void setCurrentEditNum(const QString& name);
+    /// The number in the file name of a new chart.
+    void setTestImageNum(int number);
+    /// While set, the layers' paint reports are ignored.
+    void setUpdateFlag(bool updating);
+
+    /// The full path of the image that `sigFail` was last sent for, empty before the first failure.
+    QString failedPath() const;
+
+    /// True to add a new chart, false (at first) to replace one.
+    void setShowForAdd(bool add);
+    bool isShowForAdd() const;
+    /// Enables or disables the save, add confirm and apply buttons. Disabled tells that there is nothing to
+    /// save.
+    void updateShowSaveBtnStatus(bool enabled);
+    /// Hides the preview.
+    void hideViewWidget();
+
+    /// Loads language files, in order, into the process's translator; a file that cannot be loaded is passed
+    /// over.
+    void loadLanguageFiles(const std::vector<QString>& files);
+    /// Switches the process's language and shows all texts of this tool in it.
+    void switchLanguage(const QString& language);
+    /// Shows all texts in the current language.
+    void translateLanguage();
+
+Q_SIGNALS:
+    /// A chart image was written. `data` refers to the tool's own record: for direct connections only.
+    void sigSave(TestChartToolsData& data);
+    /// An edit has ended; `fileName` is the full path of the image, empty where none was written.
+    void sigTestToolEditDone(TestChartToolsData data, QString fileName, EditType type);
+    /// An image could not be written: `failedPath()` tells which.
+    void sigFail();
+
+public Q_SLOTS:
+    /// Fits the layers to the resolution that is set, and the preview to its area.
+    void slotGetHeightWidth();
+    /// Saves the chart as "<root>/<name>.png", without ending the edit.
+    void slotSaveImage();
+    void slotCancleButtonClicked();
+    void slotAddConfirmButtonClicked();
+    void slotReplaceConfirmButtonClicked();
+    void slotReplaceApplyButtonClicked();
+    /// The screen's cabinet rows or columns have changed.
+    void slotUpdateRow(int row);
+    void slotUpdateCol(int col);
+    /// Marks the chart as changed.
+    void slotSaveBtnLight();
+    /// A layer has painted; `senderName` identifies it.
+    void slotUpdatePaintEventStatus(QString senderName);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace vardeno::testcharttools
