@@ -8,7 +8,8 @@ function(vd_defaults target)
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
-    POSITION_INDEPENDENT_CODE ON)
+    POSITION_INDEPENDENT_CODE ON
+    INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   target_compile_features(${target} PUBLIC cxx_std_17)
   target_compile_definitions(${target} PRIVATE QT_NO_FOREACH QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
   target_compile_options(${target} PRIVATE
@@ -41,6 +42,7 @@ function(vd_library name)
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
+    INSTALL_RPATH "$ORIGIN"
     LINKER_LANGUAGE CXX)
   if(BUILD_SHARED_LIBS AND NOT VD_SANITIZERS)
     target_link_options(${name} PRIVATE -Wl,--no-undefined)

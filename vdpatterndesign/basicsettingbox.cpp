@@ -41,6 +41,7 @@ constexpr QSize modeCaption(80, 20);
 constexpr QSize pageCaption(70, 20);
 constexpr QSize stepButton(20, 20);
 constexpr QSize editButton(55, 20);
+constexpr QSize listSize(112, 20);
 
 QPixmap picture(const char* name)
 {
@@ -172,6 +173,7 @@ void BasicSettingBox::Impl::build(PanelControls& controls)
     line->setObjectName(QStringLiteral("basicLine"));
     line->setFrameStyle(QFrame::HLine | QFrame::Plain);
     line->setFixedSize(353, 1);
+    line->setForegroundRole(QPalette::Midlight);
     column->addWidget(line, 0, Qt::AlignHCenter);
 }
 
@@ -237,6 +239,7 @@ QWidget* BasicSettingBox::Impl::buildGradientPage(PanelControls& controls)
     auto* page = new QWidget;
     gradientList = colorList(page, "_gradientListWidget");
     gradientList->setMaximumWidth(200);
+    gradientList->setFixedHeight(listSize.height());
     const auto add = [&](const QString& text, const char* objectName, const QSize& size) {
         auto* button = new QPushButton(text, page);
         button->setObjectName(QLatin1String(objectName));
@@ -264,7 +267,7 @@ QWidget* BasicSettingBox::Impl::buildColorBarPage(PanelControls& controls)
     auto* page = new QWidget;
     page->setObjectName(QStringLiteral("colorStripeWidget"));
     stripeList = colorList(page, "_colorStripeListWidget");
-    stripeList->setFixedSize(112, 20);
+    stripeList->setFixedSize(listSize);
     stripeList->setMouseTracking(true);
     stripeList->installEventFilter(owner);
     stripeList->viewport()->installEventFilter(owner);

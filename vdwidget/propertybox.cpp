@@ -64,6 +64,7 @@ QWidget* PropertyBox::addItem(const QString& name, QLayout* layout, int height)
     item->setObjectName(name);
     item->setLayout(layout);
     item->setFixedHeight(height);
+    item->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // whatever its content would grow to
     m_body->layout()->addWidget(item);
     return item;
 }
