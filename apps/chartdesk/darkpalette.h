@@ -1,0 +1,6 @@
+#pragma once
+
+class QPalette;
+
+/// A palette for working in the dark next to a bright wall.
+QPalette darkPalette();

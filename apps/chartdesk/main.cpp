@@ -1,0 +1,87 @@
+#include "darkpalette.h"
+#include "mainwindow.h"
+
+#include <vdpatterndesign_version.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTextStream>
+
+#include <algorithm>
+
+namespace {
+
+struct Options
+{
+    QString folder;
+    QString language;
+    bool headless;
+};
+
+Options parseCommandLine(const QCoreApplication& application)
+{
+    const QCommandLineOption folder(QStringLiteral("folder"), QStringLiteral("Where charts are saved."),
+                                    QStringLiteral("path"),
+                                    QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    const QString ofSystem =
+        QLocale().language() == QLocale::Chinese ? QStringLiteral("zh_CN") : QStringLiteral("en");
+    const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("en or zh_CN."),
+                                      QStringLiteral("code"), ofSystem);
+    const QCommandLineOption headless(
+        QStringLiteral("headless"),
+        QStringLiteral("Without a display: confirm one default chart, print the path of "
+                       "its image, and quit."));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Designs test charts for LED screens."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({folder, language, headless});
+    parser.process(application);
+    return {parser.value(folder), parser.value(language), parser.isSet(headless)};
+}
+
+/// Confirms one default chart; the exit code tells whether it was written.
+int confirmDefaultChart(MainWindow& window, QApplication& application)
+{
+    using vardeno::testcharttools::VTestChartTools;
+    QObject::connect(window.editor(), &VTestChartTools::sigTestToolEditDone, &application,
+                     [](const auto&, const QString& path) {
+                         QTextStream(stdout) << path << '\n';
+                         QCoreApplication::exit(0);
+                     });
+    QObject::connect(window.editor(), &VTestChartTools::sigFail, &application, [&window] {
+        QTextStream(stderr) << "could not be written: " << window.editor()->failedPath() << '\n';
+        QCoreApplication::exit(1);
+    });
+    window.addChart();
+    window.editor()->slotAddConfirmButtonClicked();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const bool headless = std::any_of(
+        argv + 1, argv + argc, [](const char* argument) { return qstrcmp(argument, "--headless") == 0; });
+    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("chartdesk"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VDPATTERNDESIGN_VERSION));
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setPalette(darkPalette());
+
+    const Options options = parseCommandLine(application);
+    MainWindow window(options.folder);
+    window.editor()->loadLanguageFiles(
+        {QStringLiteral(":/translations/en.ts"), QStringLiteral(":/translations/zh_CN.ts")});
+    window.switchLanguage(options.language);
+    if (options.headless)
+        return confirmDefaultChart(window, application);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,170 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>TestChartTools::Widget</name>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>BorderWidth</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>Box RowColNum</source>
+        <translation>Cabinets</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Cannel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Chess</source>
+        <translation>Chessboard</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Color bar</source>
+        <translation>Color bar</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>DeleteColorBar</source>
+        <translation>Delete this color?</translation>
+    </message>
+    <message>
+        <source>Even</source>
+        <translation>Even</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>Layer settings</source>
+        <translation>Layers</translation>
+    </message>
+    <message>
+        <source>Mode selection</source>
+        <translation>Pattern</translation>
+    </message>
+    <message>
+        <source>Next color</source>
+        <translation>Next color</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Odd</source>
+        <translation>Odd</translation>
+    </message>
+    <message>
+        <source>OutBorder</source>
+        <translation>Border</translation>
+    </message>
+    <message>
+        <source>Previous color</source>
+        <translation>Previous color</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset to 100</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>TestImage</source>
+        <translation>TestImage</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>Settings</translation>
+    </message>
+</context>
+<context>
+    <name>ChartDesk::MainWindow</name>
+    <message>
+        <source>Test charts</source>
+        <translation>Test charts</translation>
+    </message>
+    <message>
+        <source>New chart</source>
+        <translation>New chart</translation>
+    </message>
+    <message>
+        <source>Edit chart</source>
+        <translation>Edit chart</translation>
+    </message>
+    <message>
+        <source>Choose folder…</source>
+        <translation>Choose folder…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>Charts</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the charts</source>
+        <translation>Choose the folder of the charts</translation>
+    </message>
+    <message>
+        <source>No charts here yet. Press “New chart” to make the first one.</source>
+        <translation>No charts here yet. Press “New chart” to make the first one.</translation>
+    </message>
+    <message>
+        <source>This chart could not be written:</source>
+        <translation>This chart could not be written:</translation>
+    </message>
+    <message>
+        <source>The record of this chart could not be written, so it cannot be edited later:</source>
+        <translation>The record of this chart could not be written, so it cannot be edited later:</translation>
+    </message>
+    <message>
+        <source>The record of this chart cannot be read:</source>
+        <translation>The record of this chart cannot be read:</translation>
+    </message>
+    <message>
+        <source>This is not a folder that charts can be saved in:</source>
+        <translation>This is not a folder that charts can be saved in:</translation>
+    </message>
+    <message>
+        <source>Saved:</source>
+        <translation>Saved:</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,170 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>TestChartTools::Widget</name>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>BorderWidth</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>Box RowColNum</source>
+        <translation>箱体行列数</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Cannel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Chess</source>
+        <translation>棋盘格</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Color bar</source>
+        <translation>彩条</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>DeleteColorBar</source>
+        <translation>删除此颜色？</translation>
+    </message>
+    <message>
+        <source>Even</source>
+        <translation>偶数</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>渐变</translation>
+    </message>
+    <message>
+        <source>Layer settings</source>
+        <translation>图层设置</translation>
+    </message>
+    <message>
+        <source>Mode selection</source>
+        <translation>模式选择</translation>
+    </message>
+    <message>
+        <source>Next color</source>
+        <translation>下一个颜色</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Odd</source>
+        <translation>奇数</translation>
+    </message>
+    <message>
+        <source>OutBorder</source>
+        <translation>外边框</translation>
+    </message>
+    <message>
+        <source>Previous color</source>
+        <translation>上一个颜色</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>恢复为 100</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>TestImage</source>
+        <translation>测试图</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>ChartDesk::MainWindow</name>
+    <message>
+        <source>Test charts</source>
+        <translation>测试图</translation>
+    </message>
+    <message>
+        <source>New chart</source>
+        <translation>新建测试图</translation>
+    </message>
+    <message>
+        <source>Edit chart</source>
+        <translation>编辑测试图</translation>
+    </message>
+    <message>
+        <source>Choose folder…</source>
+        <translation>选择文件夹…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>测试图</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the charts</source>
+        <translation>选择测试图文件夹</translation>
+    </message>
+    <message>
+        <source>No charts here yet. Press “New chart” to make the first one.</source>
+        <translation>这里还没有测试图。按“新建测试图”创建第一张。</translation>
+    </message>
+    <message>
+        <source>This chart could not be written:</source>
+        <translation>无法写入此测试图：</translation>
+    </message>
+    <message>
+        <source>The record of this chart could not be written, so it cannot be edited later:</source>
+        <translation>无法写入此测试图的记录，以后将无法编辑：</translation>
+    </message>
+    <message>
+        <source>The record of this chart cannot be read:</source>
+        <translation>无法读取此测试图的记录：</translation>
+    </message>
+    <message>
+        <source>This is not a folder that charts can be saved in:</source>
+        <translation>无法在此文件夹中保存测试图：</translation>
+    </message>
+    <message>
+        <source>Saved:</source>
+        <translation>已保存：</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+</context>
+</TS>
