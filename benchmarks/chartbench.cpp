@@ -1,0 +1,124 @@
+// What a change of the chart costs: one layer's render, and the composition of the whole view.
+
+#include "common/layerstack.h"
+#include "paintbasicwidget.h"
+#include "paintpublicbrightwidget.h"
+#include "paintpublicwidget.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QListWidget>
+#include <QWidget>
+
+#include <cstring>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+QSize chartSize(const benchmark::State& state)
+{
+    return {int(state.range(0)), int(state.range(1))};
+}
+
+void chartSizes(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgNames({"width", "height"});
+    benchmark->Args({1920, 1080})->Args({3840, 2160})->Args({4320, 4320});
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
+/// What no layer can be faster than: writing one picture of the chart's size.
+void warmMemcpy(benchmark::State& state)
+{
+    const std::size_t bytes =
+        std::size_t(chartSize(state).width()) * std::size_t(chartSize(state).height()) * 4;
+    std::vector<char> from(bytes, 1);
+    std::vector<char> to(bytes, 2);
+    for (auto _ : state) {
+        std::memcpy(to.data(), from.data(), bytes);
+        benchmark::DoNotOptimize(to.data());
+    }
+}
+BENCHMARK(warmMemcpy)->Apply(chartSizes);
+
+void renderChess(benchmark::State& state)
+{
+    PaintBasicWidget layer;
+    layer.resize(chartSize(state));
+    bool red = false;
+    for (auto _ : state)
+        layer.setOddColor((red = !red) ? Qt::red : Qt::green);
+}
+BENCHMARK(renderChess)->Apply(chartSizes);
+
+void renderGradient(benchmark::State& state)
+{
+    QListWidget colors;
+    for (const Qt::GlobalColor color : {Qt::yellow, Qt::green, Qt::cyan, Qt::magenta, Qt::red})
+        (new QListWidgetItem(&colors))->setBackground(QBrush(color));
+    PaintBasicWidget layer;
+    layer.setColorStripeList(&colors);
+    layer.resize(chartSize(state));
+    for (auto _ : state) {
+        layer.setMode(3); // draws nothing: costs what every layer costs
+        layer.setMode(1);
+    }
+}
+BENCHMARK(renderGradient)->Apply(chartSizes);
+
+void renderBorder(benchmark::State& state)
+{
+    PaintPublicWidget layer;
+    layer.resize(chartSize(state));
+    int width = 6;
+    for (auto _ : state)
+        layer.setOutLineWidth(width = 13 - width);
+}
+BENCHMARK(renderBorder)->Apply(chartSizes);
+
+void renderVeil(benchmark::State& state)
+{
+    PaintPublicBrightWidget layer;
+    layer.resize(chartSize(state));
+    ushort percent = 40;
+    for (auto _ : state)
+        layer.setBrightness(percent = ushort(100 - percent));
+}
+BENCHMARK(renderVeil)->Apply(chartSizes);
+
+void composeView(benchmark::State& state)
+{
+    QWidget owner;
+    LayerStack layers(&owner);
+    layers.setChartSize(chartSize(state));
+    layers.image(); // the layers take the chart's size
+    for (auto _ : state)
+        benchmark::DoNotOptimize(layers.image().constBits());
+}
+BENCHMARK(composeView)->Apply(chartSizes);
+
+void changeAndCompose(benchmark::State& state)
+{
+    QWidget owner;
+    LayerStack layers(&owner);
+    layers.setChartSize(chartSize(state));
+    layers.image();
+    bool red = false;
+    for (auto _ : state) {
+        layers.find<PaintBasicWidget>()->setOddColor((red = !red) ? Qt::red : Qt::green);
+        benchmark::DoNotOptimize(layers.image().constBits());
+    }
+}
+BENCHMARK(changeAndCompose)->Apply(chartSizes);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
