@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Builds the project and runs every test: with shared libraries, then with static ones under AddressSanitizer and
+# UndefinedBehaviorSanitizer.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/setup.sh xvfb xauth clang-format fonts-noto-cjk
+scripts/format.sh --check
+for preset in dev asan; do
+  cmake --preset "$preset"
+  cmake --build --preset "$preset"
+  ctest --preset "$preset" -j "$(nproc)"
+done
