@@ -19,7 +19,14 @@ void LayerPainter::paintEvent(QPaintEvent* event)
     if (isStale())
         render();
     Q_EMIT sigPaintEventUpdated();
-    QLabel::paintEvent(event);
+    paintStored(event);
+}
+
+/// Not as the label's style would: a style sheet of the host, or a host that is disabled, must not get into the chart.
+void LayerPainter::paintStored(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, pixmap(Qt::ReturnByValue));
 }
 
 bool LayerPainter::sourceChanged() const
@@ -32,7 +39,7 @@ void LayerPainter::render()
     m_renderedSize = size();
     QPixmap layer(size());
     layer.fill(Qt::transparent);
-    bool drawn = true;
+    bool drawn = false; // nothing to draw on: the layer keeps its picture
     if (!layer.isNull()) {
         QPainter painter(&layer);
         drawn = draw(painter, layer.size());

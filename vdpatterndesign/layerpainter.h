@@ -31,6 +31,9 @@ protected:
     /// leave the layer with the picture it had.
     virtual bool draw(QPainter& painter, const QSize& size) = 0;
 
+    /// Paints the layer's picture.
+    virtual void paintStored(QPaintEvent* event);
+
     /// Whether anything that the layer is drawn from besides its own fields and its size has changed since it
     /// was last drawn. Asked at every paint.
     virtual bool sourceChanged() const;

@@ -272,7 +272,7 @@ void PublicSettingBox::setData(const PublicChartData& data)
     d->brightness.entry->setProperty("lastValue", d->brightness.entry->value());
     d->borderSwitch->setChecked(data.showOutBorder);
     const QColor color = toQColor(data.outBorderColor);
-    if (color != swatchColor(d->borderColor))
+    if (color != d->borderSwatch.color())
         d->showBorderColor(color);
 }
 

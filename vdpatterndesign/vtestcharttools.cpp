@@ -21,6 +21,7 @@
 #include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -168,6 +169,7 @@ void VTestChartTools::Impl::createSaveBar()
     replaceApply->setEnabled(true);
 
     auto* layout = new QHBoxLayout(saveBar);
+    layout->setContentsMargins(9, 0, 9, 0);
     layout->addStretch();
     for (QPushButton* button : {cancelButton, addConfirm, replaceConfirm, replaceApply})
         layout->addWidget(button, 0, Qt::AlignVCenter);
@@ -370,13 +372,15 @@ void VTestChartTools::Impl::write(const QImage& image, const QString& path,
 
 void VTestChartTools::Impl::chartWritten(EditType type, const QString& path)
 {
-    const QString superseded = lastSavePath; // the host may name the new chart while it is told of it
+    const QString superseded = lastSavePath;      // the host may name the new chart while it is told of it
+    const QPointer<VTestChartTools> alive(owner); // or delete the tool
     owner->getTestChartToolsData();
     owner->updateShowSaveBtnStatus(false);
     Q_EMIT owner->sigSave(record);
-    Q_EMIT owner->sigTestToolEditDone(owner->getTestChartToolsData(), path, type);
+    if (alive)
+        Q_EMIT owner->sigTestToolEditDone(owner->getTestChartToolsData(), path, type);
     qDebug() << Q_FUNC_INFO << "testChartImage Folder Generated success:" << path;
-    if (type == ReplaceConfirm || type == ReplaceApply)
+    if (alive && (type == ReplaceConfirm || type == ReplaceApply))
         scheduleFileDeletion(superseded, path);
 }
 

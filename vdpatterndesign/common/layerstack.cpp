@@ -46,6 +46,7 @@ LayerStack::LayerStack(QWidget* owner)
         m_painters.push_back(layer.create());
         cell->addWidget(m_painters.back(), 0, 0);
         m_painters.back()->raise();
+        m_painters.back()->setAttribute(Qt::WA_NoSystemBackground); // nor one of a host's style sheet
     }
 }
 
