@@ -55,7 +55,7 @@ private:
         QString name;
         while (m_xml.readNextStartElement()) {
             if (m_xml.name() == QLatin1String("name"))
-                name = m_xml.readElementText();
+                name = readText();
             else if (m_xml.name() == QLatin1String("message"))
                 readMessage(name);
             else
@@ -69,7 +69,7 @@ private:
         QString translation;
         while (m_xml.readNextStartElement()) {
             if (m_xml.name() == QLatin1String("source"))
-                source = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+                source = readText();
             else if (m_xml.name() == QLatin1String("translation"))
                 translation = readTranslation();
             else
@@ -82,9 +82,29 @@ private:
     QString readTranslation()
     {
         const QString type = m_xml.attributes().value(QLatin1String("type")).toString();
-        const QString text = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        const QString text = readText();
         const bool retired = type == QLatin1String("obsolete") || type == QLatin1String("vanished");
         return retired ? QString() : text;
+    }
+
+    /// The text of the current element and of those in it. Qt's own function calls itself for each of them,
+    /// and a hostile file is nested deeply enough to exhaust the stack.
+    QString readText()
+    {
+        QString text;
+        for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
+            switch (m_xml.readNext()) {
+            case QXmlStreamReader::StartElement:
+                ++depth;
+                break;
+            case QXmlStreamReader::EndElement:
+                --depth;
+                break;
+            default:
+                text += m_xml.text();
+            }
+        }
+        return text;
     }
 
     QXmlStreamReader m_xml;

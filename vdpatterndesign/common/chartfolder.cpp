@@ -4,6 +4,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 namespace vardeno::testcharttools {
 
@@ -39,12 +40,12 @@ std::vector<QString> allFilePaths(const QString& dir)
 
 bool mayRemoveChartFolder(const QString& folder, const QString& replacement, const QString& saveRoot)
 {
-    const QFileInfo info(folder);
-    if (!info.isDir() || info.isSymLink() || QDir(folder).isRoot() || !QFileInfo(replacement).isFile())
+    const QFileInfo info(QDir::cleanPath(folder)); // a link with a slash behind it is none
+    if (!info.isDir() || info.isSymLink() || !QFileInfo(replacement).isFile())
         return false;
     const QString target = info.canonicalFilePath();
     return !holds(target, canonical(replacement)) && !holds(target, canonical(saveRoot)) &&
-           !holds(target, canonical(QDir::homePath())) && !QDir(target).isRoot();
+           !holds(target, canonical(QDir::homePath())) && QStorageInfo(target).rootPath() != target;
 }
 
 void removeChartFolder(const QString& path, const QString& replacement, const QString& saveRoot)

@@ -11,13 +11,20 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-constexpr char paintedColor[] = "paintedColor";
+constexpr char paintedColor[] = "paintedColor"; ///< what was painted
+constexpr char shownColor[] = "shownColor";     ///< what a picture's pixel keeps of it
 constexpr QSize disabledSize(40, 20);
 
 void setIconPixmap(QPushButton* button, const QPixmap& pixmap)
 {
     button->setIcon(QIcon(pixmap));
     button->setIconSize(pixmap.size());
+}
+
+QColor centreColor(const QPushButton* button)
+{
+    const QImage image = button->icon().pixmap(button->iconSize()).toImage();
+    return image.isNull() ? QColor() : image.pixelColor(image.width() / 2, image.height() / 2);
 }
 
 QPixmap disabledPixmap()
@@ -48,6 +55,7 @@ void paintSwatch(QPushButton* button, const QColor& color)
     painter.end();
     setIconPixmap(button, pixmap);
     button->setProperty(paintedColor, color);
+    button->setProperty(shownColor, centreColor(button));
 }
 
 void paintDisabledSwatch(QPushButton* button)
@@ -57,13 +65,10 @@ void paintDisabledSwatch(QPushButton* button)
 
 QColor swatchColor(const QPushButton* button)
 {
-    const QImage image = button->icon().pixmap(button->iconSize()).toImage();
-    if (image.isNull())
-        return {};
-    const QColor shown = image.pixelColor(image.width() / 2, image.height() / 2);
-    const auto painted = button->property(paintedColor).value<QColor>();
-    const bool same = painted.isValid() && qPremultiply(painted.rgba()) == qPremultiply(shown.rgba());
-    return same ? painted : shown;
+    const QColor shown = centreColor(button);
+    return shown.isValid() && shown == button->property(shownColor).value<QColor>()
+               ? button->property(paintedColor).value<QColor>()
+               : shown;
 }
 
 SwitchedSwatch::SwitchedSwatch(QPushButton* button, const QColor& kept)
