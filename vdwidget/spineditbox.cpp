@@ -8,6 +8,8 @@ SpinEditBox::SpinEditBox(QWidget* parent)
     setKeyboardTracking(false);
     setCorrectionMode(QAbstractSpinBox::CorrectToPreviousValue);
     setAccelerated(true);
+    // A cleared box keeps its suffix alone when Enter ends the edit.
+    connect(this, &QAbstractSpinBox::editingFinished, this, [this] { setValue(value()); });
     connect(this, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &SpinEditBox::valueChanged);
 }
 
