@@ -1,0 +1,199 @@
+#include "chartfolderlist.h"
+#include "mainwindow.h"
+#include "testcase.h"
+
+#include <chartrecordfile.h>
+#include <spineditbox.h>
+#include <translatemanager1.h>
+
+#include <QAction>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStackedWidget>
+
+using namespace vardeno::testcharttools;
+
+/// The reference host as its user sees it: every step goes through actions, buttons and keys.
+class TestChartDesk : public TestCase
+{
+    Q_OBJECT
+
+private:
+    static QPushButton* button(MainWindow& window, const QString& text)
+    {
+        const auto buttons = window.editor()->findChildren<QPushButton*>();
+        for (QPushButton* candidate : buttons) {
+            if (candidate->isVisible() && candidate->text() == text)
+                return candidate;
+        }
+        return nullptr;
+    }
+
+    static bool click(MainWindow& window, const QString& text)
+    {
+        const auto ready = [&] { return button(window, text) && button(window, text)->isEnabled(); };
+        if (!QTest::qWaitFor(ready))
+            return false;
+        QTest::mouseClick(button(window, text), Qt::LeftButton);
+        return true;
+    }
+
+    static bool trigger(MainWindow& window, const QString& text)
+    {
+        const auto actions = window.findChildren<QAction*>();
+        for (QAction* action : actions) {
+            if (action->text() == text && action->isEnabled()) {
+                action->trigger();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    static bool listShown(MainWindow& window)
+    {
+        return qobject_cast<QStackedWidget*>(window.centralWidget())->currentIndex() == 0;
+    }
+
+    /// The editor's entry for the cabinet rows.
+    static SpinEditBox* rowEntry(MainWindow& window)
+    {
+        const auto entries = window.editor()->findChildren<SpinEditBox*>();
+        for (SpinEditBox* entry : entries) {
+            if (entry->maximum() == 100 && entry->minimum() == 1)
+                return entry;
+        }
+        return nullptr;
+    }
+
+    static bool addChart(MainWindow& window)
+    {
+        return trigger(window, QStringLiteral("New chart")) && click(window, QStringLiteral("Confirm")) &&
+               QTest::qWaitFor([&] { return listShown(window); });
+    }
+
+private Q_SLOTS:
+    void addedChartIsListedWithItsRecord()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(addChart(window));
+
+        const QFileInfoList charts = ChartFolderList::charts(folder.path());
+        QCOMPARE(charts.size(), 1);
+        QCOMPARE(charts.first().fileName(), QStringLiteral("TestImage1.png"));
+        QCOMPARE(QImage(charts.first().filePath()).size(), QSize(1920, 1080));
+        QCOMPARE(window.findChild<QListWidget*>(QStringLiteral("chartList"))->count(), 1);
+
+        const auto reading = ChartRecordFile::read(ChartFolderList::recordPath(charts.first().filePath()));
+        QCOMPARE(reading.problems, QStringList());
+        QCOMPARE(reading.record.publicData.outBorderWidth, 2);
+        QCOMPARE(int(reading.record.basicData.colorStripeColors.size()), 5);
+    }
+
+    void numbersGoOn()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(addChart(window));
+        QVERIFY(addChart(window));
+        QCOMPARE(ChartFolderList::nextNumber(folder.path()), 3);
+    }
+
+    void editedChartReplacesTheOldOne()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(addChart(window));
+        const QString first = ChartFolderList::charts(folder.path()).first().filePath();
+        QTest::qWait(1100); // the folder of the second chart is named by another second
+
+        auto* list = window.findChild<QListWidget*>(QStringLiteral("chartList"));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+        QVERIFY(trigger(window, QStringLiteral("Edit chart")));
+        QTRY_VERIFY(button(window, QStringLiteral("Apply"))->isEnabled());
+        SpinEditBox* rows = rowEntry(window);
+        rows->setFocus();
+        rows->selectAll();
+        QTest::keyClicks(rows, QStringLiteral("4"));
+        QTest::keyClick(rows, Qt::Key_Return);
+        QVERIFY(click(window, QStringLiteral("Confirm")));
+        QTRY_VERIFY(listShown(window));
+        QCOMPARE(list->count(), 1);
+
+        QTRY_VERIFY_WITH_TIMEOUT(!QFileInfo::exists(first), 5000);
+        const QFileInfoList charts = ChartFolderList::charts(folder.path());
+        QCOMPARE(charts.size(), 1);
+        const auto reading = ChartRecordFile::read(ChartFolderList::recordPath(charts.first().filePath()));
+        QCOMPARE(reading.record.publicData.boxRow, 4);
+    }
+
+    void failureNamesTheFile()
+    {
+        QTemporaryDir folder;
+        QFile blocker(folder.filePath(QStringLiteral("charts")));
+        QVERIFY(blocker.open(QIODevice::WriteOnly)); // a file where the folder would have to be
+        MainWindow window(blocker.fileName());
+        window.show();
+        QVERIFY(trigger(window, QStringLiteral("New chart")));
+        QVERIFY(click(window, QStringLiteral("Confirm")));
+
+        QTRY_VERIFY(window.findChild<QMessageBox*>());
+        auto* box = window.findChild<QMessageBox*>();
+        QVERIFY(box->informativeText().startsWith(blocker.fileName() + QLatin1Char('/')));
+        QVERIFY(box->informativeText().endsWith(QStringLiteral("/TestImage1.png")));
+        QVERIFY(!listShown(window));
+        box->close();
+    }
+
+    void damagedRecordIsExplained()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(addChart(window));
+        const QString image = ChartFolderList::charts(folder.path()).first().filePath();
+        QFile record(ChartFolderList::recordPath(image));
+        QVERIFY(record.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        record.write("{\"format\": \"testchart\", \"version\": 1, \"publicData\": {\"boxRow\": 500}}");
+        record.close();
+
+        window.findChild<QListWidget*>(QStringLiteral("chartList"))->setCurrentRow(0);
+        QVERIFY(trigger(window, QStringLiteral("Edit chart")));
+        QTRY_VERIFY(window.findChild<QMessageBox*>());
+        QVERIFY(window.findChild<QMessageBox*>()->informativeText().contains(
+            QStringLiteral("publicData.boxRow: 500 is not in 1..100")));
+        QVERIFY(listShown(window));
+    }
+
+    void cancelLeavesNothingBehind()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(trigger(window, QStringLiteral("New chart")));
+        QVERIFY(click(window, QStringLiteral("Cancel")));
+        QVERIFY(listShown(window));
+        QCOMPARE(ChartFolderList::charts(folder.path()).size(), 0);
+    }
+
+    void languageIsSwitchedInTheRunningWindow()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.editor()->loadLanguageFiles({QStringLiteral(":/translations/zh_CN.ts")});
+        window.show();
+        window.switchLanguage(QStringLiteral("zh_CN"));
+        QVERIFY(trigger(window, QStringLiteral("新建测试图")));
+        QVERIFY(button(window, QStringLiteral("确定")));
+        window.switchLanguage(QStringLiteral("en"));
+        QVERIFY(button(window, QStringLiteral("Confirm")));
+    }
+};
+
+VD_TEST_MAIN(TestChartDesk)
+#include "tst_chartdesk.moc"

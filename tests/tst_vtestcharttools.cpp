@@ -1,0 +1,813 @@
+#include "charttool.h"
+
+#include <propertybox.h>
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QMetaType>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QScrollArea>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace charttool;
+
+namespace {
+
+/// What a host does to a tool while it is busy.
+using Moment = std::function<bool(VTestChartTools& tool)>;
+
+RgbaColor randomColor(QRandomGenerator& random)
+{
+    return {random.bounded(256), random.bounded(256), random.bounded(256), random.bounded(256)};
+}
+
+std::map<int, QColor> randomColors(QRandomGenerator& random)
+{
+    std::map<int, QColor> colors;
+    const int count = random.bounded(8);
+    for (int row = 0; row < count; ++row)
+        colors[row] = toQColor(randomColor(random));
+    return colors;
+}
+
+/// Any record whose values the panels can show.
+TestChartToolsData randomRecord(quint32 seed)
+{
+    QRandomGenerator random(seed);
+    const auto flag = [&random] { return random.bounded(2) == 1; };
+    TestChartToolsData record;
+    record.basicData.colorStripeColors = randomColors(random);
+    record.basicData.gradientColors = randomColors(random);
+    record.basicData.oddColor = randomColor(random);
+    record.basicData.evenColor = randomColor(random);
+    record.basicData.chessChecked = flag();
+    record.basicData.colorBarChecked = !record.basicData.chessChecked;
+    record.basicData.gradientChecked = flag();
+    record.publicData.brightness = random.bounded(101);
+    record.publicData.resolutionWidth = random.bounded(16, 4321);
+    record.publicData.resolutionHeight = random.bounded(16, 1200);
+    record.publicData.boxRow = random.bounded(1, 101);
+    record.publicData.boxCol = random.bounded(1, 101);
+    record.publicData.showOutBorder = flag();
+    record.publicData.outBorderWidth = random.bounded(1, 101);
+    record.publicData.outBorderColor = randomColor(random);
+    return record;
+}
+
+TestChartToolsData stripesRecord()
+{
+    TestChartToolsData record = smallRecord();
+    record.basicData.chessChecked = false;
+    record.basicData.colorBarChecked = true;
+    record.basicData.colorStripeColors = {{0, Qt::blue}, {1, Qt::darkGreen}, {2, Qt::gray}};
+    return record;
+}
+
+std::map<int, QColor> defaultStripes()
+{
+    return {{0, Qt::yellow}, {1, Qt::green}, {2, Qt::cyan}, {3, Qt::magenta}, {4, Qt::red}};
+}
+
+QRect outerMargins(const QLayout* layout)
+{
+    const QMargins margins = layout->contentsMargins();
+    return {margins.left(), margins.top(), margins.right(), margins.bottom()};
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Moment)
+
+class TestVTestChartTools : public TestCase
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        log().allowWarning(QStringLiteral("^This plugin does not support"));
+    }
+
+    void cleanup()
+    {
+        qApp->setStyleSheet(QString());
+        TestCase::cleanup();
+    }
+
+    void fixedSizes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("save bar") << "saveWidget" << QByteArray("QWidget") << QSize(1199, 36);
+        QTest::newRow("scroll area") << "ScrollArea" << QByteArray("QScrollArea") << QSize(410, 802);
+        QTest::newRow("mask") << "maskWidget" << QByteArray("QWidget") << QSize(410, 802);
+        QTest::newRow("save button") << "saveButton" << QByteArray("QPushButton") << QSize(80, 20);
+        QTest::newRow("odd colour") << "oddColorPushButton" << QByteArray("QPushButton") << QSize(16, 16);
+    }
+
+    void fixedSizes()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, type);
+        QFETCH(QSize, size);
+        VTestChartTools tool;
+        const auto* widget = tool.findChild<QWidget*>(name);
+        QVERIFY(widget);
+        QVERIFY(widget->inherits(type));
+        QCOMPARE(widget->minimumSize(), size);
+        QCOMPARE(widget->maximumSize(), size);
+    }
+
+    void editButtons_data()
+    {
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("cancel") << 1 << "CancleButton"
+                                << "Cancel";
+        QTest::newRow("add confirm") << 2 << "ADDButton"
+                                     << "Confirm";
+        QTest::newRow("replace confirm") << 3 << "ADDButton"
+                                         << "Confirm";
+        QTest::newRow("replace apply") << 4 << "ADDButton"
+                                       << "Apply";
+    }
+
+    void editButtons()
+    {
+        QFETCH(int, position);
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        VTestChartTools tool;
+        const auto* bar = qobject_cast<QHBoxLayout*>(User(tool).named<QWidget>("saveWidget")->layout());
+        QVERIFY(bar);
+        QCOMPARE(bar->count(), 5);
+        QLayoutItem* const item = bar->itemAt(position);
+        QCOMPARE(item->alignment(), Qt::Alignment(Qt::AlignVCenter));
+        const auto* button = qobject_cast<QPushButton*>(item->widget());
+        QVERIFY(button);
+        QCOMPARE(button->objectName(), name);
+        QCOMPARE(button->text(), text);
+        QCOMPARE(button->minimumSize(), QSize(65, 28));
+        QCOMPARE(button->maximumSize(), QSize(65, 28));
+        QVERIFY(button->isEnabled());
+    }
+
+    void saveBarStartsWithTheStretch()
+    {
+        VTestChartTools tool;
+        const User user(tool);
+        const QLayout* const bar = user.named<QWidget>("saveWidget")->layout();
+        QVERIFY(bar->itemAt(0)->spacerItem());
+        QVERIFY(bar->itemAt(0)->expandingDirections().testFlag(Qt::Horizontal));
+        QCOMPARE(user.saveButton()->parentWidget(), user.named<QWidget>("saveWidget"));
+        QCOMPARE(bar->indexOf(user.saveButton()), -1);
+    }
+
+    void columns()
+    {
+        VTestChartTools tool;
+        User user(tool);
+        QCOMPARE(tool.objectName(), QStringLiteral("globalwidget"));
+        QVERIFY(user.show());
+        QCOMPARE(tool.size(), QSize(1610, 803));
+        QCOMPARE(tool.minimumSize(), tool.maximumSize());
+        QCOMPARE(tool.layout()->spacing(), 0);
+        QCOMPARE(outerMargins(tool.layout()), QRect(0, 0, 0, 0));
+
+        const QWidget* const view = user.preview()->parentWidget();
+        QCOMPARE(view->minimumSize(), QSize(1199, 766));
+        QCOMPARE(view->maximumSize(), QSize(1199, 766));
+        const QPoint viewPosition = view->mapTo(&tool, QPoint());
+        const QPoint barPosition = user.named<QWidget>("saveWidget")->mapTo(&tool, QPoint());
+        QCOMPARE(viewPosition.x(), 0);
+        QVERIFY(barPosition.y() >= viewPosition.y() + 766);
+        QCOMPARE(barPosition.x(), 0);
+        const QRect settings(user.named<QWidget>("ScrollArea")->mapTo(&tool, QPoint()), QSize(410, 802));
+        QVERIFY(settings.left() >= 1199);
+        QVERIFY(tool.rect().contains(settings));
+    }
+
+    void settingsColumn()
+    {
+        VTestChartTools tool;
+        const User user(tool);
+        const auto* area = user.named<QScrollArea>("ScrollArea");
+        QVERIFY(area->widgetResizable());
+        QWidget* const content = user.named<QWidget>("scrollWidget");
+        QCOMPARE(area->widget(), content);
+        QVERIFY(content->testAttribute(Qt::WA_StyledBackground));
+        QVERIFY(qobject_cast<QVBoxLayout*>(content->layout()));
+        QCOMPARE(content->layout()->spacing(), 0);
+        QCOMPARE(outerMargins(content->layout()), QRect(0, 0, 0, 0));
+        QVERIFY(content->layout()->itemAt(content->layout()->count() - 1)->spacerItem());
+
+        QCOMPARE(user.mask()->parentWidget(), content);
+        QCOMPARE(content->layout()->indexOf(user.mask()), -1);
+        QVERIFY(user.mask()->testAttribute(Qt::WA_StyledBackground));
+        QVERIFY(user.mask()->isHidden());
+    }
+
+    void sections()
+    {
+        VTestChartTools tool;
+        const User user(tool);
+        auto* section = user.named<PropertyBox>("basePropertyBox");
+        QVERIFY(section);
+        QCOMPARE(user.named<QWidget>("scrollWidget")->layout()->indexOf(section), 0);
+        QCOMPARE(section->titleText(), QStringLiteral("Layer settings"));
+        QCOMPARE(section->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred));
+    }
+
+    void items_data()
+    {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QByteArray>("panel");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<int>("height");
+        QTest::newRow("basic") << "basicSetting" << QByteArray("BasicSettingBox") << 0 << 140;
+        QTest::newRow("public") << "publicSetting" << QByteArray("PublicSettingBox") << 1 << 160;
+    }
+
+    void items()
+    {
+        QFETCH(QString, item);
+        QFETCH(QByteArray, panel);
+        QFETCH(int, position);
+        QFETCH(int, height);
+        VTestChartTools tool;
+        auto* section = User(tool).named<PropertyBox>("basePropertyBox");
+        auto* widget = section->findChild<QWidget*>(item);
+        QVERIFY(widget);
+        QCOMPARE(widget->minimumHeight(), height);
+        QCOMPARE(widget->maximumHeight(), height);
+        QCOMPARE(widget->parentWidget()->layout()->indexOf(widget), position);
+        QCOMPARE(widget->layout()->count(), 1);
+        const QString shown =
+            QString::fromLatin1(widget->layout()->itemAt(0)->widget()->metaObject()->className());
+        QCOMPARE(shown, QLatin1String("vardeno::testcharttools::") + QLatin1String(panel));
+    }
+
+    void paintersLieInOneCell()
+    {
+        VTestChartTools tool;
+        const User user(tool);
+        const auto* cell = qobject_cast<QGridLayout*>(user.layerView()->layout());
+        QVERIFY(cell);
+        QCOMPARE(outerMargins(cell), QRect(0, 0, 0, 0));
+        QCOMPARE(cell->rowCount(), 1);
+        QCOMPARE(cell->columnCount(), 1);
+
+        QStringList bottomToTop;
+        for (QObject* child : user.layerView()->children()) {
+            if (auto* layer = qobject_cast<LayerPainter*>(child)) {
+                QVERIFY(cell->indexOf(layer) >= 0);
+                bottomToTop.append(
+                    QString::fromLatin1(layer->metaObject()->className()).section(QLatin1String("::"), -1));
+            }
+        }
+        QCOMPARE(bottomToTop,
+                 QStringList({"PaintBasicWidget", "PaintPublicBrightWidget", "PaintPublicWidget"}));
+    }
+
+    void layerViewIsNeverShown()
+    {
+        VTestChartTools tool;
+        User user(tool);
+        QVERIFY(user.show());
+        QVERIFY(!user.layerView()->isVisible());
+        for (const auto* layer : user.layerView()->findChildren<LayerPainter*>())
+            QVERIFY(!layer->isVisible());
+        QCOMPARE(user.layerView()->minimumSize(), QSize(1920, 1080));
+        QCOMPARE(user.layerView()->maximumSize(), QSize(1920, 1080));
+    }
+
+    void fittedPreview_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<QRect>("fitted");
+        QTest::newRow("Full HD") << 1920 << 1080 << QRect(0, 46, 1199, 674);
+        QTest::newRow("tall") << 1080 << 1920 << QRect(384, 0, 430, 766);
+        QTest::newRow("smallest, enlarged") << 16 << 16 << QRect(216, 0, 766, 766);
+        QTest::newRow("largest") << 4320 << 4320 << QRect(216, 0, 766, 766);
+        QTest::newRow("widest ribbon") << 4320 << 16 << QRect(0, 381, 1199, 4);
+        QTest::newRow("tallest ribbon") << 16 << 4320 << QRect(598, 0, 2, 766);
+        QTest::newRow("size of the view") << 1199 << 766 << QRect(0, 0, 1199, 766);
+    }
+
+    void fittedPreview()
+    {
+        QFETCH(int, width);
+        QFETCH(int, height);
+        QFETCH(QRect, fitted);
+        VTestChartTools tool;
+        TestChartToolsData record;
+        record.publicData.resolutionWidth = width;
+        record.publicData.resolutionHeight = height;
+        tool.setTestChartToolsData(record);
+
+        const User user(tool);
+        QCOMPARE(user.preview()->geometry(), fitted);
+        QVERIFY(user.preview()->hasScaledContents());
+        QCOMPARE(user.shownChart().size(), QSize(width, height));
+    }
+
+    void typedResolutionRefits()
+    {
+        VTestChartTools tool;
+        User user(tool);
+        QVERIFY(user.show());
+        QCOMPARE(user.preview()->geometry(), QRect(0, 46, 1199, 674));
+
+        user.enter(user.entry("Resolution", 0), "1080");
+        QVERIFY(user.settle());
+        user.enter(user.entry("Resolution", 1), "1920");
+        QVERIFY(user.settle());
+        QCOMPARE(user.preview()->geometry(), QRect(384, 0, 430, 766));
+        QCOMPARE(user.layerView()->size(), QSize(1080, 1920));
+        QCOMPARE(user.shownChart().size(), QSize(1080, 1920));
+        QCOMPARE(tool.getTestChartToolsData().publicData.resolutionHeight, 1920);
+    }
+
+    void resolutionResizesTheLayers()
+    {
+        VTestChartTools tool;
+        const User user(tool);
+        tool.setTestChartToolsData(smallRecord());
+        for (const auto* layer : user.layerView()->findChildren<LayerPainter*>()) {
+            QCOMPARE(layer->size(), QSize(160, 90));
+            QCOMPARE(layerImage(*layer).size(), QSize(160, 90));
+        }
+    }
+
+    void showAndResizeRefit_data()
+    {
+        QTest::addColumn<bool>("byShowing");
+        QTest::newRow("show") << true;
+        QTest::newRow("resize") << false;
+    }
+
+    void showAndResizeRefit()
+    {
+        QFETCH(bool, byShowing);
+        VTestChartTools tool;
+        User user(tool);
+        QVERIFY(user.show());
+        if (byShowing)
+            tool.hide();
+        user.preview()->clear();
+        user.preview()->setGeometry(1, 2, 3, 4);
+
+        if (byShowing)
+            tool.show();
+        else
+            tool.setFixedSize(1650, 803);
+        QTRY_COMPARE(user.preview()->geometry(), QRect(0, 46, 1199, 674));
+        QCOMPARE(user.shownChart().size(), QSize(1920, 1080));
+    }
+
+    void previewShowsTheLayers_data()
+    {
+        QTest::addColumn<QVariant>("record");
+        QTest::newRow("default") << QVariant::fromValue(TestChartToolsData());
+        QTest::newRow("small") << QVariant::fromValue(smallRecord());
+        QTest::newRow("stripes with a black remainder") << QVariant::fromValue(stripesRecord());
+        TestChartToolsData dim = smallRecord();
+        dim.publicData.brightness = 50;
+        dim.publicData.outBorderColor = {10, 20, 30, 255};
+        QTest::newRow("dim under a border") << QVariant::fromValue(dim);
+        dim.publicData.brightness = 0;
+        dim.publicData.showOutBorder = false;
+        QTest::newRow("dark") << QVariant::fromValue(dim);
+    }
+
+    void previewShowsTheLayers()
+    {
+        QFETCH(QVariant, record);
+        VTestChartTools tool;
+        User user(tool);
+        QVERIFY(user.show());
+        tool.setTestChartToolsData(record.value<TestChartToolsData>());
+        QVERIFY(user.settle());
+        VD_COMPARE_IMAGES(user.shownChart(), expectedChart(record.value<TestChartToolsData>()));
+    }
+
+    void rowsAndColumnsReachTheChessboard()
+    {
+        VTestChartTools tool;
+        User user(tool);
+        TestChartToolsData record = smallRecord();
+        tool.setTestChartToolsData(record);
+        QVERIFY(user.show());
+        record.publicData.boxRow = 3;
+        record.publicData.boxCol = 5;
+
+        user.enter(user.entry("Box RowColNum", 0), "3");
+        QVERIFY(user.settle());
+        user.enter(user.entry("Box RowColNum", 1), "5");
+        QVERIFY(user.settle());
+        VD_COMPARE_IMAGES(user.shownChart(), expectedChart(record));
+        QCOMPARE(tool.getTestChartToolsData(), record);
+    }
+
+    void gridSlotsTakeSixteenBits()
+    {
+        VTestChartTools tool;
+        tool.setTestChartToolsData(smallRecord());
+        tool.slotUpdateRow(65536 + 3);
+        tool.slotUpdateCol(65536 + 5);
+        TestChartToolsData record = smallRecord();
+        record.publicData.boxRow = 3;
+        record.publicData.boxCol = 5;
+        QImage expected(160, 90, QImage::Format_ARGB32_Premultiplied);
+        fillChess(expected, record);
+        VD_COMPARE_IMAGES(layerImage(*User(tool).painter<PaintBasicWidget>()), expected);
+    }
+
+    void defaultRecordComesBack()
+    {
+        VTestChartTools tool;
+        tool.setTestChartToolsData(TestChartToolsData());
+        const TestChartToolsData back = tool.getTestChartToolsData();
+        const TestChartToolsData expected;
+        QVERIFY(back.basicData.colorStripeColors.empty());
+        QVERIFY(back.basicData.gradientColors.empty());
+        QCOMPARE(back.basicData.oddColor, expected.basicData.oddColor);
+        QCOMPARE(back.basicData.evenColor, expected.basicData.evenColor);
+        QCOMPARE(back.basicData.chessChecked, true);
+        QCOMPARE(back.basicData.colorBarChecked, false);
+        QCOMPARE(back.basicData.gradientChecked, false);
+        QCOMPARE(back.publicData.brightness, 100);
+        QCOMPARE(back.publicData.resolutionWidth, 1920);
+        QCOMPARE(back.publicData.resolutionHeight, 1080);
+        QCOMPARE(back.publicData.boxRow, 9);
+        QCOMPARE(back.publicData.boxCol, 16);
+        QCOMPARE(back.publicData.showOutBorder, true);
+        QCOMPARE(back.publicData.outBorderWidth, 2);
+        QCOMPARE(back.publicData.outBorderColor, expected.publicData.outBorderColor);
+        QCOMPARE(back, expected);
+        QCOMPARE(User(tool).publicPanel()->getData(), expected.publicData);
+    }
+
+    void recordsComeBack_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 12; ++seed)
+            QTest::newRow(qPrintable(QStringLiteral("random record %1").arg(seed))) << seed;
+    }
+
+    void recordsComeBack()
+    {
+        QFETCH(quint32, seed);
+        VTestChartTools tool;
+        const TestChartToolsData first = randomRecord(seed);
+        tool.setTestChartToolsData(first);
+        QCOMPARE(tool.getTestChartToolsData(), first);
+        const TestChartToolsData second = randomRecord(seed + 100);
+        tool.setTestChartToolsData(second);
+        QCOMPARE(tool.getTestChartToolsData(), second);
+        BasicChartData shown;
+        User(tool).basicPanel()->getData(shown);
+        QCOMPARE(shown, second.basicData);
+        QCOMPARE(User(tool).publicPanel()->getData(), second.publicData);
+    }
+
+    void groupsWithoutAPanelComeBack()
+    {
+        VTestChartTools tool;
+        TestChartToolsData record = smallRecord();
+        record.inLineData.circleSize = 77;
+        record.logoData.logoText = "logo";
+        record.selfData.selfText = "text";
+        tool.setTestChartToolsData(record);
+        QCOMPARE(tool.getTestChartToolsData(), record);
+    }
+
+    void listKeysAreRows()
+    {
+        VTestChartTools tool;
+        TestChartToolsData record = smallRecord();
+        record.basicData.colorStripeColors = {{3, Qt::red}, {7, Qt::blue}, {9, Qt::green}};
+        record.basicData.gradientColors = {{-1, Qt::gray}, {5, Qt::black}};
+        tool.setTestChartToolsData(record);
+        const BasicChartData back = tool.getTestChartToolsData().basicData;
+        QCOMPARE(back.colorStripeColors,
+                 (std::map<int, QColor>{{0, Qt::red}, {1, Qt::blue}, {2, Qt::green}}));
+        QCOMPARE(back.gradientColors, (std::map<int, QColor>{{0, Qt::gray}, {1, Qt::black}}));
+    }
+
+    void listKeysAreRowsAfterADeletion()
+    {
+        VTestChartTools tool;
+        User user(tool);
+        tool.setTestChartToolsData(smallRecord());
+        QVERIFY(user.show());
+        user.click(user.colorBar());
+        QVERIFY(user.settle());
+        QCOMPARE(tool.getTestChartToolsData().basicData.colorStripeColors, defaultStripes());
+
+        user.stripeList()->setCurrentRow(1);
+        user.click(user.basicPanel()->findChild<QPushButton*>(QStringLiteral("CancleButton")));
+        QWidget* dialog = nullptr;
+        QTRY_VERIFY((dialog = QApplication::activePopupWidget()));
+        QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("confirmBtn")), Qt::LeftButton);
+        QVERIFY(user.settle());
+        const std::map<int, QColor> remaining = {
+            {0, Qt::yellow}, {1, Qt::cyan}, {2, Qt::magenta}, {3, Qt::red}};
+        QCOMPARE(tool.getTestChartToolsData().basicData.colorStripeColors, remaining);
+    }
+
+    void showForAddKeepsAllButTheStripes()
+    {
+        VTestChartTools tool;
+        TestChartToolsData record = randomRecord(7);
+        record.basicData.colorStripeColors = {{0, Qt::black}};
+        tool.setShowForAdd(true);
+        tool.setTestChartToolsData(record);
+        record.basicData.colorStripeColors = defaultStripes();
+        QCOMPARE(tool.getTestChartToolsData(), record);
+
+        tool.setTestChartToolsData(record); // the list is refilled, not filled up
+        QCOMPARE(tool.getTestChartToolsData(), record);
+    }
+
+    void showForAddPaintsTheDefaultStripes()
+    {
+        VTestChartTools tool;
+        TestChartToolsData record = stripesRecord();
+        tool.setShowForAdd(true);
+        tool.setTestChartToolsData(record);
+        record.basicData.colorStripeColors = defaultStripes();
+        VD_COMPARE_IMAGES(User(tool).shownChart(), expectedChart(record));
+    }
+
+    void hideViewWidget()
+    {
+        VTestChartTools tool;
+        User user(tool);
+        QVERIFY(user.show());
+        QVERIFY(user.preview()->isVisible());
+        tool.hideViewWidget();
+        QVERIFY(!user.preview()->isVisible());
+        QVERIFY(user.preview()->parentWidget()->isVisible());
+    }
+
+    void recordsTravelInQueuedSignals()
+    {
+        VTestChartTools tool;
+        QVERIFY(QMetaType::type("TestChartToolsData") != QMetaType::UnknownType);
+        QVERIFY(QMetaType::type("EditType") != QMetaType::UnknownType);
+        tool.setTestChartToolsData(stripesRecord());
+        tool.updateShowSaveBtnStatus(false);
+        TestChartToolsData received;
+        int type = -1;
+        QObject::connect(
+            &tool, &VTestChartTools::sigTestToolEditDone, &tool,
+            [&](const TestChartToolsData& data, const QString&, EditType edit) {
+                received = data;
+                type = edit;
+            },
+            Qt::QueuedConnection);
+        tool.slotReplaceConfirmButtonClicked();
+        QCOMPARE(type, -1);
+        QTRY_COMPARE(type, int(ReplaceConfirmOnlyCancle));
+        QCOMPARE(received, stripesRecord());
+    }
+
+    void toolsStandSideBySide()
+    {
+        QWidget host;
+        auto* row = new QHBoxLayout(&host);
+        auto* left = new VTestChartTools(&host);
+        auto* right = new VTestChartTools(&host);
+        row->addWidget(left);
+        row->addWidget(right);
+        User leftUser(*left);
+        const User rightUser(*right);
+        TestChartToolsData tall = stripesRecord();
+        tall.publicData.resolutionWidth = 90;
+        tall.publicData.resolutionHeight = 160;
+        right->setTestChartToolsData(tall);
+        left->setTestChartToolsData(smallRecord());
+        QVERIFY(leftUser.show());
+        QVERIFY(User(*right).settle());
+        VD_COMPARE_IMAGES(leftUser.shownChart(), expectedChart(smallRecord()));
+        VD_COMPARE_IMAGES(rightUser.shownChart(), expectedChart(tall));
+
+        leftUser.basicPanel()->setColor(Qt::blue, QStringLiteral("odd"));
+        QVERIFY(leftUser.mask()->isVisible());
+        QVERIFY(!rightUser.mask()->isVisible());
+        QVERIFY(leftUser.settle());
+        QCOMPARE(right->getTestChartToolsData(), tall);
+        QCOMPARE(left->getTestChartToolsData().basicData.oddColor, toRgbaColor(Qt::blue));
+    }
+
+    void toolsSaveSideBySide()
+    {
+        VTestChartTools first;
+        VTestChartTools second;
+        Host firstHost(first);
+        Host secondHost(second);
+        first.setTestChartToolsData(smallRecord());
+        second.setTestChartToolsData(stripesRecord());
+        int number = 0;
+        for (VTestChartTools* tool : {&first, &second}) {
+            tool->setSavePath(m_folder.filePath(QStringLiteral("side by side")), QString());
+            tool->setTestImageNum(++number);
+            tool->slotAddConfirmButtonClicked();
+        }
+        QVERIFY(firstHost.hears(2));
+        QVERIFY(secondHost.hears(2));
+        VD_COMPARE_IMAGES(QImage(firstHost.last().path), expectedChart(smallRecord()));
+        VD_COMPARE_IMAGES(QImage(secondHost.last().path), expectedChart(stripesRecord()));
+    }
+
+    void neverShownToolSaves()
+    {
+        VTestChartTools tool;
+        Host host(tool);
+        tool.setSavePath(m_folder.filePath(QStringLiteral("never shown")), QString());
+        tool.setShowForAdd(true);
+        User(tool).addConfirm()->click();
+        QVERIFY(host.hears(2));
+        TestChartToolsData record;
+        record.publicData.outBorderWidth = 6; // what the panel shows before a record is pushed
+        QCOMPARE(host.last().record, record);
+        VD_COMPARE_IMAGES(QImage(host.last().path), expectedChart(record));
+    }
+
+    void hostMayDeleteTheToolAtAnyMoment_data()
+    {
+        QTest::addColumn<Moment>("moment");
+        QTest::newRow("while a chart is written") << Moment([](VTestChartTools& tool) {
+            tool.slotAddConfirmButtonClicked();
+            return true;
+        });
+        QTest::newRow("a chart is written, its report not yet delivered")
+            << Moment([](VTestChartTools& tool) {
+                   tool.slotAddConfirmButtonClicked();
+                   QThread::msleep(300);
+                   return true;
+               });
+        QTest::newRow("a change has just been made") << Moment([](VTestChartTools& tool) {
+            User(tool).basicPanel()->setColor(Qt::blue, QStringLiteral("odd"));
+            return User(tool).mask()->isVisible();
+        });
+        QTest::newRow("the controls are locked") << Moment([](VTestChartTools& tool) {
+            User(tool).basicPanel()->setColor(Qt::blue, QStringLiteral("odd"));
+            QTest::qWait(30);
+            return true;
+        });
+        QTest::newRow("a removal is pending") << Moment([](VTestChartTools& tool) {
+            Host host(tool);
+            tool.setCurrentEditNum(QStringLiteral("new.png"));
+            tool.slotReplaceApplyButtonClicked();
+            return host.hears(2) && QTest::qWaitFor([&] { return !deletionTimers(tool).isEmpty(); });
+        });
+        QTest::newRow("the confirmation to delete a colour is open") << Moment([](VTestChartTools& tool) {
+            User(tool).basicPanel()->findChild<QPushButton*>(QStringLiteral("CancleButton"))->click();
+            return QApplication::activePopupWidget() != nullptr;
+        });
+    }
+
+    void hostMayDeleteTheToolAtAnyMoment()
+    {
+        QFETCH(Moment, moment);
+        const QString root = m_folder.filePath(QString::fromLatin1(QTest::currentDataTag()));
+        const QString replaced = root + QLatin1String("/old/old.png");
+        QVERIFY(writeFile(replaced, "old"));
+        auto tool = std::make_unique<VTestChartTools>();
+        tool->setSavePath(root, QString());
+        tool->setLastSavePath(replaced);
+        tool->setTestChartToolsData(smallRecord());
+        QVERIFY(User(*tool).show());
+
+        QVERIFY(moment(*tool));
+        Host host(*tool);
+        tool.reset();
+        QVERIFY(host.messages.empty());
+        QTest::qWait(150);
+        QVERIFY(QFile::exists(replaced));
+        for (const QString& name : QDir(root).entryList({QStringLiteral("2*")}, QDir::Dirs)) {
+            const QStringList files = QDir(root + QLatin1Char('/') + name).entryList(QDir::Files);
+            QCOMPARE(files.size(), 1);
+            VD_COMPARE_IMAGES(QImage(root + QLatin1Char('/') + name + QLatin1Char('/') + files.first()),
+                              expectedChart(smallRecord()));
+        }
+        if (QWidget* popup = QApplication::activePopupWidget())
+            popup->close();
+    }
+
+    void hostMayDeleteTheToolLater()
+    {
+        QPointer<VTestChartTools> tool = new VTestChartTools;
+        Host host(*tool);
+        host.reaction = [tool](const Host::Message& message) {
+            if (message.signal == QLatin1String("sigTestToolEditDone"))
+                tool->deleteLater();
+        };
+        tool->setTestChartToolsData(smallRecord());
+        tool->setSavePath(m_folder.filePath(QStringLiteral("later")), QString());
+        tool->setCurrentEditNum(QStringLiteral("new.png"));
+        tool->slotReplaceConfirmButtonClicked();
+        QTRY_VERIFY(!tool);
+        QCOMPARE(host.heard(), QStringList({"sigSave", "sigTestToolEditDone"}));
+        QVERIFY(QFile::exists(host.last().path));
+    }
+
+    void hostsLooksStayOutOfTheChart_data()
+    {
+        QTest::addColumn<QString>("styleSheet");
+        QTest::addColumn<bool>("ofApplication");
+        QTest::addColumn<bool>("enabled");
+        const QString backgrounds = QStringLiteral("QWidget { background-color: red; }");
+        const QString paddings = QStringLiteral("QLabel { padding: 7px; border: 2px solid blue; }");
+        QTest::newRow("light palette") << QString() << false << true;
+        QTest::newRow("style sheet with backgrounds") << backgrounds << false << true;
+        QTest::newRow("style sheet with paddings") << paddings << false << true;
+        QTest::newRow("application's style sheet with backgrounds") << backgrounds << true << true;
+        QTest::newRow("application's style sheet with paddings") << paddings << true << true;
+        QTest::newRow("disabled host") << QString() << false << false;
+    }
+
+    void hostsLooksStayOutOfTheChart()
+    {
+        QFETCH(QString, styleSheet);
+        QFETCH(bool, ofApplication);
+        QFETCH(bool, enabled);
+        QWidget host;
+        host.setPalette(QPalette(Qt::white, Qt::white));
+        if (ofApplication)
+            qApp->setStyleSheet(styleSheet);
+        else
+            host.setStyleSheet(styleSheet);
+        VTestChartTools tool(&host);
+        host.setEnabled(enabled);
+        tool.setTestChartToolsData(stripesRecord());
+        Host ears(tool);
+        tool.setSavePath(m_folder.filePath(QString::fromLatin1(QTest::currentDataTag())), QString());
+        tool.slotAddConfirmButtonClicked();
+        QVERIFY(ears.hears(2));
+        VD_COMPARE_IMAGES(QImage(ears.last().path), expectedChart(stripesRecord()));
+        VD_COMPARE_IMAGES(User(tool).shownChart(), expectedChart(stripesRecord()));
+    }
+
+    void hostMayDeleteTheToolWhileItIsTold_data()
+    {
+        QTest::addColumn<int>("edit");
+        QTest::addColumn<QString>("root");
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<QStringList>("heard");
+        const QStringList edited = {"sigTestToolEditDone"};
+        QTest::newRow("cancelled") << int(Cancle) << ""
+                                   << "sigTestToolEditDone" << edited;
+        QTest::newRow("nothing new to save") << int(ReplaceConfirmOnlyCancle) << ""
+                                             << "sigTestToolEditDone" << edited;
+        QTest::newRow("not written") << int(AddConfirm) << "file"
+                                     << "sigFail" << QStringList("sigFail");
+        QTest::newRow("written") << int(ReplaceConfirm) << "charts"
+                                 << "sigSave" << QStringList("sigSave");
+        QTest::newRow("written and done")
+            << int(ReplaceConfirm) << "charts"
+            << "sigTestToolEditDone" << QStringList({"sigSave", "sigTestToolEditDone"});
+    }
+
+    void hostMayDeleteTheToolWhileItIsTold()
+    {
+        QFETCH(int, edit);
+        QFETCH(QString, root);
+        QFETCH(QString, signal);
+        QFETCH(QStringList, heard);
+        QVERIFY(writeFile(m_folder.filePath(QStringLiteral("file")), "not a folder"));
+        QPointer<VTestChartTools> tool = new VTestChartTools;
+        Host host(*tool);
+        host.reaction = [&](const Host::Message& message) {
+            if (message.signal == signal)
+                delete tool;
+        };
+        tool->setTestChartToolsData(smallRecord());
+        tool->setSavePath(m_folder.filePath(root), QString());
+        tool->setCurrentEditNum(QStringLiteral("new.png"));
+        tool->updateShowSaveBtnStatus(edit != ReplaceConfirmOnlyCancle);
+        if (edit == Cancle)
+            tool->slotCancleButtonClicked();
+        else if (edit == AddConfirm)
+            tool->slotAddConfirmButtonClicked();
+        else
+            tool->slotReplaceConfirmButtonClicked();
+        QTRY_VERIFY(!tool);
+        QCOMPARE(host.heard(), heard);
+    }
+};
+
+VD_TEST_MAIN(TestVTestChartTools)
+#include "tst_vtestcharttools.moc"
