@@ -1,5 +1,6 @@
 // What a change of the chart costs: one layer's render, and the composition of the whole view.
 
+#include "common/cabinetpainter.h"
 #include "common/layerstack.h"
 #include "paintbasicwidget.h"
 #include "paintpublicbrightwidget.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QListWidget>
+#include <QPainter>
 #include <QWidget>
 
 #include <cstring>
@@ -87,6 +89,53 @@ void renderVeil(benchmark::State& state)
         layer.setBrightness(percent = ushort(100 - percent));
 }
 BENCHMARK(renderVeil)->Apply(chartSizes);
+
+/// Cabinet labels in the grid and on the chart of the arguments.
+void labelSizes(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgNames({"width", "height", "rows", "columns"});
+    benchmark->Args({3840, 2160, 9, 16})->Args({4320, 4320, 100, 100});
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
+template <typename Draw>
+void drawLabels(benchmark::State& state, Draw draw)
+{
+    const CabinetGrid grid{chartSize(state), ushort(state.range(2)), ushort(state.range(3))};
+    QPixmap layer(grid.chart);
+    layer.fill(Qt::transparent);
+    QPainter painter(&layer);
+    QFont font = painter.font();
+    font.setPixelSize(fittedLabelSize(20, font, grid));
+    const LabelStyle numbers{1, 0, 0};
+    for (auto _ : state)
+        draw(painter, grid, numbers, font);
+    state.counters["labels"] = grid.rows * grid.columns;
+}
+
+void labelsTogether(benchmark::State& state)
+{
+    drawLabels(state, [](QPainter& painter, const CabinetGrid& grid, const LabelStyle& style,
+                         const QFont& font) { drawCabinetLabels(painter, grid, style, font, Qt::black); });
+}
+BENCHMARK(labelsTogether)->Apply(labelSizes);
+
+/// What the labels are measured against: the toolkit's call for each of them.
+void labelsWithDrawText(benchmark::State& state)
+{
+    drawLabels(
+        state, [](QPainter& painter, const CabinetGrid& grid, const LabelStyle& style, const QFont& font) {
+            painter.setFont(font);
+            for (int row = 0; row < grid.rows; ++row) {
+                for (int column = 0; column < grid.columns; ++column) {
+                    const auto label = cabinetLabel(style, row, column, grid.rows, grid.columns);
+                    for (const PlacedText& text : placedLabel(*label, style.position, grid.cell(row, column)))
+                        painter.drawText(text.box, text.alignment, text.head + text.tail);
+                }
+            }
+        });
+}
+BENCHMARK(labelsWithDrawText)->Apply(labelSizes);
 
 void composeView(benchmark::State& state)
 {

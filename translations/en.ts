@@ -20,6 +20,10 @@
         <translation>Cabinets</translation>
     </message>
     <message>
+        <source>BoxNumShow</source>
+        <translation>Cabinets</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>Brightness</translation>
     </message>
@@ -32,8 +36,16 @@
         <translation>Cancel</translation>
     </message>
     <message>
+        <source>Center</source>
+        <translation>Center</translation>
+    </message>
+    <message>
         <source>Chess</source>
         <translation>Chessboard</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Radius</translation>
     </message>
     <message>
         <source>Color</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Color bar</source>
         <translation>Color bar</translation>
+    </message>
+    <message>
+        <source>Combination Mode</source>
+        <translation>Both</translation>
     </message>
     <message>
         <source>Confirm</source>
@@ -56,8 +72,16 @@
         <translation>Delete this color?</translation>
     </message>
     <message>
+        <source>Display content personalization</source>
+        <translation>Content</translation>
+    </message>
+    <message>
         <source>Even</source>
         <translation>Even</translation>
+    </message>
+    <message>
+        <source>From up to down increase Frome left to right increase</source>
+        <translation>Rows down, columns right</translation>
     </message>
     <message>
         <source>Gradient</source>
@@ -68,12 +92,28 @@
         <translation>Layers</translation>
     </message>
     <message>
+        <source>Left Down Right Up</source>
+        <translation>Bottom left and top right</translation>
+    </message>
+    <message>
+        <source>Left Up Right Down</source>
+        <translation>Top left and bottom right</translation>
+    </message>
+    <message>
+        <source>Letter Mode</source>
+        <translation>Letters</translation>
+    </message>
+    <message>
         <source>Mode selection</source>
         <translation>Pattern</translation>
     </message>
     <message>
         <source>Next color</source>
         <translation>Next color</translation>
+    </message>
+    <message>
+        <source>Num Mode</source>
+        <translation>Numbers</translation>
     </message>
     <message>
         <source>OK</source>
@@ -100,12 +140,56 @@
         <translation>Resolution</translation>
     </message>
     <message>
+        <source>ResolutionShow</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>Serial Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Show Circle</source>
+        <translation>Circles</translation>
+    </message>
+    <message>
+        <source>Show Diagonal</source>
+        <translation>Diagonals</translation>
+    </message>
+    <message>
+        <source>Show Model</source>
+        <translation>Count with</translation>
+    </message>
+    <message>
+        <source>Show Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Show Serial Number</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Order</translation>
+    </message>
+    <message>
         <source>TestImage</source>
         <translation>TestImage</translation>
     </message>
     <message>
         <source>Widget</source>
         <translation>Settings</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right decrease</source>
+        <translation>Rows up, columns left</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right increase</source>
+        <translation>Rows up, columns right</translation>
+    </message>
+    <message>
+        <source>from up to down increase frome left to right decrease</source>
+        <translation>Rows down, columns left</translation>
     </message>
 </context>
 <context>

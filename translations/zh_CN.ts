@@ -20,6 +20,10 @@
         <translation>箱体行列数</translation>
     </message>
     <message>
+        <source>BoxNumShow</source>
+        <translation>箱体数</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>亮度</translation>
     </message>
@@ -32,8 +36,16 @@
         <translation>取消</translation>
     </message>
     <message>
+        <source>Center</source>
+        <translation>居中</translation>
+    </message>
+    <message>
         <source>Chess</source>
         <translation>棋盘格</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>圆半径</translation>
     </message>
     <message>
         <source>Color</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Color bar</source>
         <translation>彩条</translation>
+    </message>
+    <message>
+        <source>Combination Mode</source>
+        <translation>组合模式</translation>
     </message>
     <message>
         <source>Confirm</source>
@@ -56,8 +72,16 @@
         <translation>删除此颜色？</translation>
     </message>
     <message>
+        <source>Display content personalization</source>
+        <translation>显示内容个性化</translation>
+    </message>
+    <message>
         <source>Even</source>
         <translation>偶数</translation>
+    </message>
+    <message>
+        <source>From up to down increase Frome left to right increase</source>
+        <translation>行从上到下递增，列从左到右递增</translation>
     </message>
     <message>
         <source>Gradient</source>
@@ -68,12 +92,28 @@
         <translation>图层设置</translation>
     </message>
     <message>
+        <source>Left Down Right Up</source>
+        <translation>左下和右上</translation>
+    </message>
+    <message>
+        <source>Left Up Right Down</source>
+        <translation>左上和右下</translation>
+    </message>
+    <message>
+        <source>Letter Mode</source>
+        <translation>字母模式</translation>
+    </message>
+    <message>
         <source>Mode selection</source>
         <translation>模式选择</translation>
     </message>
     <message>
         <source>Next color</source>
         <translation>下一个颜色</translation>
+    </message>
+    <message>
+        <source>Num Mode</source>
+        <translation>数字模式</translation>
     </message>
     <message>
         <source>OK</source>
@@ -100,12 +140,56 @@
         <translation>分辨率</translation>
     </message>
     <message>
+        <source>ResolutionShow</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>Serial Size</source>
+        <translation>编号字号</translation>
+    </message>
+    <message>
+        <source>Show Circle</source>
+        <translation>显示圆</translation>
+    </message>
+    <message>
+        <source>Show Diagonal</source>
+        <translation>显示对角线</translation>
+    </message>
+    <message>
+        <source>Show Model</source>
+        <translation>编号模式</translation>
+    </message>
+    <message>
+        <source>Show Position</source>
+        <translation>显示位置</translation>
+    </message>
+    <message>
+        <source>Show Serial Number</source>
+        <translation>显示编号</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>排序方式</translation>
+    </message>
+    <message>
         <source>TestImage</source>
         <translation>测试图</translation>
     </message>
     <message>
         <source>Widget</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right decrease</source>
+        <translation>行从下到上递增，列从右到左递增</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right increase</source>
+        <translation>行从下到上递增，列从左到右递增</translation>
+    </message>
+    <message>
+        <source>from up to down increase frome left to right decrease</source>
+        <translation>行从上到下递增，列从右到左递增</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "paintpublicwidget.h"
 
+#include "common/chartpen.h"
+
 #include <QPainter>
 
 namespace vardeno::testcharttools {
@@ -51,8 +53,7 @@ bool PaintPublicWidget::draw(QPainter& painter, const QSize& size)
 {
     if (!d->outBorderVisible)
         return true;
-    painter.setPen(
-        QPen(QBrush(d->outLineColor), d->outLineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setPen(chartPen(d->outLineColor, d->outLineWidth));
 
     // The lines' centres lie half a pen inside the edges; the square caps fill the corners.
     const double half = d->outLineWidth * 0.5;

@@ -3,6 +3,7 @@
 #include "common/settingrows.h"
 #include "common/sliderentry.h"
 #include "common/swatch.h"
+#include "common/wholevalue.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
 #include "testcharttoolsdata.h"
@@ -25,11 +26,6 @@ constexpr int smallestResolution = 16;
 constexpr QSize captionSize(80, 24);
 constexpr QSize shortEntry(70, 24);
 constexpr QSize entrySize(110, 24);
-
-int wholeValue(const SpinEditBox* box)
-{
-    return int(box->value());
-}
 
 } // namespace
 

@@ -7,7 +7,9 @@
 #include "common/previewfit.h"
 #include "common/resources.h"
 #include "common/translation.h"
+#include "inlinesettingbox.h"
 #include "paintbasicwidget.h"
+#include "paintinlinewidget.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
 #include "publicsettingbox.h"
@@ -60,7 +62,7 @@ public:
     QWidget* createSettingsColumn();
     PropertyBox* createSection(const char* objectName, const QString& title);
     template <typename Panel>
-    Panel* addPanel(PropertyBox* section, const char* itemName, int height);
+    Panel* addPanel(PropertyBox* section, const char* itemName, int height, int lockRank);
     void createConnects();
     void connectReports();
 
@@ -80,9 +82,12 @@ public:
 
     VTestChartTools* owner;
     PropertyBox* layerSection = nullptr;
+    PropertyBox* contentSection = nullptr;
     BasicSettingBox* basicPanel = nullptr;
+    InLineSettingBox* inLinePanel = nullptr;
     PublicSettingBox* publicPanel = nullptr;
     std::vector<SettingPanel*> panels; ///< as they follow one another in the column and in the record
+    std::map<int, SettingPanel*> panelsByLockRank; ///< the order in which they are locked, and take the focus
     LayerStack layers;
     QWidget* viewArea = nullptr;
     QScrollArea* scrollArea = nullptr;
@@ -133,6 +138,8 @@ void VTestChartTools::Impl::createWidget()
     columns->addWidget(createSettingsColumn());
 
     basicPanel->setPaintWidget(layers.find<PaintBasicWidget>());
+    inLinePanel->setPaintWidget(layers.find<PaintInLineWidget>());
+    inLinePanel->initPaintWidget();
     publicPanel->setPaintPublicBrightWidget(layers.find<PaintPublicBrightWidget>());
     publicPanel->setPaintPublicWidget(layers.find<PaintPublicWidget>());
 }
@@ -201,8 +208,11 @@ QWidget* VTestChartTools::Impl::createSettingsColumn()
     scrollLayout->setSpacing(0);
 
     layerSection = createSection("basePropertyBox", translated(QStringLiteral("Layer settings")));
-    basicPanel = addPanel<BasicSettingBox>(layerSection, "basicSetting", 140);
-    publicPanel = addPanel<PublicSettingBox>(layerSection, "publicSetting", 160);
+    basicPanel = addPanel<BasicSettingBox>(layerSection, "basicSetting", 140, 0);
+    publicPanel = addPanel<PublicSettingBox>(layerSection, "publicSetting", 160, 3);
+    contentSection = createSection("userSettingPropertyBox",
+                                   translated(QStringLiteral("Display content personalization")));
+    inLinePanel = addPanel<InLineSettingBox>(contentSection, "inLineSetting", 330, 1);
     scrollLayout->addStretch();
 
     mask = new QWidget(scrollContent);
@@ -224,7 +234,7 @@ PropertyBox* VTestChartTools::Impl::createSection(const char* objectName, const 
 }
 
 template <typename Panel>
-Panel* VTestChartTools::Impl::addPanel(PropertyBox* section, const char* itemName, int height)
+Panel* VTestChartTools::Impl::addPanel(PropertyBox* section, const char* itemName, int height, int lockRank)
 {
     auto* panel = new Panel(owner);
     auto* layout = new QVBoxLayout;
@@ -232,6 +242,7 @@ Panel* VTestChartTools::Impl::addPanel(PropertyBox* section, const char* itemNam
     layout->addWidget(panel);
     section->addItem(QLatin1String(itemName), layout, height);
     panels.push_back(panel);
+    panelsByLockRank[lockRank] = panel;
     return panel;
 }
 
@@ -311,7 +322,7 @@ void VTestChartTools::Impl::showMask()
 
 void VTestChartTools::Impl::lockControls(bool locked)
 {
-    for (SettingPanel* panel : panels)
+    for (const auto& [rank, panel] : panelsByLockRank)
         panel->setControlsDisabled(locked);
     for (QPushButton* button : {cancelButton, addConfirm, replaceConfirm, replaceApply})
         button->setEnabled(!locked);
@@ -509,6 +520,7 @@ void VTestChartTools::translateLanguage()
     for (SettingPanel* panel : d->panels)
         panel->retranslate();
     d->layerSection->setTitleText(translated(QStringLiteral("Layer settings")));
+    d->contentSection->setTitleText(translated(QStringLiteral("Display content personalization")));
 }
 
 void VTestChartTools::slotGetHeightWidth()
@@ -570,11 +582,13 @@ void VTestChartTools::slotReplaceApplyButtonClicked()
 
 void VTestChartTools::slotUpdateRow(int row)
 {
+    d->layers.find<PaintInLineWidget>()->setRows(ushort(row));
     d->layers.find<PaintBasicWidget>()->setRows(ushort(row));
 }
 
 void VTestChartTools::slotUpdateCol(int col)
 {
+    d->layers.find<PaintInLineWidget>()->setColumns(ushort(col));
     d->layers.find<PaintBasicWidget>()->setColumns(ushort(col));
 }
 

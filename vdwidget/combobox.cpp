@@ -1,11 +1,10 @@
 #include "combobox.h"
 
 #include <QAbstractItemView>
-#include <QHelpEvent>
+#include <QEvent>
 #include <QScrollBar>
-#include <QStyle>
 #include <QStyleOptionComboBox>
-#include <QToolTip>
+#include <QStylePainter>
 
 #include <algorithm>
 
@@ -25,18 +24,27 @@ void ComboBox::showPopup()
     QComboBox::showPopup();
 }
 
-bool ComboBox::event(QEvent* event)
+void ComboBox::paintEvent(QPaintEvent*)
 {
-    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
-        return QComboBox::event(event);
-
+    QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    const QRect field =
-        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    const bool fits = fontMetrics().horizontalAdvance(currentText()) <= field.width();
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), fits ? QString() : currentText(), this);
-    return true;
+    option.currentText = fittedText();
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+bool ComboBox::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(fittedText() == currentText() ? QString() : currentText());
+    return QComboBox::event(event);
+}
+
+QString ComboBox::fittedText() const
+{
+    constexpr int arrowWidth = 20;
+    return fontMetrics().elidedText(currentText(), Qt::ElideRight, width() - arrowWidth);
 }
 
 int ComboBox::widestItem() const

@@ -1,5 +1,7 @@
 #include "spineditbox.h"
 
+#include <QLineEdit>
+
 namespace vardeno::testcharttools {
 
 SpinEditBox::SpinEditBox(QWidget* parent)
@@ -11,6 +13,11 @@ SpinEditBox::SpinEditBox(QWidget* parent)
     // A cleared box keeps its suffix alone when Enter ends the edit.
     connect(this, &QAbstractSpinBox::editingFinished, this, [this] { setValue(value()); });
     connect(this, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &SpinEditBox::valueChanged);
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
+        if (m_textBeforeEdit.isNull())
+            m_textBeforeEdit = textFromValue(value());
+    });
+    connect(this, &QAbstractSpinBox::editingFinished, this, &SpinEditBox::finishEdit);
 }
 
 QValidator::State SpinEditBox::validate(QString& input, int& position) const
@@ -37,6 +44,15 @@ QString SpinEditBox::textFromValue(double value) const
     if (text.endsWith(point))
         text.chop(point.size());
     return text;
+}
+
+void SpinEditBox::finishEdit()
+{
+    if (m_textBeforeEdit.isNull())
+        return;
+    const QString before = m_textBeforeEdit;
+    m_textBeforeEdit = QString();
+    Q_EMIT editFinished(before);
 }
 
 } // namespace vardeno::testcharttools

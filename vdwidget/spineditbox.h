@@ -24,9 +24,17 @@ public:
     QString textFromValue(double value) const override;
 
 Q_SIGNALS:
+    /// A typed entry has ended, after `valueChanged` if it changed the value. `previousText` is what the box
+    /// showed before, without prefix and suffix. Values that were set, stepped or turned to do not come here.
+    void editFinished(const QString& previousText);
     /// The committed value. Declared again because Qt 5's base carries a deprecated overload for texts:
     /// here `&SpinEditBox::valueChanged` names one signal.
     void valueChanged(double value);
+
+private:
+    void finishEdit();
+
+    QString m_textBeforeEdit; ///< null while nothing has been typed
 };
 
 } // namespace vardeno::testcharttools

@@ -1,8 +1,10 @@
 #include "common/layerstack.h"
 
 #include "paintbasicwidget.h"
+#include "paintinlinewidget.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
+#include "paintrowcolsequewidget.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -25,6 +27,9 @@ const std::vector<Layer>& chartLayers()
 {
     static const std::vector<Layer> layers = {
         {0, "m_pPaintBasicWidget", "PaintBasicWidget is done", true, create<PaintBasicWidget>},
+        {3, "m_pPaintRowColSequeWidget", "PaintRowColSequeWidget is done", true,
+         create<PaintRowColSequeWidget>},
+        {1, "m_pPaintInLineWidget", "PaintInLineWidget is done", true, create<PaintInLineWidget>},
         {4, "m_pPaintPublicBrightWidget", "PaintPublicBrightWidget is done", true,
          create<PaintPublicBrightWidget>},
         {5, "m_pPaintPublicWidget", "PaintPublicWidget is done", true, create<PaintPublicWidget>},

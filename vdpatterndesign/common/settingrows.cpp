@@ -1,11 +1,13 @@
 #include "common/settingrows.h"
 
+#include <combobox.h>
 #include <spineditbox.h>
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSlider>
 
 namespace vardeno::testcharttools {
@@ -17,6 +19,7 @@ constexpr QSize iconButtonSize(20, 20);
 constexpr QSize swatchSize(16, 16);
 constexpr QSize switchSize(28, 14);
 constexpr int rowSpacing = 8;
+constexpr int indicatorMargin = 20;
 
 QIcon switchIcon()
 {
@@ -35,13 +38,13 @@ SettingRow::SettingRow(QWidget* panel, PanelControls& controls, QHBoxLayout* lay
 {
 }
 
-SettingRow& SettingRow::caption(const QString& source, const QSize& size)
+SettingRow& SettingRow::caption(const QString& source, const QSize& size, int margin)
 {
     m_caption = new QLabel(m_panel);
     m_caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     append(m_caption, size);
     if (!source.isEmpty())
-        m_controls->captions.add(m_caption, source);
+        m_controls->captions.add(m_caption, source, margin);
     return *this;
 }
 
@@ -89,6 +92,27 @@ SettingRow& SettingRow::swatch(QPushButton*& button, const QString& objectName, 
         button->setProperty("btnProperty", role);
     button->setFlat(true);
     appendLocked(button, swatchSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed)
+{
+    radio = new QRadioButton(m_panel);
+    appendLocked(radio, size, std::move(allowed));
+    m_controls->captions.add(radio, source, indicatorMargin);
+    return *this;
+}
+
+SettingRow& SettingRow::combo(ComboBox*& box, const QStringList& sources, const QSize& size, Allowed allowed)
+{
+    box = new ComboBox(m_panel);
+    appendLocked(box, size, std::move(allowed));
+    ComboBox* const shown = box;
+    for (int row = 0; row < sources.size(); ++row) {
+        box->addItem(sources.at(row), row);
+        m_controls->captions.add(sources.at(row),
+                                 [shown, row](const QString& text) { shown->setItemText(row, text); });
+    }
     return *this;
 }
 
@@ -152,11 +176,12 @@ void SettingRow::appendLocked(QWidget* control, const QSize& size, Allowed allow
 }
 
 SettingRows::SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column,
-                         const QSize& captionSize)
+                         const QSize& captionSize, int captionMargin)
     : m_panel(panel)
     , m_controls(&controls)
     , m_column(column)
     , m_captionSize(captionSize)
+    , m_captionMargin(captionMargin)
 {
 }
 
@@ -168,7 +193,7 @@ SettingRow SettingRows::row(const QString& captionSource)
     layout->addStretch();
     m_column->addLayout(layout);
     SettingRow row(m_panel, *m_controls, layout);
-    row.caption(captionSource, m_captionSize);
+    row.caption(captionSource, m_captionSize, m_captionMargin);
     return row;
 }
 

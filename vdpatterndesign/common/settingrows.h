@@ -9,11 +9,13 @@ class QCheckBox;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QRadioButton;
 class QSlider;
 class QWidget;
 
 namespace vardeno::testcharttools {
 
+class ComboBox;
 class SpinEditBox;
 
 /// What a numeric entry accepts: `range(1, 100).value(6).suffix("px")`.
@@ -46,7 +48,7 @@ public:
 
     /// A right-aligned caption, which names the row's next control; without a `source` it only takes the
     /// room.
-    SettingRow& caption(const QString& source, const QSize& size);
+    SettingRow& caption(const QString& source, const QSize& size, int margin = 0);
     SettingRow& spin(SpinEditBox*& box, const QSize& size, const SpinRange& range, Allowed allowed = {});
     /// Horizontal, 146 x 24, from 0 to `maximum`, which it also starts at.
     SettingRow& slider(QSlider*& slider, int maximum, Allowed allowed = {});
@@ -56,6 +58,10 @@ public:
     /// A colour button, 16 x 16, whose role is the dynamic property "btnProperty" unless `role` is empty.
     SettingRow& swatch(QPushButton*& button, const QString& objectName, const QString& role,
                        Allowed allowed = {});
+    /// A radio button; those of one panel exclude one another.
+    SettingRow& radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed = {});
+    /// A combo box with one item for each of `sources`; an item's data is its 0-based row.
+    SettingRow& combo(ComboBox*& box, const QStringList& sources, const QSize& size, Allowed allowed = {});
     /// A button with a caption.
     SettingRow& button(QPushButton*& button, const QString& source, const QSize& size,
                        const QString& objectName, Allowed allowed = {});
@@ -81,7 +87,9 @@ class SettingRows
 {
 public:
     /// Appends the rows to `column`; their first captions are `captionSize`.
-    SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column, const QSize& captionSize);
+    /// Captions are elided to their width less `captionMargin`.
+    SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column, const QSize& captionSize,
+                int captionMargin = 0);
 
     SettingRow row(const QString& captionSource);
 
@@ -90,6 +98,7 @@ private:
     PanelControls* m_controls;
     QBoxLayout* m_column;
     QSize m_captionSize;
+    int m_captionMargin;
 };
 
 } // namespace vardeno::testcharttools

@@ -27,6 +27,20 @@ QColor centreColor(const QPushButton* button)
     return image.isNull() ? QColor() : image.pixelColor(image.width() / 2, image.height() / 2);
 }
 
+void paintColor(QPushButton* button, const QColor& color, int margin)
+{
+    QPixmap pixmap(button->size());
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRect(pixmap.rect().adjusted(margin, margin, -margin, -margin));
+    painter.end();
+    setIconPixmap(button, pixmap);
+    button->setProperty(paintedColor, color);
+    button->setProperty(shownColor, centreColor(button));
+}
+
 QPixmap disabledPixmap()
 {
     ensureResources();
@@ -45,17 +59,12 @@ QPixmap disabledPixmap()
 
 void paintSwatch(QPushButton* button, const QColor& color)
 {
-    const QSize size = button->size();
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawRect(1, 1, size.width() - 2, size.height() - 2);
-    painter.end();
-    setIconPixmap(button, pixmap);
-    button->setProperty(paintedColor, color);
-    button->setProperty(shownColor, centreColor(button));
+    paintColor(button, color, 1);
+}
+
+void paintFullSwatch(QPushButton* button, const QColor& color)
+{
+    paintColor(button, color, 0);
 }
 
 void paintDisabledSwatch(QPushButton* button)

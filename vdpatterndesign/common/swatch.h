@@ -10,6 +10,9 @@ namespace vardeno::testcharttools {
 /// colour filled inside a margin of one pixel.
 void paintSwatch(QPushButton* button, const QColor& color);
 
+/// The same, filled to the button's edges.
+void paintFullSwatch(QPushButton* button, const QColor& color);
+
 /// Gives the colour button of a switched-off group its grey 40 x 20 swatch.
 void paintDisabledSwatch(QPushButton* button);
 

@@ -1,0 +1,122 @@
+#include "common/cabinetlabels.h"
+#include "common/textbatch.h"
+#include "testcase.h"
+
+#include <QPainter>
+
+using namespace vardeno::testcharttools;
+
+/// Batched texts against the toolkit's own drawing of each of them.
+class TestTextBatch : public TestCase
+{
+    Q_OBJECT
+
+private:
+    template <typename Draw>
+    static QImage drawn(const QSize& size, int pixelSize, Draw draw)
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        QFont font = painter.font();
+        font.setPixelSize(pixelSize);
+        painter.setFont(font);
+        painter.setPen(Qt::black);
+        draw(painter);
+        painter.end();
+        return pixmap.toImage();
+    }
+
+private Q_SLOTS:
+    void cabinetLabels_data()
+    {
+        QTest::addColumn<QSize>("chart");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("columns");
+        QTest::addColumn<int>("pixelSize");
+        for (uint position = 0; position < 3; ++position) {
+            for (uint mode = 0; mode < 3; ++mode) {
+                const auto name = [&](const char* grid) {
+                    return qPrintable(
+                        QStringLiteral("%1, mode %2, position %3").arg(grid).arg(mode).arg(position));
+                };
+                QTest::newRow(name("whole cells")) << QSize(1600, 900) << 9 << 16 << 15;
+                QTest::newRow(name("fractional cells")) << QSize(1000, 701) << 30 << 30 << 7;
+                QTest::newRow(name("largest batched size")) << QSize(1600, 900) << 3 << 4 << 63;
+                QTest::newRow(name("wider than their cells")) << QSize(400, 300) << 12 << 20 << 14;
+                QTest::newRow(name("outlines")) << QSize(1200, 900) << 2 << 2 << 80;
+            }
+        }
+    }
+
+    void cabinetLabels()
+    {
+        QFETCH(QSize, chart);
+        QFETCH(int, rows);
+        QFETCH(int, columns);
+        QFETCH(int, pixelSize);
+        const QStringList parts = QString::fromLatin1(QTest::currentDataTag()).split(QLatin1String(", "));
+        LabelStyle style;
+        style.mode = parts.at(1).rightRef(1).toUInt();
+        style.position = parts.at(2).rightRef(1).toUInt();
+        const CabinetGrid grid{chart, ushort(rows), ushort(columns)};
+        std::vector<PlacedText> texts;
+        for (int row = 0; row < rows; ++row) {
+            for (int column = 0; column < columns; ++column) {
+                const auto label = cabinetLabel(style, row, column, rows, columns);
+                for (const PlacedText& placed : placedLabel(*label, style.position, grid.cell(row, column)))
+                    texts.push_back(placed);
+            }
+        }
+
+        const QImage expected = drawn(chart, pixelSize, [&](QPainter& painter) {
+            for (const PlacedText& text : texts)
+                painter.drawText(text.box, text.alignment, text.head + text.tail);
+        });
+        const QImage batched = drawn(chart, pixelSize, [&](QPainter& painter) {
+            TextBatch batch(painter);
+            for (const PlacedText& text : texts)
+                batch.add(text.box, text.alignment, text.head, text.tail);
+            batch.draw();
+        });
+        VD_COMPARE_IMAGES(batched, expected);
+    }
+
+    void anyText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("blank") << QStringLiteral(" ");
+        QTest::newRow("kerned") << QStringLiteral("AVAToWa.");
+        QTest::newRow("two fonts") << QStringLiteral("A屏1");
+        QTest::newRow("right to left") << QString::fromUtf8("\u05d0\u05d1-1");
+        QTest::newRow("combining") << QString::fromUtf8("e\u0301-x\u0323");
+        QTest::newRow("two lines") << QStringLiteral("A\nB");
+    }
+
+    void anyText()
+    {
+        QFETCH(QString, text);
+        for (const int alignment : {int(Qt::AlignCenter), int(Qt::AlignLeft | Qt::AlignTop),
+                                    int(Qt::AlignRight | Qt::AlignBottom)}) {
+            const QRect box(7, 5, 161, 43);
+            const QImage expected =
+                drawn({200, 60}, 17, [&](QPainter& painter) { painter.drawText(box, alignment, text); });
+            const QImage batched = drawn({200, 60}, 17, [&](QPainter& painter) {
+                TextBatch batch(painter);
+                batch.add(box, alignment, QStringLiteral("A"));
+                batch.add(box, alignment, text);
+                batch.draw();
+            });
+            const QImage both = drawn({200, 60}, 17, [&](QPainter& painter) {
+                painter.drawText(box, alignment, QStringLiteral("A"));
+                painter.drawText(box, alignment, text);
+            });
+            QVERIFY(text.trimmed().isEmpty() || expected != drawn({200, 60}, 17, [](QPainter&) {}));
+            VD_COMPARE_IMAGES(batched, both);
+        }
+    }
+};
+
+VD_TEST_MAIN(TestTextBatch)
+#include "tst_textbatch.moc"

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "common/cabinetlabels.h"
+
+class QColor;
+class QPainter;
+
+namespace vardeno::testcharttools {
+
+/// Draws the label of every cabinet of `grid` in `font` and `color`.
+void drawCabinetLabels(QPainter& painter, const CabinetGrid& grid, const LabelStyle& style, const QFont& font,
+                       const QColor& color);
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,35 @@
+#include "common/fittedtext.h"
+
+#include <QFontMetrics>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+FittedText measured(const QString& text, int pixelSize)
+{
+    QFont font;
+    if (pixelSize > 0) // a size of 0 would only warn and change nothing
+        font.setPixelSize(pixelSize);
+    font.setFamily(
+        QStringLiteral("Arail")); // as it is written in every chart: the system's fallback draws it
+    const QFontMetrics metrics(font);
+    return {font, pixelSize, metrics.horizontalAdvance(text), metrics.height()};
+}
+
+} // namespace
+
+FittedText fitText(const QString& text, int requested, double widthLimit, double heightLimit)
+{
+    FittedText fitted = measured(text, requested);
+    while ((fitted.advance > widthLimit || fitted.height > heightLimit) && fitted.pixelSize >= 1) {
+        const int next = fitted.pixelSize - 1;
+        if (next == 0)
+            fitted.pixelSize = 0;
+        else
+            fitted = measured(text, next);
+    }
+    return fitted;
+}
+
+} // namespace vardeno::testcharttools
