@@ -8,6 +8,7 @@ for source in svg/*.svg; do
   rsvg-convert "$source" -o "images/$name.png"
   rsvg-convert --zoom 2 "$source" -o "images/$name@2x.png"
 done
+rsvg-convert logo/logo_1025.svg -o logo/logo_1025.png
 {
   echo '<RCC>'
   echo '  <qresource prefix="/resources">'

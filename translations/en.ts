@@ -72,8 +72,16 @@
         <translation>Delete this color?</translation>
     </message>
     <message>
+        <source>Display Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
         <source>Display content personalization</source>
         <translation>Content</translation>
+    </message>
+    <message>
+        <source>Display custom text</source>
+        <translation>Custom text</translation>
     </message>
     <message>
         <source>Even</source>
@@ -92,8 +100,16 @@
         <translation>Layers</translation>
     </message>
     <message>
+        <source>Left Down</source>
+        <translation>Bottom left</translation>
+    </message>
+    <message>
         <source>Left Down Right Up</source>
         <translation>Bottom left and top right</translation>
+    </message>
+    <message>
+        <source>Left Up</source>
+        <translation>Top left</translation>
     </message>
     <message>
         <source>Left Up Right Down</source>
@@ -102,6 +118,10 @@
     <message>
         <source>Letter Mode</source>
         <translation>Letters</translation>
+    </message>
+    <message>
+        <source>Logo Style</source>
+        <translation>Style</translation>
     </message>
     <message>
         <source>Mode selection</source>
@@ -124,8 +144,20 @@
         <translation>Odd</translation>
     </message>
     <message>
+        <source>Opacity</source>
+        <translation>Opacity</translation>
+    </message>
+    <message>
         <source>OutBorder</source>
         <translation>Border</translation>
+    </message>
+    <message>
+        <source>Picture Logo</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Position adjustment</source>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Previous color</source>
@@ -144,6 +176,22 @@
         <translation>Resolution</translation>
     </message>
     <message>
+        <source>Right Down</source>
+        <translation>Bottom right</translation>
+    </message>
+    <message>
+        <source>Right Up</source>
+        <translation>Top right</translation>
+    </message>
+    <message>
+        <source>Scale Logo</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>SelectImage</source>
+        <translation>Choose the logo's picture</translation>
+    </message>
+    <message>
         <source>Serial Size</source>
         <translation>Size</translation>
     </message>
@@ -156,6 +204,10 @@
         <translation>Diagonals</translation>
     </message>
     <message>
+        <source>Show Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
         <source>Show Model</source>
         <translation>Count with</translation>
     </message>
@@ -164,20 +216,60 @@
         <translation>Position</translation>
     </message>
     <message>
+        <source>Show Resolution</source>
+        <translation>Information</translation>
+    </message>
+    <message>
         <source>Show Serial Number</source>
         <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Show Size</source>
+        <translation>Size</translation>
     </message>
     <message>
         <source>Sort by</source>
         <translation>Order</translation>
     </message>
     <message>
+        <source>SuggestTransparentbackgroundrecommended</source>
+        <translation>Best with transparency</translation>
+    </message>
+    <message>
         <source>TestImage</source>
         <translation>TestImage</translation>
     </message>
     <message>
+        <source>Text Input</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text Logo</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>UpLogo</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Upload your logo</source>
+        <translation>Choose picture…</translation>
+    </message>
+    <message>
         <source>Widget</source>
         <translation>Settings</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
     </message>
     <message>
         <source>from down to up increase frome left to right decrease</source>

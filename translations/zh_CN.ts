@@ -72,8 +72,16 @@
         <translation>删除此颜色？</translation>
     </message>
     <message>
+        <source>Display Position</source>
+        <translation>显示位置</translation>
+    </message>
+    <message>
         <source>Display content personalization</source>
         <translation>显示内容个性化</translation>
+    </message>
+    <message>
+        <source>Display custom text</source>
+        <translation>显示自定义文字</translation>
     </message>
     <message>
         <source>Even</source>
@@ -92,8 +100,16 @@
         <translation>图层设置</translation>
     </message>
     <message>
+        <source>Left Down</source>
+        <translation>左下</translation>
+    </message>
+    <message>
         <source>Left Down Right Up</source>
         <translation>左下和右上</translation>
+    </message>
+    <message>
+        <source>Left Up</source>
+        <translation>左上</translation>
     </message>
     <message>
         <source>Left Up Right Down</source>
@@ -102,6 +118,10 @@
     <message>
         <source>Letter Mode</source>
         <translation>字母模式</translation>
+    </message>
+    <message>
+        <source>Logo Style</source>
+        <translation>标志样式</translation>
     </message>
     <message>
         <source>Mode selection</source>
@@ -124,8 +144,20 @@
         <translation>奇数</translation>
     </message>
     <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
         <source>OutBorder</source>
         <translation>外边框</translation>
+    </message>
+    <message>
+        <source>Picture Logo</source>
+        <translation>图片标志</translation>
+    </message>
+    <message>
+        <source>Position adjustment</source>
+        <translation>位置调整</translation>
     </message>
     <message>
         <source>Previous color</source>
@@ -144,6 +176,22 @@
         <translation>分辨率</translation>
     </message>
     <message>
+        <source>Right Down</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Right Up</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Scale Logo</source>
+        <translation>标志缩放</translation>
+    </message>
+    <message>
+        <source>SelectImage</source>
+        <translation>选择图片</translation>
+    </message>
+    <message>
         <source>Serial Size</source>
         <translation>编号字号</translation>
     </message>
@@ -156,6 +204,10 @@
         <translation>显示对角线</translation>
     </message>
     <message>
+        <source>Show Logo</source>
+        <translation>显示标志</translation>
+    </message>
+    <message>
         <source>Show Model</source>
         <translation>编号模式</translation>
     </message>
@@ -164,20 +216,60 @@
         <translation>显示位置</translation>
     </message>
     <message>
+        <source>Show Resolution</source>
+        <translation>显示分辨率</translation>
+    </message>
+    <message>
         <source>Show Serial Number</source>
         <translation>显示编号</translation>
+    </message>
+    <message>
+        <source>Show Size</source>
+        <translation>显示大小</translation>
     </message>
     <message>
         <source>Sort by</source>
         <translation>排序方式</translation>
     </message>
     <message>
+        <source>SuggestTransparentbackgroundrecommended</source>
+        <translation>建议使用透明背景</translation>
+    </message>
+    <message>
         <source>TestImage</source>
         <translation>测试图</translation>
     </message>
     <message>
+        <source>Text Input</source>
+        <translation>文字输入</translation>
+    </message>
+    <message>
+        <source>Text Logo</source>
+        <translation>文字标志</translation>
+    </message>
+    <message>
+        <source>Text Size</source>
+        <translation>文字大小</translation>
+    </message>
+    <message>
+        <source>UpLogo</source>
+        <translation>上传标志</translation>
+    </message>
+    <message>
+        <source>Upload your logo</source>
+        <translation>上传您的标志</translation>
+    </message>
+    <message>
         <source>Widget</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
     </message>
     <message>
         <source>from down to up increase frome left to right decrease</source>

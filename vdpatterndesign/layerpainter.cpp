@@ -1,7 +1,6 @@
 #include "layerpainter.h"
 
 #include <QPainter>
-#include <QPixmap>
 
 namespace vardeno::testcharttools {
 
@@ -22,7 +21,21 @@ void LayerPainter::paintEvent(QPaintEvent* event)
     paintStored(event);
 }
 
-/// Not as the label's style would: a style sheet of the host, or a host that is disabled, must not get into the chart.
+std::optional<QPixmap> LayerPainter::renderedPicture()
+{
+    QPixmap layer(size());
+    layer.fill(Qt::transparent);
+    if (layer.isNull())
+        return std::nullopt; // nothing to draw on: the layer keeps its picture
+    QPainter painter(&layer);
+    if (!draw(painter, layer.size()))
+        return std::nullopt;
+    painter.end();
+    return layer;
+}
+
+/// Not as the label's style would: a style sheet of the host, or a host that is disabled, must not get into
+/// the chart.
 void LayerPainter::paintStored(QPaintEvent*)
 {
     QPainter painter(this);
@@ -37,15 +50,8 @@ bool LayerPainter::sourceChanged() const
 void LayerPainter::render()
 {
     m_renderedSize = size();
-    QPixmap layer(size());
-    layer.fill(Qt::transparent);
-    bool drawn = false; // nothing to draw on: the layer keeps its picture
-    if (!layer.isNull()) {
-        QPainter painter(&layer);
-        drawn = draw(painter, layer.size());
-    }
-    if (drawn)
-        setPixmap(layer);
+    if (const auto picture = renderedPicture())
+        setPixmap(*picture);
     m_renderedKey = pixmap(Qt::ReturnByValue).cacheKey();
 }
 

@@ -3,6 +3,9 @@
 #include "vdpatterndesign_export.h"
 
 #include <QLabel>
+#include <QPixmap>
+
+#include <optional>
 
 namespace vardeno::testcharttools {
 
@@ -20,6 +23,9 @@ public:
     explicit LayerPainter(QWidget* parent = nullptr);
     ~LayerPainter() override;
 
+    /// Renders the layer now, whether or not anything has changed.
+    void render();
+
 Q_SIGNALS:
     /// Sent by every paint event, after the layer's picture is up to date and before it is painted.
     void sigPaintEventUpdated();
@@ -31,7 +37,11 @@ protected:
     /// leave the layer with the picture it had.
     virtual bool draw(QPainter& painter, const QSize& size) = 0;
 
-    /// Paints the layer's picture.
+    /// The layer's picture; none to leave the layer with the one it had. The base draws a transparent picture
+    /// of the layer's size.
+    virtual std::optional<QPixmap> renderedPicture();
+
+    /// Paints the stored picture; the base paints it at the top left.
     virtual void paintStored(QPaintEvent* event);
 
     /// Whether anything that the layer is drawn from besides its own fields and its size has changed since it
@@ -47,9 +57,6 @@ protected:
         field = value;
         render();
     }
-
-    /// Renders the layer now.
-    void render();
 
 private:
     bool isStale() const;

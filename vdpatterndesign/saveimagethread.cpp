@@ -1,7 +1,6 @@
 #include "saveimagethread.h"
 
-#include <QBuffer>
-#include <QSaveFile>
+#include "common/imagefile.h"
 
 namespace vardeno::testcharttools {
 
@@ -21,19 +20,6 @@ const char* formatOf(const QString& path)
     return nullptr;
 }
 
-/// Encodes in memory first: saving straight to a file reports success when the disk fills up in its last
-/// kilobytes, and so does a `commit` alone.
-bool writeWhole(const QImage& image, const QString& path, const char* format)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, quality))
-        return false;
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
-           file.commit();
-}
-
 } // namespace
 
 SaveImageThread::SaveImageThread(const QImage& image, const QString& path, QObject* parent)
@@ -51,7 +37,7 @@ SaveImageThread::~SaveImageThread()
 void SaveImageThread::run()
 {
     const char* const format = formatOf(m_path);
-    Q_EMIT saveFinished(!format || writeWhole(m_image, m_path, format));
+    Q_EMIT saveFinished(!format || writeImageWhole(m_image, m_path, format, quality));
 }
 
 } // namespace vardeno::testcharttools

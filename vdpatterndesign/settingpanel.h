@@ -30,8 +30,8 @@ public:
     /// Either way the focus then goes where the panel's `focusAfterLock` says.
     void setControlsDisabled(bool disabled);
 
-    /// Shows every caption in the current language.
-    void retranslate();
+    /// Shows every caption in the current language, in the panel and in the painters that it drives.
+    virtual void retranslate();
 
     /// Stores what the controls show in the panel's group of `record`.
     virtual void collectInto(TestChartToolsData& record) const = 0;
@@ -48,7 +48,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
     /// The panel takes the focus after each lock and unlock, unless it says otherwise.
-    virtual void focusAfterLock(bool disabled);
+    virtual void focusAfterLock(bool locked);
 
     PanelControls& controls();
 

@@ -8,12 +8,17 @@
 #include "common/resources.h"
 #include "common/translation.h"
 #include "inlinesettingbox.h"
+#include "logosettingbox.h"
 #include "paintbasicwidget.h"
 #include "paintinlinewidget.h"
+#include "paintpiclogowidget.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
+#include "paintselfwidget.h"
+#include "painttextlogowidget.h"
 #include "publicsettingbox.h"
 #include "saveimagethread.h"
+#include "selfsettingbox.h"
 #include "translatemanager1.h"
 
 #include <propertybox.h>
@@ -46,6 +51,26 @@ constexpr int buttonMargin = 8;
 constexpr int lockDelay = 10;       ///< ms: lets the mask paint before the panels lock
 constexpr int snapshotDelay = 100;  ///< ms: one snapshot for all that a change sets off
 constexpr int deletionDelay = 2000; ///< ms: the host learns of the new chart before the old one goes
+
+/// The column of the panels, which fill its width: its scroll bar, when there is one, lies over their right
+/// margin.
+class SettingsColumn : public QScrollArea
+{
+public:
+    explicit SettingsColumn(QWidget* parent)
+        : QScrollArea(parent)
+    {
+        setFixedSize(settingsSize);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int maximum) {
+            const int width = verticalScrollBar()->sizeHint().width();
+            setViewportMargins(0, 0, maximum > 0 ? -width : 0, 0);
+            verticalScrollBar()->parentWidget()->raise();
+        });
+    }
+};
 
 } // namespace
 
@@ -85,7 +110,9 @@ public:
     PropertyBox* contentSection = nullptr;
     BasicSettingBox* basicPanel = nullptr;
     InLineSettingBox* inLinePanel = nullptr;
+    LogoSettingBox* logoPanel = nullptr;
     PublicSettingBox* publicPanel = nullptr;
+    SelfSettingBox* selfPanel = nullptr;
     std::vector<SettingPanel*> panels; ///< as they follow one another in the column and in the record
     std::map<int, SettingPanel*> panelsByLockRank; ///< the order in which they are locked, and take the focus
     LayerStack layers;
@@ -140,6 +167,10 @@ void VTestChartTools::Impl::createWidget()
     basicPanel->setPaintWidget(layers.find<PaintBasicWidget>());
     inLinePanel->setPaintWidget(layers.find<PaintInLineWidget>());
     inLinePanel->initPaintWidget();
+    logoPanel->setLogoStack(layers.sharedPlace());
+    logoPanel->setPicLogoWidget(layers.find<PaintPicLogoWidget>());
+    logoPanel->setTextLogoWidget(layers.find<PaintTextLogoWidget>());
+    selfPanel->setPaintSelfWidget(layers.find<PaintSelfWidget>());
     publicPanel->setPaintPublicBrightWidget(layers.find<PaintPublicBrightWidget>());
     publicPanel->setPaintPublicWidget(layers.find<PaintPublicWidget>());
 }
@@ -193,12 +224,8 @@ QPushButton* VTestChartTools::Impl::createButton(const char* objectName, const c
 
 QWidget* VTestChartTools::Impl::createSettingsColumn()
 {
-    scrollArea = new QScrollArea(owner);
+    scrollArea = new SettingsColumn(owner);
     scrollArea->setObjectName(QStringLiteral("ScrollArea"));
-    scrollArea->setFixedSize(settingsSize);
-    scrollArea->setWidgetResizable(true);
-    scrollArea->setFrameShape(QFrame::NoFrame);
-    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scrollContent = new QWidget;
     scrollContent->setObjectName(QStringLiteral("scrollWidget"));
     scrollContent->setAttribute(Qt::WA_StyledBackground);
@@ -213,6 +240,8 @@ QWidget* VTestChartTools::Impl::createSettingsColumn()
     contentSection = createSection("userSettingPropertyBox",
                                    translated(QStringLiteral("Display content personalization")));
     inLinePanel = addPanel<InLineSettingBox>(contentSection, "inLineSetting", 330, 1);
+    logoPanel = addPanel<LogoSettingBox>(contentSection, "logoSetting", 245, 2);
+    selfPanel = addPanel<SelfSettingBox>(contentSection, "selfSetting", 160, 4);
     scrollLayout->addStretch();
 
     mask = new QWidget(scrollContent);
@@ -257,6 +286,7 @@ void VTestChartTools::Impl::createConnects()
         connect(panel, &SettingPanel::changed, this, &Impl::captureAndDisplay);
     connect(publicPanel, &PublicSettingBox::resolutionSignal, owner, &VTestChartTools::slotGetHeightWidth);
     connect(publicPanel, &PublicSettingBox::editingFinished, owner, &VTestChartTools::slotGetHeightWidth);
+    connect(selfPanel, &SelfSettingBox::selfSignal, owner, &VTestChartTools::slotUpdateResolution);
     connect(publicPanel, &PublicSettingBox::rowSignal, owner, &VTestChartTools::slotUpdateRow);
     connect(publicPanel, &PublicSettingBox::colSignal, owner, &VTestChartTools::slotUpdateCol);
     for (SettingPanel* panel : panels)
@@ -583,13 +613,20 @@ void VTestChartTools::slotReplaceApplyButtonClicked()
 void VTestChartTools::slotUpdateRow(int row)
 {
     d->layers.find<PaintInLineWidget>()->setRows(ushort(row));
+    d->layers.find<PaintSelfWidget>()->setRows(ushort(row));
     d->layers.find<PaintBasicWidget>()->setRows(ushort(row));
 }
 
 void VTestChartTools::slotUpdateCol(int col)
 {
     d->layers.find<PaintInLineWidget>()->setColumns(ushort(col));
+    d->layers.find<PaintSelfWidget>()->setColumns(ushort(col));
     d->layers.find<PaintBasicWidget>()->setColumns(ushort(col));
+}
+
+void VTestChartTools::slotUpdateResolution()
+{
+    d->selfPanel->setResolution(d->publicPanel->resolutionWidth(), d->publicPanel->resolutionHeight());
 }
 
 void VTestChartTools::slotSaveBtnLight()

@@ -84,6 +84,8 @@ public Q_SLOTS:
     /// The screen's cabinet rows or columns have changed.
     void slotUpdateRow(int row);
     void slotUpdateCol(int col);
+    /// Tells the custom text panel the resolution that is set.
+    void slotUpdateResolution();
     /// Marks the chart as changed.
     void slotSaveBtnLight();
     /// A layer has painted; `senderName` identifies it.

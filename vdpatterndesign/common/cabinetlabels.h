@@ -44,8 +44,8 @@ struct LabelStyle
 /// or sort.
 std::optional<CabinetLabel> cabinetLabel(const LabelStyle& style, int row, int column, int rows, int columns);
 
-/// A text, the rectangle it is drawn in, and how it is aligned there. The text is `head` and `tail` in one; each of
-/// them occurs in many cabinets.
+/// A text, the rectangle it is drawn in, and how it is aligned there. The text is `head` and `tail` in one;
+/// each of them occurs in many cabinets.
 struct PlacedText
 {
     QRect box;

@@ -2,12 +2,16 @@
 
 #include "paintbasicwidget.h"
 #include "paintinlinewidget.h"
+#include "paintpiclogowidget.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
 #include "paintrowcolsequewidget.h"
+#include "paintselfwidget.h"
+#include "painttextlogowidget.h"
 
 #include <QGridLayout>
 #include <QPainter>
+#include <QStackedWidget>
 
 namespace vardeno::testcharttools {
 
@@ -26,13 +30,18 @@ LayerPainter* create()
 const std::vector<Layer>& chartLayers()
 {
     static const std::vector<Layer> layers = {
-        {0, "m_pPaintBasicWidget", "PaintBasicWidget is done", true, create<PaintBasicWidget>},
-        {3, "m_pPaintRowColSequeWidget", "PaintRowColSequeWidget is done", true,
+        {0, "m_pPaintBasicWidget", "PaintBasicWidget is done", true, false, create<PaintBasicWidget>},
+        {3, "m_pPaintRowColSequeWidget", "PaintRowColSequeWidget is done", true, false,
          create<PaintRowColSequeWidget>},
-        {1, "m_pPaintInLineWidget", "PaintInLineWidget is done", true, create<PaintInLineWidget>},
-        {4, "m_pPaintPublicBrightWidget", "PaintPublicBrightWidget is done", true,
+        {1, "m_pPaintInLineWidget", "PaintInLineWidget is done", true, false, create<PaintInLineWidget>},
+        {2, "m_pPaintSelfWidget", "PaintSelfWidget is done", true, false, create<PaintSelfWidget>},
+        // Not awaited: only the visible one of the two paints.
+        {6, "m_pPaintPicLogoWidget", "PaintPicLogoWidget is done", false, true, create<PaintPicLogoWidget>},
+        {7, "m_pPaintTextLogoWidget", "PaintTextLogoWidget is done", false, true,
+         create<PaintTextLogoWidget>},
+        {4, "m_pPaintPublicBrightWidget", "PaintPublicBrightWidget is done", true, false,
          create<PaintPublicBrightWidget>},
-        {5, "m_pPaintPublicWidget", "PaintPublicWidget is done", true, create<PaintPublicWidget>},
+        {5, "m_pPaintPublicWidget", "PaintPublicWidget is done", true, false, create<PaintPublicWidget>},
     };
     return layers;
 }
@@ -47,12 +56,25 @@ LayerStack::LayerStack(QWidget* owner)
 
     auto* cell = new QGridLayout(m_view);
     cell->setContentsMargins(0, 0, 0, 0);
-    for (const Layer& layer : chartLayers()) {
-        m_painters.push_back(layer.create());
-        cell->addWidget(m_painters.back(), 0, 0);
-        m_painters.back()->raise();
-        m_painters.back()->setAttribute(Qt::WA_NoSystemBackground); // nor one of a host's style sheet
+    for (const Layer& layer : chartLayers())
+        stack(cell, layer);
+}
+
+void LayerStack::stack(QGridLayout* cell, const Layer& layer)
+{
+    LayerPainter* painter = layer.create();
+    painter->setAttribute(Qt::WA_NoSystemBackground); // nor one of a host's style sheet
+    m_painters.push_back(painter);
+    QWidget* place = painter;
+    if (layer.shared) {
+        if (!m_sharedPlace)
+            m_sharedPlace = new QStackedWidget;
+        m_sharedPlace->setAttribute(Qt::WA_NoSystemBackground);
+        m_sharedPlace->addWidget(painter);
+        place = m_sharedPlace;
     }
+    cell->addWidget(place, 0, 0);
+    place->raise();
 }
 
 void LayerStack::setChartSize(const QSize& size)

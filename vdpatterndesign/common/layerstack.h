@@ -7,6 +7,9 @@
 
 #include <vector>
 
+class QGridLayout;
+class QStackedWidget;
+
 namespace vardeno::testcharttools {
 
 /// One layer of the chart in the stack.
@@ -16,6 +19,7 @@ struct Layer
     const char* memberName; ///< identifies the layer's paint reports
     const char* doneText;   ///< logged for each of them
     bool awaited;           ///< whether a repaint is complete only with this layer's report
+    bool shared;            ///< one of the layers that share a place in the stack, of which one is visible
     LayerPainter* (*create)();
 };
 
@@ -37,6 +41,9 @@ public:
     /// meanwhile.
     QImage image() const;
 
+    /// Holds the layers that share a place.
+    QStackedWidget* sharedPlace() const { return m_sharedPlace; }
+
     /// By position in `chartLayers()`.
     LayerPainter* painter(std::size_t layer) const { return m_painters[layer]; }
 
@@ -51,7 +58,10 @@ public:
     }
 
 private:
+    void stack(QGridLayout* cell, const Layer& layer);
+
     QWidget* m_view;
+    QStackedWidget* m_sharedPlace = nullptr;
     std::vector<LayerPainter*> m_painters;
 };
 

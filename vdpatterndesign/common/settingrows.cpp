@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -62,8 +63,15 @@ SettingRow& SettingRow::slider(QSlider*& slider, int maximum, Allowed allowed)
 {
     slider = new QSlider(Qt::Horizontal, m_panel);
     slider->setRange(0, maximum);
-    slider->setValue(maximum);
+    slider->setValue(100);
     appendLocked(slider, sliderSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::text(QLineEdit*& entry, const QString& initial, const QSize& size, Allowed allowed)
+{
+    entry = new QLineEdit(initial, m_panel);
+    appendLocked(entry, size, std::move(allowed));
     return *this;
 }
 

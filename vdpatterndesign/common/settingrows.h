@@ -8,6 +8,7 @@ class QBoxLayout;
 class QCheckBox;
 class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QSlider;
@@ -50,8 +51,9 @@ public:
     /// room.
     SettingRow& caption(const QString& source, const QSize& size, int margin = 0);
     SettingRow& spin(SpinEditBox*& box, const QSize& size, const SpinRange& range, Allowed allowed = {});
-    /// Horizontal, 146 x 24, from 0 to `maximum`, which it also starts at.
+    /// Horizontal, 146 x 24, from 0 to `maximum`, at 100.
     SettingRow& slider(QSlider*& slider, int maximum, Allowed allowed = {});
+    SettingRow& text(QLineEdit*& entry, const QString& initial, const QSize& size, Allowed allowed = {});
     /// 20 x 20, shows a picture; `hint` is its tool tip and its name for screen readers.
     SettingRow& iconButton(QPushButton*& button, const QString& picture, const QString& hint,
                            const QString& objectName, Allowed allowed = {});
