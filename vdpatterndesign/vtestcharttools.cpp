@@ -3,6 +3,7 @@
 #include "basicsettingbox.h"
 #include "common/caption.h"
 #include "common/chartfolder.h"
+#include "common/inputkeeper.h"
 #include "common/layerstack.h"
 #include "common/previewfit.h"
 #include "common/resources.h"
@@ -128,6 +129,7 @@ public:
     QPushButton* replaceApply = nullptr;
     QLabel* previewLabel = nullptr;
     QVBoxLayout* scrollLayout = nullptr;
+    InputKeeper input;
     CaptionSet captions; ///< of the edit buttons
     QRect fittedPreviewRect;
     QString savePath = QStringLiteral(" ");
@@ -149,6 +151,7 @@ public:
 VTestChartTools::Impl::Impl(VTestChartTools* tool)
     : owner(tool)
     , layers(tool)
+    , input(tool)
 {
     for (int painter = 0; painter < 8; ++painter)
         paintStatus[painter] = false;
@@ -249,6 +252,7 @@ QWidget* VTestChartTools::Impl::createSettingsColumn()
     mask->setFixedSize(settingsSize);
     mask->setAttribute(Qt::WA_StyledBackground);
     mask->hide();
+    input.setCover(mask);
     return scrollArea;
 }
 
@@ -352,10 +356,13 @@ void VTestChartTools::Impl::showMask()
 
 void VTestChartTools::Impl::lockControls(bool locked)
 {
+    input.begin(); // unlocking takes the focus as well, and a cycle may end before its lock has come
     for (const auto& [rank, panel] : panelsByLockRank)
         panel->setControlsDisabled(locked);
     for (QPushButton* button : {cancelButton, addConfirm, replaceConfirm, replaceApply})
         button->setEnabled(!locked);
+    if (!locked)
+        input.end();
 }
 
 void VTestChartTools::Impl::takeSnapshot()

@@ -46,6 +46,14 @@ QString SpinEditBox::textFromValue(double value) const
     return text;
 }
 
+void SpinEditBox::focusOutEvent(QFocusEvent* event)
+{
+    if (isEnabled())
+        QDoubleSpinBox::focusOutEvent(event);
+    else
+        QWidget::focusOutEvent(event);
+}
+
 void SpinEditBox::finishEdit()
 {
     if (m_textBeforeEdit.isNull())

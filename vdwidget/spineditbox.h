@@ -23,6 +23,10 @@ public:
     void fixup(QString& input) const override;
     QString textFromValue(double value) const override;
 
+protected:
+    /// An entry that loses the focus because it becomes inert keeps what was typed, uncommitted.
+    void focusOutEvent(QFocusEvent* event) override;
+
 Q_SIGNALS:
     /// A typed entry has ended, after `valueChanged` if it changed the value. `previousText` is what the box
     /// showed before, without prefix and suffix. Values that were set, stepped or turned to do not come here.
