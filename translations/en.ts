@@ -8,8 +8,20 @@
         <translation>Add</translation>
     </message>
     <message>
+        <source>AddtoCustomColors</source>
+        <translation>Add to custom colors</translation>
+    </message>
+    <message>
         <source>Apply</source>
         <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Basiccolors</source>
+        <translation>Basic colors</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue:</translation>
     </message>
     <message>
         <source>BorderWidth</source>
@@ -64,6 +76,10 @@
         <translation>Confirm</translation>
     </message>
     <message>
+        <source>Customcolors</source>
+        <translation>Custom colors</translation>
+    </message>
+    <message>
         <source>Delete</source>
         <translation>Delete</translation>
     </message>
@@ -94,6 +110,14 @@
     <message>
         <source>Gradient</source>
         <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green:</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Hue:</translation>
     </message>
     <message>
         <source>Layer settings</source>
@@ -152,6 +176,10 @@
         <translation>Border</translation>
     </message>
     <message>
+        <source>PickScreenColor</source>
+        <translation>Pick from the screen</translation>
+    </message>
+    <message>
         <source>Picture Logo</source>
         <translation>Picture</translation>
     </message>
@@ -162,6 +190,10 @@
     <message>
         <source>Previous color</source>
         <translation>Previous color</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red:</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -184,8 +216,16 @@
         <translation>Top right</translation>
     </message>
     <message>
+        <source>Sat</source>
+        <translation>Sat:</translation>
+    </message>
+    <message>
         <source>Scale Logo</source>
         <translation>Scale</translation>
+    </message>
+    <message>
+        <source>SelectColor</source>
+        <translation>Choose a color</translation>
     </message>
     <message>
         <source>SelectImage</source>
@@ -258,6 +298,10 @@
     <message>
         <source>Upload your logo</source>
         <translation>Choose picture…</translation>
+    </message>
+    <message>
+        <source>Val</source>
+        <translation>Val:</translation>
     </message>
     <message>
         <source>Widget</source>

@@ -8,8 +8,20 @@
         <translation>添加</translation>
     </message>
     <message>
+        <source>AddtoCustomColors</source>
+        <translation>添加到自定义颜色</translation>
+    </message>
+    <message>
         <source>Apply</source>
         <translation>应用</translation>
+    </message>
+    <message>
+        <source>Basiccolors</source>
+        <translation>基本颜色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>蓝：</translation>
     </message>
     <message>
         <source>BorderWidth</source>
@@ -64,6 +76,10 @@
         <translation>确定</translation>
     </message>
     <message>
+        <source>Customcolors</source>
+        <translation>自定义颜色</translation>
+    </message>
+    <message>
         <source>Delete</source>
         <translation>删除</translation>
     </message>
@@ -94,6 +110,14 @@
     <message>
         <source>Gradient</source>
         <translation>渐变</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>绿：</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相：</translation>
     </message>
     <message>
         <source>Layer settings</source>
@@ -152,6 +176,10 @@
         <translation>外边框</translation>
     </message>
     <message>
+        <source>PickScreenColor</source>
+        <translation>拾取屏幕颜色</translation>
+    </message>
+    <message>
         <source>Picture Logo</source>
         <translation>图片标志</translation>
     </message>
@@ -162,6 +190,10 @@
     <message>
         <source>Previous color</source>
         <translation>上一个颜色</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>红：</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -184,8 +216,16 @@
         <translation>右上</translation>
     </message>
     <message>
+        <source>Sat</source>
+        <translation>饱和度：</translation>
+    </message>
+    <message>
         <source>Scale Logo</source>
         <translation>标志缩放</translation>
+    </message>
+    <message>
+        <source>SelectColor</source>
+        <translation>选择颜色</translation>
     </message>
     <message>
         <source>SelectImage</source>
@@ -258,6 +298,10 @@
     <message>
         <source>Upload your logo</source>
         <translation>上传您的标志</translation>
+    </message>
+    <message>
+        <source>Val</source>
+        <translation>明度：</translation>
     </message>
     <message>
         <source>Widget</source>

@@ -574,6 +574,17 @@ void BasicSettingBox::pushFrom(const TestChartToolsData& record)
     setData(record.basicData);
 }
 
+void BasicSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    setColor(color, role);
+}
+
+void BasicSettingBox::restoreRoleColor(const QString& role)
+{
+    if (d->chessButton(role))
+        restoreColor(role);
+}
+
 bool BasicSettingBox::eventFilter(QObject* watched, QEvent* event)
 {
     const bool ofStripeList = watched == d->stripeList || watched == d->stripeList->viewport();

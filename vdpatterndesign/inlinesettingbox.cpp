@@ -451,6 +451,16 @@ void InLineSettingBox::pushFrom(const TestChartToolsData& record)
     setData(record.inLineData);
 }
 
+void InLineSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    setColor(color, role);
+}
+
+void InLineSettingBox::restoreRoleColor(const QString& role)
+{
+    restoreColor(role);
+}
+
 } // namespace vardeno::testcharttools
 
 #include "inlinesettingbox.moc"

@@ -561,6 +561,18 @@ void LogoSettingBox::pushFrom(const TestChartToolsData& record)
     setData(record.logoData);
 }
 
+void LogoSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    if (role == QLatin1String("logo"))
+        setTextLogoColor(color);
+}
+
+void LogoSettingBox::restoreRoleColor(const QString& role)
+{
+    if (role == QLatin1String("logo"))
+        restoreTextLogoColor();
+}
+
 /// The wheel scrolls the column rather than changing the anchor, which would undo the shift, unless the box
 /// has the focus.
 bool LogoSettingBox::eventFilter(QObject* watched, QEvent* event)

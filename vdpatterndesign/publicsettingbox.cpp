@@ -308,6 +308,18 @@ void PublicSettingBox::pushFrom(const TestChartToolsData& record)
     setData(record.publicData);
 }
 
+void PublicSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    if (role == QLatin1String("outlineWidth"))
+        setOutLineColor(color);
+}
+
+void PublicSettingBox::restoreRoleColor(const QString& role)
+{
+    if (role == QLatin1String("outlineWidth"))
+        restoreOutLineColor();
+}
+
 } // namespace vardeno::testcharttools
 
 #include "publicsettingbox.moc"

@@ -310,6 +310,19 @@ void SelfSettingBox::pushFrom(const TestChartToolsData& record)
     setData(record.selfData);
 }
 
+void SelfSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    if (role == QLatin1String("selfText"))
+        setButtonColor(color, d->textColor);
+    else if (role == QLatin1String("resolution"))
+        setButtonColor(color, d->resolutionColor);
+}
+
+void SelfSettingBox::restoreRoleColor(const QString& role)
+{
+    restoreButtonColor(role);
+}
+
 void SelfSettingBox::focusAfterLock(bool locked)
 {
     if (locked)

@@ -27,6 +27,10 @@ void SettingPanel::retranslate()
     m_controls->captions.retranslate();
 }
 
+void SettingPanel::setRoleColor(const QString&, const QColor&) {}
+
+void SettingPanel::restoreRoleColor(const QString&) {}
+
 void SettingPanel::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);

@@ -7,7 +7,9 @@
 #include "common/layerstack.h"
 #include "common/previewfit.h"
 #include "common/resources.h"
+#include "common/swatch.h"
 #include "common/translation.h"
+#include "customcolordialog.h"
 #include "inlinesettingbox.h"
 #include "logosettingbox.h"
 #include "paintbasicwidget.h"
@@ -49,6 +51,8 @@ constexpr QSize saveButtonSize(80, 20);
 constexpr QSize editButtonSize(65, 28);
 constexpr int buttonMargin = 8;
 
+constexpr char servedRole[] = "customColorDialog"; ///< of the colour picker: what its colour is for
+
 constexpr int lockDelay = 10;       ///< ms: lets the mask paint before the panels lock
 constexpr int snapshotDelay = 100;  ///< ms: one snapshot for all that a change sets off
 constexpr int deletionDelay = 2000; ///< ms: the host learns of the new chart before the old one goes
@@ -89,8 +93,11 @@ public:
     PropertyBox* createSection(const char* objectName, const QString& title);
     template <typename Panel>
     Panel* addPanel(PropertyBox* section, const char* itemName, int height, int lockRank);
+    void createColorDialog();
     void createConnects();
     void connectReports();
+    void connectColorDialog();
+    void centreColorDialog();
 
     void fitToResolution();
     void captureAndDisplay();
@@ -99,6 +106,10 @@ public:
     void lockControls(bool locked);
     void takeSnapshot();
     bool isPaintDone() const;
+    QString servedColorRole() const
+    {
+        return colorDialog ? colorDialog->property(servedRole).toString() : QString();
+    }
 
     QString saveImage(EditType type, const QString& name);
     QImage imageForSaving();
@@ -117,6 +128,7 @@ public:
     std::vector<SettingPanel*> panels; ///< as they follow one another in the column and in the record
     std::map<int, SettingPanel*> panelsByLockRank; ///< the order in which they are locked, and take the focus
     LayerStack layers;
+    CustomColorDialog* colorDialog = nullptr; ///< null without a grandparent
     QWidget* viewArea = nullptr;
     QScrollArea* scrollArea = nullptr;
     QWidget* scrollContent = nullptr;
@@ -138,6 +150,7 @@ public:
     QString lastSavePath = QStringLiteral(" ");
     QString failedPath;
     TestChartToolsData record;
+    QPoint dialogAnchor;
     bool showForAdd = false;
     int testImageNumber = 0;
     std::map<int, bool> paintStatus;
@@ -174,8 +187,19 @@ void VTestChartTools::Impl::createWidget()
     logoPanel->setPicLogoWidget(layers.find<PaintPicLogoWidget>());
     logoPanel->setTextLogoWidget(layers.find<PaintTextLogoWidget>());
     selfPanel->setPaintSelfWidget(layers.find<PaintSelfWidget>());
+    createColorDialog();
     publicPanel->setPaintPublicBrightWidget(layers.find<PaintPublicBrightWidget>());
     publicPanel->setPaintPublicWidget(layers.find<PaintPublicWidget>());
+}
+
+void VTestChartTools::Impl::createColorDialog()
+{
+    if (!owner->parentWidget() || !owner->parentWidget()->parentWidget())
+        return;
+    colorDialog = new CustomColorDialog(owner);
+    colorDialog->setFloating(false);
+    colorDialog->setMoveClamped(true);
+    colorDialog->hide();
 }
 
 QWidget* VTestChartTools::Impl::createViewColumn()
@@ -295,7 +319,33 @@ void VTestChartTools::Impl::createConnects()
     connect(publicPanel, &PublicSettingBox::colSignal, owner, &VTestChartTools::slotUpdateCol);
     for (SettingPanel* panel : panels)
         connect(panel, &SettingPanel::changed, owner, &VTestChartTools::slotSaveBtnLight);
+    for (SettingPanel* panel : panels)
+        connect(panel, &SettingPanel::colorRequested, owner, &VTestChartTools::slotShowColorDialog);
+    connectColorDialog();
     connectReports();
+}
+
+void VTestChartTools::Impl::connectColorDialog()
+{
+    if (!colorDialog)
+        return;
+    connect(colorDialog, &CustomColorDialog::sigColorSelected, owner, &VTestChartTools::slotColorSelected);
+    connect(colorDialog, &CustomColorDialog::sigColorExternallyChanged, owner,
+            &VTestChartTools::slotColorSelected);
+    connect(colorDialog, &CustomColorDialog::sigColorDialogRejected, owner,
+            &VTestChartTools::slotColorDialogRejected);
+    connect(colorDialog, &CustomColorDialog::sigColorAccept, owner, &VTestChartTools::slotDialogAccepted);
+}
+
+/// On the anchor first, then on the host.
+void VTestChartTools::Impl::centreColorDialog()
+{
+    const QWidget* host = owner->parentWidget()->parentWidget();
+    colorDialog->adjustSize(); // before it is first shown it has no size of its own
+    QRect frame = colorDialog->frameGeometry();
+    frame.moveCenter(dialogAnchor);
+    frame.moveCenter(host->mapToGlobal(host->rect().center()));
+    colorDialog->move(frame.topLeft());
 }
 
 void VTestChartTools::Impl::connectReports()
@@ -539,6 +589,19 @@ void VTestChartTools::hideViewWidget()
     d->previewLabel->hide();
 }
 
+void VTestChartTools::setMoveRange(const QRect& range)
+{
+    d->dialogAnchor = range.center();
+    if (d->colorDialog)
+        d->colorDialog->setMoveRange(range);
+}
+
+void VTestChartTools::closeColorDialog()
+{
+    if (d->colorDialog)
+        d->colorDialog->hide();
+}
+
 void VTestChartTools::loadLanguageFiles(const std::vector<QString>& files)
 {
     for (const QString& file : files)
@@ -558,6 +621,10 @@ void VTestChartTools::translateLanguage()
         panel->retranslate();
     d->layerSection->setTitleText(translated(QStringLiteral("Layer settings")));
     d->contentSection->setTitleText(translated(QStringLiteral("Display content personalization")));
+    if (!d->colorDialog)
+        return;
+    d->colorDialog->setTitle(translated(QStringLiteral("SelectColor")));
+    d->colorDialog->retranslate();
 }
 
 void VTestChartTools::slotGetHeightWidth()
@@ -641,6 +708,48 @@ void VTestChartTools::slotSaveBtnLight()
     updateShowSaveBtnStatus(true);
 }
 
+void VTestChartTools::slotMainWindowMove(const QRect& globalRect, const QPoint& movePos)
+{
+    d->dialogAnchor = globalRect.center();
+    if (d->colorDialog)
+        d->colorDialog->slotMainWindowMove(globalRect, movePos);
+}
+
+void VTestChartTools::slotShowColorDialog(QPushButton* button)
+{
+    if (!d->colorDialog || !button)
+        return;
+    const QString role = colorRole(button);
+    d->colorDialog->setProperty(servedRole, role);
+    d->colorDialog->setCurrentColor(role == QLatin1String("add") ? QColor() : startColor(button));
+    if (!d->colorDialog->isVisible()) {
+        d->centreColorDialog();
+        d->colorDialog->setWindowFlags(d->colorDialog->windowFlags() | Qt::Window | Qt::WindowStaysOnTopHint);
+    }
+    d->colorDialog->show();
+    d->colorDialog->raise();
+    d->colorDialog->activateWindow();
+}
+
+void VTestChartTools::slotColorSelected(const QColor& color)
+{
+    if (!d->isPaintDone())
+        return;
+    for (SettingPanel* panel : d->panels)
+        panel->setRoleColor(d->servedColorRole(), color);
+}
+
+void VTestChartTools::slotColorDialogRejected()
+{
+    for (SettingPanel* panel : d->panels)
+        panel->restoreRoleColor(d->servedColorRole());
+}
+
+void VTestChartTools::slotDialogAccepted(QColor color)
+{
+    d->basicPanel->addColor(color, d->servedColorRole());
+}
+
 void VTestChartTools::slotUpdatePaintEventStatus(QString senderName)
 {
     qDebug() << Q_FUNC_INFO << "PaintTextChartTool is begining";
@@ -670,6 +779,12 @@ void VTestChartTools::resizeEvent(QResizeEvent* event)
 {
     slotGetHeightWidth();
     QWidget::resizeEvent(event);
+}
+
+void VTestChartTools::closeEvent(QCloseEvent* event)
+{
+    closeColorDialog();
+    QWidget::closeEvent(event);
 }
 
 } // namespace vardeno::testcharttools

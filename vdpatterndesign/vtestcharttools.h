@@ -56,6 +56,11 @@ public:
     /// Hides the preview.
     void hideViewWidget();
 
+    /// The host's main window, in global pixels: the colour picker stays in it.
+    void setMoveRange(const QRect& range);
+    /// Hides the colour picker.
+    void closeColorDialog();
+
     /// Loads language files, in order, into the process's translator; a file that cannot be loaded is passed
     /// over.
     void loadLanguageFiles(const std::vector<QString>& files);
@@ -88,12 +93,24 @@ public Q_SLOTS:
     void slotUpdateResolution();
     /// Marks the chart as changed.
     void slotSaveBtnLight();
+    /// The host's main window has moved by `movePos` and now is `globalRect`.
+    void slotMainWindowMove(const QRect& globalRect, const QPoint& movePos);
+    /// Opens the colour picker for the colour of `button`; it exists only where this widget had a grandparent
+    /// when it was built. Null does nothing.
+    void slotShowColorDialog(QPushButton* button);
+    /// Gives the colour that is being picked its new value; dropped while the chart is being repainted.
+    void slotColorSelected(const QColor& color);
+    /// Gives the colour that is being picked its old value back.
+    void slotColorDialogRejected();
+    /// A colour to be added has been chosen.
+    void slotDialogAccepted(QColor color);
     /// A layer has painted; `senderName` identifies it.
     void slotUpdatePaintEventStatus(QString senderName);
 
 protected:
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     class Impl;

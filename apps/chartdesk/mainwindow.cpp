@@ -151,7 +151,7 @@ QWidget* MainWindow::createListPage()
 
 QWidget* MainWindow::createEditorPage()
 {
-    auto* scroll = new QScrollArea; // for screens smaller than the editor
+    auto* scroll = new QScrollArea(m_pages); // for screens smaller than the editor
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setAlignment(Qt::AlignCenter);
     m_editor = new VTestChartTools(scroll);

@@ -66,7 +66,8 @@ void InputKeeper::end()
         return;
     m_ending = true;
     // Not now: the last layer may be reporting from within its paint event.
-    QMetaObject::invokeMethod(this, [this] { giveBack(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { giveBack(); }, Qt::QueuedConnection);
 }
 
 void InputKeeper::giveBack()

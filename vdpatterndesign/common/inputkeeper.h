@@ -25,8 +25,8 @@ public:
 
     /// The controls are about to become inert, or to lose the focus; again meanwhile changes nothing.
     void begin();
-    /// The controls work again: what was kept is given back once the current event has been dealt with, unless the
-    /// controls become inert again before.
+    /// The controls work again: what was kept is given back once the current event has been dealt with,
+    /// unless the controls become inert again before.
     void end();
 
     /// Where turns of the wheel arrive instead of at the controls, from the first change on.

@@ -80,6 +80,24 @@ QColor swatchColor(const QPushButton* button)
                : shown;
 }
 
+QString colorRole(const QPushButton* button)
+{
+    if (!button)
+        return {};
+    const QString role = button->property("btnProperty").toString();
+    if (role == QLatin1String("outLineColorButton"))
+        return QStringLiteral("outlineWidth");
+    return role.isEmpty() ? button->objectName().remove(QLatin1String("ColorButton")) : role;
+}
+
+QColor startColor(QPushButton* button)
+{
+    if (!button->icon().isNull())
+        return swatchColor(button);
+    const QImage image = button->grab().toImage();
+    return image.pixelColor(image.width() / 2, image.height() / 2);
+}
+
 SwitchedSwatch::SwitchedSwatch(QPushButton* button, const QColor& kept)
     : m_button(button)
     , m_kept(kept)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QString>
 
 class QPushButton;
 
@@ -19,6 +20,14 @@ void paintDisabledSwatch(QPushButton* button);
 /// The colour a button shows: the pixel at the centre of its icon, invalid for a button without an icon. A
 /// translucent colour comes back as it was painted, without the rounding that a picture's pixels suffer.
 QColor swatchColor(const QPushButton* button);
+
+/// What the colour of a button is for ("outlineWidth", "circle", "odd" and so on): its dynamic property
+/// "btnProperty", or, where it has none, what its object name says. Empty for no button.
+QString colorRole(const QPushButton* button);
+
+/// The colour to begin with when the colour of `button` is picked: the one its icon shows, or, without an
+/// icon, the one that it shows itself.
+QColor startColor(QPushButton* button);
 
 /// The colour of a group that can be switched off. While the group is off its button shows the grey swatch,
 /// and the colour is kept until the group is switched on again.
