@@ -245,6 +245,15 @@ private Q_SLOTS:
                                    << "1\n2";
         QTest::newRow("literal section") << QByteArray("Chess") << QByteArray("<![CDATA[a < b]]>") << "Chess"
                                          << "a < b";
+        QTest::newRow("comments are no text")
+            << QByteArray("Ch<!-- a comment -->ess") << QByteArray("Chess<!-- another -->board") << "Chess"
+            << "Chessboard";
+        QTest::newRow("instructions are no text")
+            << QByteArray("Ch<?a b?>ess") << QByteArray("Chess<?c d?>board") << "Chess"
+            << "Chessboard";
+        QTest::newRow("text of nested elements")
+            << QByteArray("Chess") << QByteArray("<numerusform>Chess</numerusform>board") << "Chess"
+            << "Chessboard";
     }
 
     void texts()
@@ -472,6 +481,7 @@ private:
     QString file(const char* name, const QByteArray& content) const
     {
         QFile device(m_folder.filePath(QLatin1String(name)));
+        device.remove(); // a file that is cut and written anew goes to the disk each time
         const bool written = device.open(QIODevice::WriteOnly) && device.write(content) == content.size();
         return written ? device.fileName() : QString();
     }

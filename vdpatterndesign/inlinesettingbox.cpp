@@ -230,7 +230,7 @@ void InLineSettingBox::Impl::showColor(ColorRole& role, const QColor& color)
 
 void InLineSettingBox::Impl::showDiffering(ColorRole& role, const RgbaColor& color)
 {
-    if (toQColor(color) != swatchColor(role.button))
+    if (toQColor(color) != role.swatch.color())
         showColor(role, toQColor(color));
 }
 

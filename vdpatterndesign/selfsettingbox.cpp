@@ -264,7 +264,7 @@ void SelfSettingBox::setData(const SelfChartData& data)
 
 void SelfSettingBox::setButtonColor(const QColor& color, QPushButton* button)
 {
-    if (!button || color == swatchColor(button))
+    if (!button || color == d->swatchOf(button).color())
         return;
     d->showColor(color, button);
     Q_EMIT selfSignal();

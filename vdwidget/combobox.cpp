@@ -1,10 +1,11 @@
 #include "combobox.h"
 
 #include <QAbstractItemView>
-#include <QEvent>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -36,9 +37,11 @@ void ComboBox::paintEvent(QPaintEvent*)
 
 bool ComboBox::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip)
-        setToolTip(fittedText() == currentText() ? QString() : currentText());
-    return QComboBox::event(event);
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
+        return QComboBox::event(event);
+    const bool fits = fittedText() == currentText();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), fits ? QString() : currentText(), this);
+    return true;
 }
 
 QString ComboBox::fittedText() const
