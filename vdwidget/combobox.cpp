@@ -46,8 +46,11 @@ bool ComboBox::event(QEvent* event)
 
 QString ComboBox::fittedText() const
 {
-    constexpr int arrowWidth = 20;
-    return fontMetrics().elidedText(currentText(), Qt::ElideRight, width() - arrowWidth);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width());
 }
 
 int ComboBox::widestItem() const
