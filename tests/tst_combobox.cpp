@@ -5,7 +5,6 @@
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QScrollBar>
-#include <QStyle>
 #include <QStyleFactory>
 #include <QStyleOptionComboBox>
 #include <QToolTip>
@@ -179,30 +178,59 @@ private Q_SLOTS:
         QCOMPARE(QToolTip::text(), expected);
     }
 
+    void toolTipFollowsTheWidth_data()
+    {
+        QTest::addColumn<int>("spare");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("plenty of room") << 80 << "";
+        QTest::newRow("just enough beside the arrow") << 1 << "";
+        QTest::newRow("a pixel too few") << -1 << longText;
+    }
+
+    /// `spare`: how much wider than the text the box is beside its arrow.
     void toolTipFollowsTheWidth()
     {
+        QFETCH(int, spare);
+        QFETCH(QString, expected);
         m_box->setCurrentIndex(1);
-        m_box->setFixedWidth(m_box->fontMetrics().horizontalAdvance(longText) + 100);
-        QTRY_VERIFY(m_box->width() > 200);
+        m_box->setFixedWidth(m_box->fontMetrics().horizontalAdvance(longText) + besideField(*m_box) + spare);
         askForToolTip();
-        QCOMPARE(QToolTip::text(), QString());
+        QCOMPARE(QToolTip::text(), expected);
+    }
 
-        QStyleOptionComboBox option;
-        option.initFrom(m_box);
-        option.subControls = QStyle::SC_All;
-        const QRect field =
-            m_box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, m_box);
-        const int around = m_box->width() - field.width();
-        const int exact = m_box->fontMetrics().horizontalAdvance(longText) + around;
-        m_box->setFixedWidth(exact);
-        askForToolTip();
-        QCOMPARE(QToolTip::text(), QString());
-        m_box->setFixedWidth(exact - 1);
-        askForToolTip();
-        QCOMPARE(QToolTip::text(), longText);
+    void wideItemIsShownElided_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::newRow("fits") << 600;
+        QTest::newRow("elided") << 120;
+        QTest::newRow("hardly a letter") << 40;
+    }
+
+    void wideItemIsShownElided()
+    {
+        QFETCH(int, width);
+        ComboBox box;
+        box.addItem(longText);
+        ComboBox expected;
+        box.resize(width, 24);
+        expected.resize(width, 24);
+        expected.addItem(box.fontMetrics().elidedText(longText, Qt::ElideRight, width - besideField(box)));
+        VD_COMPARE_IMAGES(box.grab().toImage(), expected.grab().toImage());
+        QCOMPARE(box.currentText(), longText);
     }
 
 private:
+    /// What the style takes of the box's width for frame and arrow.
+    static int besideField(const QComboBox& box)
+    {
+        QStyleOptionComboBox option;
+        option.initFrom(&box);
+        option.subControls = QStyle::SC_All;
+        const QRect field =
+            box.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box);
+        return box.width() - field.width();
+    }
+
     void setStyle(const QString& name)
     {
         QStyle* style = QStyleFactory::create(name);

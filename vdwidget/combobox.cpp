@@ -50,7 +50,8 @@ QString ComboBox::fittedText() const
     initStyleOption(&option);
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    return fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width());
+    const bool fits = fontMetrics().horizontalAdvance(currentText()) <= field.width();
+    return fits ? currentText() : fontMetrics().elidedText(currentText(), Qt::ElideRight, field.width());
 }
 
 int ComboBox::widestItem() const
