@@ -258,6 +258,19 @@ private Q_SLOTS:
                  allowed);
     }
 
+    /// "charts/way/.." reads as "charts", but is the folder that the link leads into.
+    void aWayThroughALinkRemovesNothing()
+    {
+        QVERIFY(QDir().mkpath(at("far/20240101_120000/inner")));
+        touch("far/20240101_120000/old.png");
+        QVERIFY(QFile::link(at("far/20240101_120000/inner"), at("charts/20240101_120000/way")));
+        removeChartFolder(at("charts/20240101_120000/way/../old.png"), at("charts/20240101_120001/new.png"),
+                          at("charts"));
+        QCOMPARE(log().messages(QStringLiteral("testChartImage Folder Removed Failed:")).size(), 1);
+        QVERIFY(QFileInfo::exists(at("charts/20240101_120000/old.png")));
+        QVERIFY(QFileInfo::exists(at("far/20240101_120000/old.png")));
+    }
+
     void missingChartIsOnlyLogged_data()
     {
         QTest::addColumn<QString>("path");

@@ -183,7 +183,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("spare");
         QTest::addColumn<QString>("expected");
         QTest::newRow("plenty of room") << 80 << "";
-        QTest::newRow("just enough beside the arrow") << 1 << "";
+        QTest::newRow("just enough beside the arrow") << 0 << "";
         QTest::newRow("a pixel too few") << -1 << longText;
     }
 

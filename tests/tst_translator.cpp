@@ -192,7 +192,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         if (path.isEmpty())
-            log().allowWarning(QStringLiteral("QFSFileEngine::open: No file name specified"));
+            log().allowWarning(QStringLiteral("^QFSFileEngine::open: "));
         verifyRefused(path);
     }
 

@@ -101,7 +101,8 @@ private:
                 --depth;
                 break;
             default:
-                text += m_xml.text();
+                if (m_xml.isCharacters())
+                    text += m_xml.text();
             }
         }
         return text;

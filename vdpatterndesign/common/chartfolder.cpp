@@ -59,8 +59,10 @@ void removeChartFolder(const QString& path, const QString& replacement, const QS
         qDebug() << Q_FUNC_INFO << "testChartImage Folder does not exist:" << folder;
         return;
     }
-    const bool removed =
-        mayRemoveChartFolder(folder, replacement, saveRoot) && QDir(folder).removeRecursively();
+    const bool holdsTheChart =
+        QFileInfo(path).canonicalPath() == canonical(folder); // not so behind "link/.."
+    const bool removed = holdsTheChart && mayRemoveChartFolder(folder, replacement, saveRoot) &&
+                         QDir(folder).removeRecursively();
     qDebug() << Q_FUNC_INFO
              << (removed ? "testChartImage Folder Removed success:" : "testChartImage Folder Removed Failed:")
              << folder;
