@@ -222,15 +222,18 @@ private Q_SLOTS:
             VD_COMPARE_IMAGES(iconImage(button), expectedSwatch(QSize(16, 16), QColor(color)));
     }
 
-    void paintingWhileOffShowsTheColor()
+    void paintingWhileOffKeepsTheColorForLater()
     {
         QPushButton button;
         button.resize(16, 16);
         SwitchedSwatch swatch(&button, Qt::white);
         swatch.show(false);
+        const QImage grey = button.icon().pixmap(40, 20).toImage();
         swatch.paint(Qt::blue);
-        QCOMPARE(swatchColor(&button), QColor(Qt::blue));
+        QCOMPARE(button.icon().pixmap(40, 20).toImage(), grey);
         QCOMPARE(swatch.color(), QColor(Qt::blue));
+        swatch.show(true);
+        QCOMPARE(swatchColor(&button), QColor(Qt::blue));
     }
 
     void withoutAnIconTheColorIsInvalid()

@@ -515,7 +515,9 @@ void BasicSettingBox::setColor(const QColor& color, const QString& which)
 
 void BasicSettingBox::restoreColor(const QString& which)
 {
-    setColor(which == QLatin1String("odd") ? d->oddBeforePicking : d->evenBeforePicking, which);
+    const QColor before = which == QLatin1String("odd") ? d->oddBeforePicking : d->evenBeforePicking;
+    if (before.isValid())
+        setColor(before, which);
 }
 
 void BasicSettingBox::addColor(const QColor& color, const QString& which)
@@ -577,12 +579,6 @@ void BasicSettingBox::pushFrom(const TestChartToolsData& record)
 void BasicSettingBox::setRoleColor(const QString& role, const QColor& color)
 {
     setColor(color, role);
-}
-
-void BasicSettingBox::restoreRoleColor(const QString& role)
-{
-    if (d->chessButton(role))
-        restoreColor(role);
 }
 
 bool BasicSettingBox::eventFilter(QObject* watched, QEvent* event)

@@ -388,7 +388,8 @@ void InLineSettingBox::setColor(const QColor& color, const QString& which)
 
 void InLineSettingBox::restoreColor(const QString& which)
 {
-    if (ColorRole* role = d->role(which))
+    ColorRole* role = d->role(which);
+    if (role && role->beforePicking.isValid())
         d->showColor(*role, role->beforePicking);
 }
 
@@ -454,11 +455,6 @@ void InLineSettingBox::pushFrom(const TestChartToolsData& record)
 void InLineSettingBox::setRoleColor(const QString& role, const QColor& color)
 {
     setColor(color, role);
-}
-
-void InLineSettingBox::restoreRoleColor(const QString& role)
-{
-    restoreColor(role);
 }
 
 } // namespace vardeno::testcharttools

@@ -207,9 +207,12 @@ QWidget* LogoSettingBox::Impl::buildTextPage(PanelControls& controls)
     rows.row(QStringLiteral("Text Logo"))
         .text(text, QString::fromStdString(LogoChartData().logoText), QSize(266, 24), whenOn);
     rows.row(QStringLiteral("Text Size"))
+        .spacing(0)
+        .gap(8)
         .spin(textSize, shortEntry, range(0, 100).value(100).suffix(QStringLiteral("px")), whenOn)
-        .gap(4)
-        .caption(QStringLiteral("Color"), QSize(40, 24))
+        .gap(12)
+        .caption(QStringLiteral("Color"), captionSize)
+        .gap(7)
         .swatch(colorButton, QStringLiteral("textColorBtn"), QStringLiteral("logo"), whenOn);
     textSwatch = SwitchedSwatch(colorButton);
     textSwatch.paint(Qt::black);
@@ -541,7 +544,8 @@ void LogoSettingBox::setTextLogoColor(const QColor& color)
 
 void LogoSettingBox::restoreTextLogoColor()
 {
-    setTextLogoColor(d->textColor);
+    if (d->textColor.isValid())
+        setTextLogoColor(d->textColor);
 }
 
 void LogoSettingBox::retranslate()
@@ -565,12 +569,6 @@ void LogoSettingBox::setRoleColor(const QString& role, const QColor& color)
 {
     if (role == QLatin1String("logo"))
         setTextLogoColor(color);
-}
-
-void LogoSettingBox::restoreRoleColor(const QString& role)
-{
-    if (role == QLatin1String("logo"))
-        restoreTextLogoColor();
 }
 
 /// The wheel scrolls the column rather than changing the anchor, which would undo the shift, unless the box

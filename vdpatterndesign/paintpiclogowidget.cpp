@@ -157,6 +157,8 @@ void PaintPicLogoWidget::translateTitle()
 std::optional<QPixmap> PaintPicLogoWidget::renderedPicture()
 {
     const QImage& image = d->picture.load(d->path());
+    if (image.isNull())
+        return QPixmap();
     const QSize scaled(int(float(image.width()) * d->scale), int(float(image.height()) * d->scale));
     const QPixmap logo =
         QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));

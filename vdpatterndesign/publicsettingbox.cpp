@@ -295,7 +295,8 @@ void PublicSettingBox::setOutLineColor(const QColor& color)
 
 void PublicSettingBox::restoreOutLineColor()
 {
-    d->showBorderColor(d->colorBeforePicking);
+    if (d->colorBeforePicking.isValid())
+        d->showBorderColor(d->colorBeforePicking);
 }
 
 void PublicSettingBox::collectInto(TestChartToolsData& record) const
@@ -312,12 +313,6 @@ void PublicSettingBox::setRoleColor(const QString& role, const QColor& color)
 {
     if (role == QLatin1String("outlineWidth"))
         setOutLineColor(color);
-}
-
-void PublicSettingBox::restoreRoleColor(const QString& role)
-{
-    if (role == QLatin1String("outlineWidth"))
-        restoreOutLineColor();
 }
 
 } // namespace vardeno::testcharttools

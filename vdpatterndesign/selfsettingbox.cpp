@@ -264,7 +264,7 @@ void SelfSettingBox::setData(const SelfChartData& data)
 
 void SelfSettingBox::setButtonColor(const QColor& color, QPushButton* button)
 {
-    if (!button || color == d->swatchOf(button).color())
+    if (!button || !color.isValid() || color == d->swatchOf(button).color())
         return;
     d->showColor(color, button);
     Q_EMIT selfSignal();
@@ -316,11 +316,6 @@ void SelfSettingBox::setRoleColor(const QString& role, const QColor& color)
         setButtonColor(color, d->textColor);
     else if (role == QLatin1String("resolution"))
         setButtonColor(color, d->resolutionColor);
-}
-
-void SelfSettingBox::restoreRoleColor(const QString& role)
-{
-    restoreButtonColor(role);
 }
 
 void SelfSettingBox::focusAfterLock(bool locked)

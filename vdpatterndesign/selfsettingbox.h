@@ -42,7 +42,6 @@ public:
     void collectInto(TestChartToolsData& record) const override;
     void pushFrom(const TestChartToolsData& record) override;
     void setRoleColor(const QString& role, const QColor& color) override;
-    void restoreRoleColor(const QString& role) override;
 
 Q_SIGNALS:
     void selfSignal();

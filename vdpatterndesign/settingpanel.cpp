@@ -29,8 +29,6 @@ void SettingPanel::retranslate()
 
 void SettingPanel::setRoleColor(const QString&, const QColor&) {}
 
-void SettingPanel::restoreRoleColor(const QString&) {}
-
 void SettingPanel::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);

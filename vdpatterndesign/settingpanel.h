@@ -38,10 +38,8 @@ public:
     /// Shows the panel's group of `record` in the controls, and with them in the painters.
     virtual void pushFrom(const TestChartToolsData& record) = 0;
 
-    /// Gives one of the panel's colours a new value, or the one back that it had when its button was last
-    /// clicked. Panels know their own roles; any other does nothing.
+    /// Gives the panel's colour of the role `role` a new value; the roles of other panels do nothing.
     virtual void setRoleColor(const QString& role, const QColor& color);
-    virtual void restoreRoleColor(const QString& role);
 
 Q_SIGNALS:
     /// The panel's layers have changed: the change signal of every panel arrives here as well.

@@ -151,6 +151,7 @@ public:
     QString failedPath;
     TestChartToolsData record;
     QPoint dialogAnchor;
+    QColor colorBeforePicking; ///< invalid while there is none to go back to
     bool showForAdd = false;
     int testImageNumber = 0;
     std::map<int, bool> paintStatus;
@@ -720,11 +721,15 @@ void VTestChartTools::slotShowColorDialog(QPushButton* button)
     if (!d->colorDialog || !button)
         return;
     const QString role = colorRole(button);
+    const QColor start = role == QLatin1String("add") ? QColor() : startColor(button);
+    // Another click on the button of an open picker does not change the colour to go back to.
+    if (!d->colorDialog->isVisible() || role != d->servedColorRole())
+        d->colorBeforePicking = start;
     d->colorDialog->setProperty(servedRole, role);
-    d->colorDialog->setCurrentColor(role == QLatin1String("add") ? QColor() : startColor(button));
+    d->colorDialog->setCurrentColor(start);
     if (!d->colorDialog->isVisible()) {
-        d->centreColorDialog();
         d->colorDialog->setWindowFlags(d->colorDialog->windowFlags() | Qt::Window | Qt::WindowStaysOnTopHint);
+        d->centreColorDialog();
     }
     d->colorDialog->show();
     d->colorDialog->raise();
@@ -741,8 +746,10 @@ void VTestChartTools::slotColorSelected(const QColor& color)
 
 void VTestChartTools::slotColorDialogRejected()
 {
+    if (!d->colorBeforePicking.isValid())
+        return;
     for (SettingPanel* panel : d->panels)
-        panel->restoreRoleColor(d->servedColorRole());
+        panel->setRoleColor(d->servedColorRole(), d->colorBeforePicking);
 }
 
 void VTestChartTools::slotDialogAccepted(QColor color)

@@ -5,6 +5,8 @@
 #include <QImageReader>
 #include <QSaveFile>
 
+#include <cstdlib>
+
 namespace vardeno::testcharttools {
 
 /// Encodes in memory first: saving straight to a file reports success when the disk fills up in its last
@@ -22,11 +24,13 @@ bool writeImageWhole(const QImage& image, const QString& path, const char* forma
 
 PictureFile examinePicture(const QString& path)
 {
-    const QImageReader reader(path);
-    const QSize size = reader.size();
-    if (size.isEmpty())
+    if (path.isEmpty())
         return PictureFile::Unreadable;
-    const bool small = size.width() <= largestPicture && size.height() <= largestPicture;
+    const QSize size = QImageReader(path).size();
+    const int height = std::abs(size.height()); // below 0 where a BMP file has its rows from the top
+    if (size == QSize() || size.width() <= 0 || height == 0)
+        return PictureFile::Unreadable;
+    const bool small = size.width() <= largestPicture && height <= largestPicture;
     return small ? PictureFile::Readable : PictureFile::TooLarge;
 }
 

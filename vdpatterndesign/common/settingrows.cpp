@@ -168,6 +168,12 @@ SettingRow& SettingRow::gap(int pixels)
     return *this;
 }
 
+SettingRow& SettingRow::spacing(int pixels)
+{
+    m_layout->setSpacing(pixels);
+    return *this;
+}
+
 void SettingRow::append(QWidget* control, const QSize& size)
 {
     control->setFixedSize(size);

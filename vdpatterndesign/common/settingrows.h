@@ -73,6 +73,8 @@ public:
     /// A widget that the panel made itself; the lock leaves it alone.
     SettingRow& widget(QWidget* widget);
     SettingRow& gap(int pixels);
+    /// Between what follows; at first 8.
+    SettingRow& spacing(int pixels);
 
 private:
     void append(QWidget* control, const QSize& size);

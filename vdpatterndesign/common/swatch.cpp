@@ -122,7 +122,8 @@ void SwitchedSwatch::show(bool on)
 void SwitchedSwatch::paint(const QColor& color)
 {
     m_kept = color;
-    paintSwatch(m_button, color);
+    if (m_on)
+        paintSwatch(m_button, color);
 }
 
 QColor SwitchedSwatch::color() const

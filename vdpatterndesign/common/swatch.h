@@ -40,7 +40,7 @@ public:
     void keep(bool on);
     /// Shows the kept colour (on) or the grey swatch (off).
     void show(bool on);
-    /// Shows a new colour, which is also the kept one.
+    /// Gives the group a new colour, which is shown now or when the group is switched on.
     void paint(const QColor& color);
 
     /// The group's colour, whether it is on or off.
