@@ -26,7 +26,7 @@ private:
         Shown()
         {
             tool.show();
-            QApplication::setActiveWindow(&tool);
+            tool.activateWindow();
             const bool ready = QTest::qWaitForWindowActive(&tool) && idle();
             Q_ASSERT(ready);
             Q_UNUSED(ready)
@@ -191,7 +191,7 @@ private Q_SLOTS:
         row->addWidget(other);
         row->addWidget(tool);
         window.show();
-        QApplication::setActiveWindow(&window);
+        window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QTest::qWait(250);
         other->setFocus();

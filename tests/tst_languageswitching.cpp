@@ -3,6 +3,7 @@
 #include <propertybox.h>
 #include <translatemanager1.h>
 
+#include <QComboBox>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 
@@ -30,10 +31,29 @@ QByteArray languageFile(const QString& language, const Texts& texts)
 /// What the tool shows in a language of short texts, so that nothing is elided.
 Texts shortTexts()
 {
-    return {{"Apply", "ap"},  {"Cancel", "ca"},    {"Confirm", "co"},       {"Layer settings", "ls"},
-            {"Chess", "ch"},  {"Color bar", "cb"}, {"Brightness", "br"},    {"Resolution", "re"},
-            {"Delete", "de"}, {"Reset", "rs"},     {"TestImage", "Imagen"}, {"DeleteColorBar", "dc"},
-            {"OK", "ok"},     {"Cannel", "cn"}};
+    return {{"Apply", "ap"},
+            {"Cancel", "ca"},
+            {"Confirm", "co"},
+            {"Layer settings", "ls"},
+            {"Chess", "ch"},
+            {"Color bar", "cb"},
+            {"Brightness", "br"},
+            {"Resolution", "re"},
+            {"Delete", "de"},
+            {"Reset", "rs"},
+            {"TestImage", "Imagen"},
+            {"DeleteColorBar", "dc"},
+            {"OK", "ok"},
+            {"Cannel", "cn"},
+            {"Display content personalization", "dp"},
+            {"Show Circle", "sc"},
+            {"Letter Mode", "lm"},
+            {"Center", "ce"},
+            {"Show Logo", "sl"},
+            {"Upload your logo", "ul"},
+            {"Display custom text", "dt"},
+            {"Text Input", "ti"},
+            {"SelectColor", "pick"}};
 }
 
 QStringList buttonTexts(const User& user)
@@ -54,9 +74,96 @@ const QStringList& shortButtons()
     return texts;
 }
 
-QString sectionTitle(const User& user)
+QStringList sectionTitles(const User& user)
 {
-    return user.named<PropertyBox>("basePropertyBox")->titleText();
+    return {user.named<PropertyBox>("basePropertyBox")->titleText(),
+            user.named<PropertyBox>("userSettingPropertyBox")->titleText()};
+}
+
+const QStringList& englishTitles()
+{
+    static const QStringList texts = {"Layer settings", "Display content personalization"};
+    return texts;
+}
+
+const QStringList& shortTitles()
+{
+    static const QStringList texts = {"ls", "dp"};
+    return texts;
+}
+
+/// What the panels look up to show their texts, each in the order of its rows.
+QStringList basicSources()
+{
+    return {"Mode selection", "Chess",          "Color bar",  "Odd", "Even",   "Gradient",
+            "Color bar",      "Previous color", "Next color", "Add", "Delete", "Widget"};
+}
+
+QStringList publicSources()
+{
+    return {"Brightness", "Reset", "Resolution", "Box RowColNum", "OutBorder", "BorderWidth", "Color"};
+}
+
+QStringList inLineSources()
+{
+    return {"Show Circle",
+            "Circle",
+            "BorderWidth",
+            "Color",
+            "Show Diagonal",
+            "BorderWidth",
+            "Color",
+            "Show Serial Number",
+            "Serial Size",
+            "Color",
+            "Show Model",
+            "Letter Mode",
+            "Num Mode",
+            "Combination Mode",
+            "Show Position",
+            "Center",
+            "Left Up Right Down",
+            "Left Down Right Up",
+            "Sort by",
+            "From up to down increase Frome left to right increase",
+            "from up to down increase frome left to right decrease",
+            "from down to up increase frome left to right increase",
+            "from down to up increase frome left to right decrease",
+            "Widget"};
+}
+
+QStringList logoSources()
+{
+    return {"Show Logo",
+            "Logo Style",
+            "Picture Logo",
+            "Text Logo",
+            "UpLogo",
+            "Upload your logo",
+            "SuggestTransparentbackgroundrecommended",
+            "Scale Logo",
+            "Reset",
+            "Text Logo",
+            "Text Size",
+            "Color",
+            "Display Position",
+            "Center",
+            "Left Up",
+            "Left Down",
+            "Right Up",
+            "Right Down",
+            "Position adjustment",
+            "X",
+            "Y",
+            "Opacity",
+            "Reset",
+            "SelectImage"};
+}
+
+QStringList selfSources()
+{
+    return {"Display custom text", "Text Input", "Text Size",      "Color",     "Show Resolution",
+            "Show Size",           "Color",      "ResolutionShow", "BoxNumShow"};
 }
 
 /// The sources of the texts that were looked up in `language` and are lacking there, in order.
@@ -126,7 +233,7 @@ private Q_SLOTS:
         tool.setTestChartToolsData(smallRecord());
         tool.switchLanguage(language);
         QCOMPARE(buttonTexts(user), englishButtons());
-        QCOMPARE(sectionTitle(user), QStringLiteral("Layer settings"));
+        QCOMPARE(sectionTitles(user), englishTitles());
         QCOMPARE(user.chess()->text(), QStringLiteral("Chess"));
         QVERIFY(user.captionLabel(QStringLiteral("Brightness")));
         QCOMPARE(addedName(tool), QStringLiteral("TestImage7.png"));
@@ -144,36 +251,91 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
         QCOMPARE(TranslateManager1::instance().translator().language(), QStringLiteral("es"));
         QCOMPARE(buttonTexts(user), shortButtons());
-        QCOMPARE(sectionTitle(user), QStringLiteral("ls"));
+        QCOMPARE(sectionTitles(user), shortTitles());
         QCOMPARE(user.chess()->text(), QStringLiteral("ch"));
         QCOMPARE(user.colorBar()->text(), QStringLiteral("cb"));
         QVERIFY(user.captionLabel(QStringLiteral("br")));
         QVERIFY(user.captionLabel(QStringLiteral("re")));
+        for (const char* caption : {"sc", "sl", "dt", "ti"})
+            QVERIFY2(user.captionLabel(QLatin1String(caption)), caption);
+        QCOMPARE(user.inLinePanel()->findChild<QRadioButton*>()->text(), QStringLiteral("lm"));
+        QCOMPARE(user.inLinePanel()->findChild<QComboBox*>()->itemText(0), QStringLiteral("ce"));
+        QCOMPARE(user.logoPanel()->findChild<QComboBox*>()->itemText(0), QStringLiteral("ce"));
+        QCOMPARE(user.logoPanel()->findChild<QPushButton*>(QStringLiteral("CancleButton"))->text(),
+                 QStringLiteral("ul"));
         QCOMPARE(user.named<QPushButton>("BrightResetBtn")->toolTip(), QStringLiteral("rs"));
         QCOMPARE(user.basicPanel()->findChild<QPushButton*>(QStringLiteral("CancleButton"))->text(),
                  QStringLiteral("de"));
 
         tool.switchLanguage(QString());
         QCOMPARE(buttonTexts(user), englishButtons());
-        QCOMPARE(sectionTitle(user), QStringLiteral("Layer settings"));
+        QCOMPARE(sectionTitles(user), englishTitles());
         QCOMPARE(user.chess()->text(), QStringLiteral("Chess"));
         QVERIFY(user.captionLabel(QStringLiteral("Brightness")));
     }
 
+    void textsAreSetInOrder_data()
+    {
+        QTest::addColumn<bool>("withColorDialog");
+        QTest::newRow("without a colour dialog") << false;
+        QTest::newRow("with a colour dialog") << true;
+    }
+
     void textsAreSetInOrder()
     {
-        VTestChartTools tool;
-        tool.loadLanguageFiles({write(QStringLiteral("empty.ts"), QStringLiteral("la"), {})});
+        QFETCH(bool, withColorDialog);
+        QWidget window;
+        QWidget page(&window);
+        auto* tool = new VTestChartTools(withColorDialog ? &page : &window);
+        tool->loadLanguageFiles({write(QStringLiteral("empty.ts"), QStringLiteral("la"), {})});
         QLoggingCategory::setFilterRules(QStringLiteral("vardeno.translate.debug=true"));
         log().clear();
-        tool.switchLanguage(QStringLiteral("la"));
+        tool->switchLanguage(QStringLiteral("la"));
         const QStringList order = lacking(log().messages(), QStringLiteral("la"));
-        QCOMPARE(order.mid(0, 5), englishButtons());
-        QVERIFY(order.indexOf("Chess") > 4);
-        QVERIFY(order.lastIndexOf("Color bar") < order.indexOf("Brightness"));
-        QVERIFY(order.indexOf("Brightness") < order.indexOf("OutBorder"));
-        QCOMPARE(order.last(), QStringLiteral("Layer settings"));
-        QCOMPARE(order.indexOf("Layer settings"), order.size() - 1);
+        const QStringList expected = englishButtons() + basicSources() + publicSources() + inLineSources() +
+                                     logoSources() + selfSources() + englishTitles();
+        QCOMPARE(order.mid(0, expected.size()), expected);
+        QCOMPARE(order.value(expected.size()), withColorDialog ? QStringLiteral("SelectColor") : QString());
+        QCOMPARE(order.size() > expected.size(), withColorDialog);
+    }
+
+    void colorDialogIsTitled()
+    {
+        QWidget window;
+        QWidget page(&window);
+        auto* tool = new VTestChartTools(&page);
+        const auto titles = [tool] {
+            QStringList texts;
+            for (const auto* label : tool->findChild<QWidget*>("includeDialog")->findChildren<QLabel*>())
+                texts.append(label->text());
+            return texts;
+        };
+        tool->loadLanguageFiles({write(QStringLiteral("short.ts"), QStringLiteral("cs"), shortTexts())});
+        tool->switchLanguage(QStringLiteral("cs"));
+        QVERIFY(titles().contains("pick"));
+        tool->switchLanguage(QString());
+        QVERIFY(titles().contains("SelectColor"));
+        QVERIFY(!titles().contains("pick"));
+    }
+
+    void informationLineFollowsTheLanguage()
+    {
+        VTestChartTools tool;
+        const User user(tool);
+        TestChartToolsData record = smallRecord();
+        record.selfData.showResolution = true;
+        tool.setTestChartToolsData(record);
+        const QImage captionless = layerImage(*user.painter<PaintSelfWidget>());
+        tool.loadLanguageFiles({write(QStringLiteral("line.ts"), QStringLiteral("hu"),
+                                      {{"ResolutionShow", "Felbontas"}, {"BoxNumShow", "Szekrenyek"}})});
+        tool.switchLanguage(QStringLiteral("hu"));
+        PaintSelfWidget expected;
+        expected.resize(160, 90);
+        expected.setSelfTextVisible(false);
+        expected.setResolutionColor(toQColor(record.selfData.resolutionTextColor));
+        expected.retranslate();
+        VD_COMPARE_IMAGES(layerImage(*user.painter<PaintSelfWidget>()), layerImage(expected));
+        QVERIFY(layerImage(*user.painter<PaintSelfWidget>()) != captionless);
     }
 
     void translateLanguageSetsTheSameTexts()
@@ -201,13 +363,13 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
         QCoreApplication::processEvents();
         QCOMPARE(buttonTexts(user), englishButtons());
-        QCOMPARE(sectionTitle(user), QStringLiteral("Layer settings"));
+        QCOMPARE(sectionTitles(user), englishTitles());
         QCOMPARE(user.chess()->text(), QStringLiteral("Chess"));
 
         tool.translateLanguage();
         QCOMPARE(changed.count(), 1);
         QCOMPARE(buttonTexts(user), shortButtons());
-        QCOMPARE(sectionTitle(user), QStringLiteral("ls"));
+        QCOMPARE(sectionTitles(user), shortTitles());
         QCOMPARE(user.chess()->text(), QStringLiteral("ch"));
     }
 
@@ -281,7 +443,7 @@ private Q_SLOTS:
         VTestChartTools second;
         const User user(second);
         QCOMPARE(buttonTexts(user), shortButtons());
-        QCOMPARE(sectionTitle(user), QStringLiteral("ls"));
+        QCOMPARE(sectionTitles(user), shortTitles());
         QCOMPARE(user.chess()->text(), QStringLiteral("ch"));
     }
 

@@ -1,6 +1,8 @@
 #include "charttool.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QSlider>
 #include <QTemporaryDir>
 
@@ -11,11 +13,22 @@ namespace {
 constexpr auto begining = "PaintTextChartTool is begining";
 constexpr auto done = "PaintTextChartTool is done";
 
-/// What one completed repaint cycle logs.
-QStringList cycleLog()
+/// What one completed repaint cycle logs: the layers from bottom to top, with that of the logo when one is
+/// shown.
+QStringList cycleLog(const char* logo = nullptr)
 {
-    return {begining, "PaintBasicWidget is done",  begining, "PaintPublicBrightWidget is done",
-            begining, "PaintPublicWidget is done", done};
+    QStringList lines = {begining, "PaintBasicWidget is done",  begining, "PaintRowColSequeWidget is done",
+                         begining, "PaintInLineWidget is done", begining, "PaintSelfWidget is done"};
+    if (logo)
+        lines += {begining, logo};
+    return lines + QStringList({begining, "PaintPublicBrightWidget is done", begining,
+                                "PaintPublicWidget is done", done});
+}
+
+/// What the reports of the six layers of a bare chart log that are ignored.
+QStringList ignoredLog()
+{
+    return {begining, begining, begining, begining, begining, begining};
 }
 
 /// Writes down when watched widgets are shown, hidden, enabled and disabled, and when a layer paints.
@@ -27,7 +40,10 @@ public:
         const User user(tool);
         watch(user.mask(), "mask");
         watch(user.named<QPushButton>("oddColorPushButton"), "basic panel");
+        watch(user.toggle("Show Circle"), "inline panel");
+        watch(user.toggle("Show Logo"), "logo panel");
         watch(user.publicPanel()->findChild<QSlider*>(), "public panel");
+        watch(user.toggle("Show Resolution"), "custom text panel");
         watch(user.cancel(), "cancel");
         watch(user.addConfirm(), "add confirm");
         watch(user.replaceConfirm(), "replace confirm");
@@ -91,27 +107,62 @@ const QStringList& reporters()
     return names;
 }
 
-/// Every widget of the panels that takes input and that the lock covers.
+/// Every widget of the panels that takes input and that the lock covers: all but the basic panel's radio
+/// buttons and lists.
 QList<QWidget*> lockedControls(const User& user)
 {
     QList<QWidget*> controls;
-    for (const QWidget* panel :
-         {static_cast<QWidget*>(user.basicPanel()), static_cast<QWidget*>(user.publicPanel())}) {
+    for (const QWidget* panel : user.panels()) {
         for (auto* control : panel->findChildren<QPushButton*>())
             controls.append(control);
         for (auto* control : panel->findChildren<QCheckBox*>())
             controls.append(control);
+        for (auto* control : panel->findChildren<QRadioButton*>()) {
+            if (panel != user.basicPanel())
+                controls.append(control);
+        }
         for (auto* control : panel->findChildren<SpinEditBox*>())
             controls.append(control);
         for (auto* control : panel->findChildren<QSlider*>())
+            controls.append(control);
+        for (auto* control : panel->findChildren<QComboBox*>())
+            controls.append(control);
+        for (auto* control : panel->findChildren<QLineEdit*>())
             controls.append(control);
     }
     return controls;
 }
 
+QList<QWidget*> enabledOf(const QList<QWidget*>& widgets)
+{
+    QList<QWidget*> enabled;
+    std::copy_if(widgets.begin(), widgets.end(), std::back_inserter(enabled),
+                 [](const QWidget* w) { return w->isEnabled(); });
+    return enabled;
+}
+
+/// The small chart with every layer shown.
+TestChartToolsData fullRecord()
+{
+    TestChartToolsData record;
+    record.publicData.resolutionWidth = 160;
+    record.publicData.resolutionHeight = 90;
+    return record;
+}
+
 bool allEnabled(const QList<QWidget*>& widgets)
 {
     return std::all_of(widgets.begin(), widgets.end(), [](const QWidget* w) { return w->isEnabled(); });
+}
+
+/// What of `widgets` works, in words.
+QStringList namesOfEnabled(const QList<QWidget*>& widgets)
+{
+    QStringList names;
+    for (const QWidget* widget : enabledOf(widgets))
+        names.append(QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char(' ') +
+                     widget->objectName());
+    return names;
 }
 
 bool noneEnabled(const QList<QWidget*>& widgets)
@@ -140,6 +191,30 @@ private:
     QTemporaryDir m_folder;
     std::unique_ptr<VTestChartTools> m_tool;
     std::unique_ptr<User> m_user;
+    QList<QWidget*> m_usable; ///< the panels' controls that work while the tool is idle
+
+    /// Whether the tool is idle: what worked at first works, and nothing else.
+    bool isUnlocked() const
+    {
+        return enabledOf(lockedControls(*m_user)) == m_usable && allEnabled(editButtons(*m_user)) &&
+               !m_user->mask()->isVisible();
+    }
+
+    bool isLocked() const
+    {
+        return noneEnabled(lockedControls(*m_user)) && noneEnabled(editButtons(*m_user)) &&
+               m_user->mask()->isVisible();
+    }
+
+    /// Shows `record` and starts anew.
+    bool restart(const TestChartToolsData& record)
+    {
+        m_tool->setTestChartToolsData(record);
+        const bool idle = m_user->settle();
+        m_usable = enabledOf(lockedControls(*m_user));
+        log().clear();
+        return idle;
+    }
 
     /// Whether a chart of `record` with `odd` as odd colour is shown.
     QString previewDifference(const QColor& odd) const
@@ -158,6 +233,7 @@ private Q_SLOTS:
         m_user = std::make_unique<User>(*m_tool);
         m_tool->setTestChartToolsData(smallRecord());
         QVERIFY(m_user->show());
+        m_usable = enabledOf(lockedControls(*m_user));
         log().clear();
     }
 
@@ -173,28 +249,89 @@ private Q_SLOTS:
         Diary diary(*m_tool);
         change(*m_user);
         QVERIFY(m_user->settle());
-        QCOMPARE(diary.entries,
-                 QStringList({"mask shown", "basic panel disabled", "public panel disabled",
-                              "cancel disabled", "add confirm disabled", "replace confirm disabled",
-                              "replace apply disabled", "painted", "mask hidden", "basic panel enabled",
-                              "public panel enabled", "cancel enabled", "add confirm enabled",
-                              "replace confirm enabled", "replace apply enabled"}));
+        QCOMPARE(diary.entries, QStringList({"mask shown",
+                                             "basic panel disabled",
+                                             "inline panel disabled",
+                                             "logo panel disabled",
+                                             "public panel disabled",
+                                             "custom text panel disabled",
+                                             "cancel disabled",
+                                             "add confirm disabled",
+                                             "replace confirm disabled",
+                                             "replace apply disabled",
+                                             "painted",
+                                             "mask hidden",
+                                             "basic panel enabled",
+                                             "inline panel enabled",
+                                             "logo panel enabled",
+                                             "public panel enabled",
+                                             "custom text panel enabled",
+                                             "cancel enabled",
+                                             "add confirm enabled",
+                                             "replace confirm enabled",
+                                             "replace apply enabled"}));
         QVERIFY(diary.timeOf("basic panel disabled") >= 9);
         QVERIFY(diary.timeOf("painted") >= 95);
     }
 
+    void maskIsShownAtOnceOverThePanels_data()
+    {
+        QTest::addColumn<int>("panel");
+        QTest::newRow("basic") << 0;
+        QTest::newRow("inline") << 1;
+        QTest::newRow("logo") << 2;
+        QTest::newRow("public") << 3;
+        QTest::newRow("custom text") << 4;
+    }
+
     void maskIsShownAtOnceOverThePanels()
     {
+        QFETCH(int, panel);
         QVERIFY(!m_user->mask()->isVisible());
+        QWidget* const covered = m_user->panels().at(panel);
+        m_user->reveal(covered);
         change(*m_user);
         QVERIFY(m_user->mask()->isVisible());
         QCOMPARE(m_user->mask()->size(), QSize(410, 802));
         QVERIFY(allEnabled(editButtons(*m_user)));
-        for (QWidget* panel :
-             {static_cast<QWidget*>(m_user->basicPanel()), static_cast<QWidget*>(m_user->publicPanel())}) {
-            const QPoint centre = panel->mapTo(m_tool.get(), panel->rect().center());
-            QCOMPARE(m_tool->childAt(centre), m_user->mask());
-        }
+        const QPoint centre = covered->mapTo(m_tool.get(), covered->rect().center());
+        QCOMPARE(m_tool->childAt(centre), m_user->mask());
+    }
+
+    void maskCoversWhatIsVisible_data()
+    {
+        QTest::addColumn<int>("scrolled");
+        QTest::newRow("at the top") << 0;
+        QTest::newRow("in between") << 100;
+        QTest::newRow("at the bottom") << 289;
+    }
+
+    void maskCoversWhatIsVisible()
+    {
+        QFETCH(int, scrolled);
+        QScrollBar* const bar = m_user->settings()->verticalScrollBar();
+        bar->setValue(scrolled);
+        QCOMPARE(bar->value(), scrolled);
+        change(*m_user);
+        QVERIFY(m_user->mask()->isVisible());
+        QCOMPARE(m_user->mask()->pos(), QPoint(0, scrolled));
+        const QWidget* const viewport = m_user->settings()->viewport();
+        QCOMPARE(QRect(m_user->mask()->mapTo(viewport, QPoint()), m_user->mask()->size()), viewport->rect());
+        QVERIFY(m_user->settle());
+        QCOMPARE(bar->value(), scrolled);
+        bar->setValue(0);
+        change(*m_user, Qt::darkGreen);
+        QCOMPARE(m_user->mask()->pos(), QPoint(0, 0));
+    }
+
+    void maskFollowsTheScrolling()
+    {
+        change(*m_user);
+        QVERIFY(m_user->mask()->isVisible());
+        m_user->settings()->verticalScrollBar()->setValue(200);
+        QVERIFY(m_user->mask()->isVisible());
+        const QWidget* const viewport = m_user->settings()->viewport();
+        QCOMPARE(QRect(m_user->mask()->mapTo(viewport, QPoint()), m_user->mask()->size()), viewport->rect());
     }
 
     void maskTakesTheClicks()
@@ -215,15 +352,17 @@ private Q_SLOTS:
 
     void everyControlIsLockedWhileTheLayersPaint()
     {
+        QVERIFY(restart(fullRecord()));
         const QList<QWidget*> controls = lockedControls(*m_user);
-        QVERIFY(controls.size() > 15);
+        QVERIFY(controls.size() > 60);
         QVERIFY(allEnabled(controls));
         QVERIFY(allEnabled(editButtons(*m_user)));
         int looked = 0;
         connect(m_user->painter<PaintBasicWidget>(), &LayerPainter::sigPaintEventUpdated, m_tool.get(), [&] {
             ++looked;
-            QVERIFY(noneEnabled(controls));
+            QCOMPARE(namesOfEnabled(controls), QStringList());
             QVERIFY(noneEnabled(editButtons(*m_user)));
+            QVERIFY(allEnabled({m_user->chess(), m_user->colorBar(), m_user->stripeList()}));
             QVERIFY(m_user->mask()->isVisible());
         });
         change(*m_user);
@@ -233,14 +372,38 @@ private Q_SLOTS:
         QVERIFY(allEnabled(editButtons(*m_user)));
     }
 
+    void unlockingAsksTheSwitches_data()
+    {
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<QStringList>("names");
+        QTest::newRow("border") << "OutBorder" << QStringList("outLineColorButton");
+        QTest::newRow("circles") << "Show Circle" << QStringList("circleColorButton");
+        QTest::newRow("diagonals") << "Show Diagonal" << QStringList("diagonalColorButton");
+        QTest::newRow("labels") << "Show Serial Number" << QStringList("sequeColorBtn");
+        QTest::newRow("logo") << "Show Logo"
+                              << QStringList({"scalelogoBtn", "textColorBtn", "logoOpacityBtn"});
+        QTest::newRow("custom text") << "Display custom text"
+                                     << QStringList({"selfTextColorButton", "selfInputLineEdit"});
+        QTest::newRow("information line") << "Show Resolution" << QStringList("resolutionColorButton");
+    }
+
     void unlockingAsksTheSwitches()
     {
-        TestChartToolsData record = smallRecord();
-        record.publicData.showOutBorder = false;
-        m_tool->setTestChartToolsData(record);
+        QFETCH(QString, caption);
+        QFETCH(QStringList, names);
+        QVERIFY(restart(fullRecord()));
+        QCOMPARE(m_usable, lockedControls(*m_user));
+        QAbstractButton* const toggle = m_user->toggle(caption.toLatin1().constData());
+        QVERIFY(toggle);
+        m_user->click(toggle);
+        QVERIFY(!toggle->isChecked());
         QVERIFY(m_user->settle());
-        QVERIFY(!m_user->named<QPushButton>("outLineColorButton")->isEnabled());
-        QVERIFY(m_user->publicPanel()->findChild<QCheckBox*>()->isEnabled());
+        QVERIFY(toggle->isEnabled());
+        for (const QString& name : names)
+            QVERIFY2(!m_tool->findChild<QWidget*>(name)->isEnabled(), qPrintable(name));
+        m_user->click(toggle);
+        QVERIFY(m_user->settle());
+        QVERIFY(isUnlocked());
     }
 
     void cycleIsLogged()
@@ -250,6 +413,28 @@ private Q_SLOTS:
         QCOMPARE(paintLog(log().messages()), cycleLog());
         QVERIFY(log().messages(begining).first().startsWith(QLatin1String(
             "void vardeno::testcharttools::VTestChartTools::slotUpdatePaintEventStatus(QString) ")));
+    }
+
+    void cycleWithALogoIsLogged_data()
+    {
+        QTest::addColumn<bool>("picture");
+        QTest::addColumn<QByteArray>("line");
+        QTest::newRow("picture") << true << QByteArray("PaintPicLogoWidget is done");
+        QTest::newRow("text") << false << QByteArray("PaintTextLogoWidget is done");
+    }
+
+    void cycleWithALogoIsLogged()
+    {
+        QFETCH(bool, picture);
+        QFETCH(QByteArray, line);
+        TestChartToolsData record = fullRecord();
+        record.logoData.pictureLogo = picture;
+        record.logoData.textLogo = !picture;
+        QVERIFY(restart(record));
+        change(*m_user);
+        QVERIFY(m_user->settle());
+        QCOMPARE(paintLog(log().messages()), cycleLog(line.constData()));
+        QVERIFY(isUnlocked());
     }
 
     void snapshotIsTakenAtTheEndOfTheCycle()
@@ -304,7 +489,7 @@ private Q_SLOTS:
         QFETCH(bool, shown);
         m_tool->setVisible(shown);
         const QSignalSpy painted(m_user->painter<PaintBasicWidget>(), &LayerPainter::sigPaintEventUpdated);
-        TestChartToolsData record;
+        TestChartToolsData record = bareRecord();
         record.basicData.oddColor = {1, 2, 3, 255};
         record.publicData.brightness = 50;
         m_tool->setTestChartToolsData(record);
@@ -340,8 +525,7 @@ private Q_SLOTS:
         QVERIFY(m_user->settle());
         const QString difference = previewDifference(Qt::darkGreen);
         QVERIFY2(difference.isEmpty(), qPrintable(difference));
-        QVERIFY(allEnabled(lockedControls(*m_user)));
-        QVERIFY(allEnabled(editButtons(*m_user)));
+        QVERIFY(isUnlocked());
         QCOMPARE(paintLog(log().messages()).last(), QString(done));
     }
 
@@ -349,6 +533,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("lastOne");
         QTest::newRow("base pattern") << "m_pPaintBasicWidget";
+        QTest::newRow("inline graphics") << "m_pPaintInLineWidget";
+        QTest::newRow("custom text") << "m_pPaintSelfWidget";
+        QTest::newRow("row and column numbers") << "m_pPaintRowColSequeWidget";
         QTest::newRow("brightness") << "m_pPaintPublicBrightWidget";
         QTest::newRow("border") << "m_pPaintPublicWidget";
     }
@@ -370,13 +557,65 @@ private Q_SLOTS:
 
     void logoLayersNeverCompleteACycle()
     {
+        QVERIFY(restart(fullRecord()));
         change(*m_user);
         for (int i = 0; i < 6; ++i) {
             m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintPicLogoWidget"));
             m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintTextLogoWidget"));
+            Q_EMIT m_user->painter<PaintPicLogoWidget>()->sigPaintEventUpdated();
+            Q_EMIT m_user->painter<PaintTextLogoWidget>()->sigPaintEventUpdated();
         }
         QVERIFY(m_user->mask()->isVisible());
         QVERIFY(!paintLog(log().messages()).contains(done));
+        QVERIFY(m_user->settle());
+
+        // Nor while locked: a hidden layer never reports.
+        m_user->painter<PaintPublicWidget>()->hide();
+        change(*m_user, Qt::darkGreen);
+        QTest::qWait(200);
+        QVERIFY(isLocked());
+        m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintPicLogoWidget"));
+        m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintTextLogoWidget"));
+        QVERIFY(isLocked());
+        m_user->painter<PaintPublicWidget>()->show();
+        change(*m_user, Qt::darkCyan);
+        QVERIFY(m_user->settle());
+        QVERIFY(isUnlocked());
+    }
+
+    void cycleEndsWithoutTheLogoLayers()
+    {
+        change(*m_user);
+        for (int number = 0; number < 6; ++number) {
+            QVERIFY(m_user->mask()->isVisible());
+            m_tool->slotUpdatePaintEventStatus(reporters().at(number));
+        }
+        QVERIFY(!m_user->mask()->isVisible());
+        QCOMPARE(paintLog(log().messages()).last(), QString(done));
+    }
+
+    void painterReportsByItsName_data()
+    {
+        QTest::addColumn<QByteArray>("painter");
+        for (const char* name :
+             {"PaintBasicWidget", "PaintInLineWidget", "PaintSelfWidget", "PaintRowColSequeWidget",
+              "PaintPublicBrightWidget", "PaintPublicWidget", "PaintPicLogoWidget", "PaintTextLogoWidget"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
+    void painterReportsByItsName()
+    {
+        QFETCH(QByteArray, painter);
+        change(*m_user);
+        int found = 0;
+        for (auto* layer : m_user->layerView()->findChildren<LayerPainter*>()) {
+            if (!layer->inherits("vardeno::testcharttools::" + painter))
+                continue;
+            ++found;
+            Q_EMIT layer->sigPaintEventUpdated();
+        }
+        QCOMPARE(found, 1);
+        QCOMPARE(paintLog(log().messages()), QStringList({begining, painter + " is done"}));
     }
 
     void cyclesBeginWithNothingPainted()
@@ -394,6 +633,16 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("lines");
         QTest::newRow("base pattern")
             << "m_pPaintBasicWidget" << QStringList({begining, "PaintBasicWidget is done"});
+        QTest::newRow("inline graphics")
+            << "m_pPaintInLineWidget" << QStringList({begining, "PaintInLineWidget is done"});
+        QTest::newRow("custom text") << "m_pPaintSelfWidget"
+                                     << QStringList({begining, "PaintSelfWidget is done"});
+        QTest::newRow("row and column numbers")
+            << "m_pPaintRowColSequeWidget" << QStringList({begining, "PaintRowColSequeWidget is done"});
+        QTest::newRow("picture logo")
+            << "m_pPaintPicLogoWidget" << QStringList({begining, "PaintPicLogoWidget is done"});
+        QTest::newRow("text logo") << "m_pPaintTextLogoWidget"
+                                   << QStringList({begining, "PaintTextLogoWidget is done"});
         QTest::newRow("brightness") << "m_pPaintPublicBrightWidget"
                                     << QStringList({begining, "PaintPublicBrightWidget is done"});
         QTest::newRow("border") << "m_pPaintPublicWidget"
@@ -418,12 +667,11 @@ private Q_SLOTS:
         m_user->mask()->show();
         for (QWidget* button : editButtons(*m_user))
             button->setEnabled(false);
-        m_user->basicPanel()->setControlsDisabled(true);
+        for (SettingPanel* panel : m_user->panels())
+            panel->setControlsDisabled(true);
         m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintNothing"));
         QCOMPARE(paintLog(log().messages()), QStringList({begining, done}));
-        QVERIFY(!m_user->mask()->isVisible());
-        QVERIFY(allEnabled(editButtons(*m_user)));
-        QVERIFY(allEnabled(lockedControls(*m_user)));
+        QVERIFY(isUnlocked());
     }
 
     void lateLockHoldsUntilTheLayersPaint()
@@ -444,11 +692,9 @@ private Q_SLOTS:
     {
         m_tool->setUpdateFlag(true);
         change(*m_user);
-        QTRY_COMPARE(paintLog(log().messages()).size(), 3);
-        QCOMPARE(paintLog(log().messages()), QStringList({begining, begining, begining}));
-        QVERIFY(m_user->mask()->isVisible());
-        QVERIFY(noneEnabled(lockedControls(*m_user)));
-        QVERIFY(noneEnabled(editButtons(*m_user)));
+        QTRY_COMPARE(paintLog(log().messages()).size(), 6);
+        QCOMPARE(paintLog(log().messages()), ignoredLog());
+        QVERIFY(isLocked());
 
         m_tool->setUpdateFlag(false);
         QVERIFY(m_user->mask()->isVisible());
@@ -464,7 +710,7 @@ private Q_SLOTS:
         Host host(*m_tool);
         change(*m_user);
         m_tool->slotAddConfirmButtonClicked();
-        QCOMPARE(paintLog(log().messages()), QStringList({begining, begining, begining}));
+        QCOMPARE(paintLog(log().messages()), ignoredLog());
         QVERIFY(m_user->mask()->isVisible());
         log().clear();
         QVERIFY(m_user->settle());
@@ -493,12 +739,11 @@ private Q_SLOTS:
         QCOMPARE(diary.entries, QStringList("painted"));
         const QString difference = previewDifference(Qt::darkBlue);
         QVERIFY2(difference.isEmpty(), qPrintable(difference));
-        QCOMPARE(paintLog(log().messages()), QStringList({begining, begining, begining}));
+        QCOMPARE(paintLog(log().messages()), ignoredLog());
 
         QTest::qWait(150);
         QCOMPARE(diary.entries, QStringList("painted"));
-        QVERIFY(allEnabled(lockedControls(*m_user)));
-        QVERIFY(allEnabled(editButtons(*m_user)));
+        QVERIFY(isUnlocked());
     }
 
     void neverShownToolTakesItsSnapshotAtOnce()
@@ -535,8 +780,7 @@ private Q_SLOTS:
         m_tool->show();
         QVERIFY(m_user->mask()->isVisible());
         QVERIFY(m_user->settle());
-        QVERIFY(allEnabled(lockedControls(*m_user)));
-        QVERIFY(allEnabled(editButtons(*m_user)));
+        QVERIFY(isUnlocked());
         const QString difference = previewDifference(Qt::darkBlue);
         QVERIFY2(difference.isEmpty(), qPrintable(difference));
     }
@@ -563,22 +807,89 @@ private Q_SLOTS:
         QCOMPARE(diary.entries.count("painted"), 1);
     }
 
+    void focusComesBackAfterTheCycle_data()
+    {
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("public panel") << "Resolution";
+        QTest::newRow("inline panel") << "Circle";
+        QTest::newRow("logo panel") << "Position adjustment";
+        QTest::newRow("custom text panel") << "Show Size";
+    }
+
+    void focusComesBackAfterTheCycle()
+    {
+        QFETCH(QString, caption);
+        QVERIFY(restart(fullRecord()));
+        auto* entry = m_user->entry(caption.toLatin1().constData());
+        m_user->click(entry);
+        QWidget* const focused = m_tool->focusWidget();
+        QVERIFY(focused == entry || entry->isAncestorOf(focused));
+        int looked = 0;
+        connect(m_user->painter<PaintBasicWidget>(), &LayerPainter::sigPaintEventUpdated, m_tool.get(), [&] {
+            ++looked;
+            QVERIFY(!entry->isEnabled());
+            QVERIFY(m_tool->focusWidget() != focused);
+        });
+        change(*m_user);
+        QVERIFY(m_user->settle());
+        QCOMPARE(looked, 1);
+        QCOMPARE(m_tool->focusWidget(), focused);
+        QVERIFY(isUnlocked());
+    }
+
+    void typedTextArrivesThroughTheLocks_data()
+    {
+        QTest::addColumn<bool>("logo");
+        QTest::newRow("custom text") << false;
+        QTest::newRow("logo text") << true;
+    }
+
+    void typedTextArrivesThroughTheLocks()
+    {
+        QFETCH(bool, logo);
+        TestChartToolsData record = fullRecord();
+        record.logoData.pictureLogo = !logo;
+        record.logoData.textLogo = logo;
+        QVERIFY(restart(record));
+        const SettingPanel* panel =
+            logo ? static_cast<SettingPanel*>(m_user->logoPanel()) : m_user->selfPanel();
+        QLineEdit* entry = nullptr;
+        for (auto* lineEdit : panel->findChildren<QLineEdit*>()) {
+            if (!qobject_cast<SpinEditBox*>(lineEdit->parentWidget()))
+                entry = lineEdit;
+        }
+        QVERIFY(entry);
+        m_user->click(entry);
+        QTest::keyClick(m_tool->windowHandle(), Qt::Key_A, Qt::ControlModifier);
+        for (const char character : QByteArray("stage 24x13")) {
+            QTest::keyClick(m_tool->windowHandle(), character);
+            QTest::qWait(100);
+        }
+        QVERIFY(m_user->settle());
+        QCOMPARE(entry->text(), QStringLiteral("stage 24x13"));
+        QCOMPARE(entry->cursorPosition(), 11);
+        QCOMPARE(m_tool->focusWidget(), entry);
+        const TestChartToolsData typed = m_tool->getTestChartToolsData();
+        QCOMPARE(logo ? typed.logoData.logoText : typed.selfData.selfText, std::string("stage 24x13"));
+    }
+
     void changeLightsTheSaveButtons_data()
     {
-        QTest::addColumn<bool>("ofBasicPanel");
-        QTest::newRow("basic panel") << true;
-        QTest::newRow("public panel") << false;
+        QTest::addColumn<QString>("role");
+        QTest::newRow("basic panel") << "odd";
+        QTest::newRow("inline panel") << "circle";
+        QTest::newRow("logo panel") << "logo";
+        QTest::newRow("public panel") << "outlineWidth";
+        QTest::newRow("custom text panel") << "selfText";
     }
 
     void changeLightsTheSaveButtons()
     {
-        QFETCH(bool, ofBasicPanel);
+        QFETCH(QString, role);
         m_tool->updateShowSaveBtnStatus(false);
         QVERIFY(noneEnabled({m_user->saveButton(), m_user->addConfirm(), m_user->replaceApply()}));
-        if (ofBasicPanel)
-            change(*m_user);
-        else
-            m_user->publicPanel()->setOutLineColor(Qt::red);
+        for (SettingPanel* panel : m_user->panels())
+            panel->setRoleColor(role, Qt::red);
         QVERIFY(allEnabled({m_user->saveButton(), m_user->addConfirm(), m_user->replaceApply()}));
         QVERIFY(m_user->settle());
         QVERIFY(allEnabled({m_user->saveButton(), m_user->addConfirm(), m_user->replaceApply()}));

@@ -169,7 +169,7 @@ private Q_SLOTS:
 
     void chessPixels()
     {
-        TestChartToolsData record;
+        TestChartToolsData record = bareRecord();
         m_tool->setTestChartToolsData(record);
         m_tool->slotAddConfirmButtonClicked();
         QVERIFY(m_host->hears(2));
@@ -214,7 +214,7 @@ private Q_SLOTS:
         QFETCH(int, border);
         QFETCH(QRgb, odd);
         QFETCH(QRgb, even);
-        TestChartToolsData record;
+        TestChartToolsData record = bareRecord();
         record.publicData.resolutionWidth = 640;
         record.publicData.resolutionHeight = 360;
         record.publicData.brightness = brightness;
@@ -250,7 +250,7 @@ private Q_SLOTS:
 
     void largestChart()
     {
-        TestChartToolsData record;
+        TestChartToolsData record = bareRecord();
         record.publicData.resolutionWidth = 4320;
         record.publicData.resolutionHeight = 4320;
         m_tool->setTestChartToolsData(record);

@@ -37,14 +37,18 @@ private Q_SLOTS:
         for (uint position = 0; position < 3; ++position) {
             for (uint mode = 0; mode < 3; ++mode) {
                 const auto name = [&](const char* grid) {
-                    return qPrintable(
-                        QStringLiteral("%1, mode %2, position %3").arg(grid).arg(mode).arg(position));
+                    return QStringLiteral("%1, mode %2, position %3")
+                        .arg(grid)
+                        .arg(mode)
+                        .arg(position)
+                        .toUtf8();
                 };
-                QTest::newRow(name("whole cells")) << QSize(1600, 900) << 9 << 16 << 15;
-                QTest::newRow(name("fractional cells")) << QSize(1000, 701) << 30 << 30 << 7;
-                QTest::newRow(name("largest batched size")) << QSize(1600, 900) << 3 << 4 << 63;
-                QTest::newRow(name("wider than their cells")) << QSize(400, 300) << 12 << 20 << 14;
-                QTest::newRow(name("outlines")) << QSize(1200, 900) << 2 << 2 << 80;
+                QTest::newRow(name("whole cells").constData()) << QSize(1600, 900) << 9 << 16 << 15;
+                QTest::newRow(name("fractional cells").constData()) << QSize(1000, 701) << 30 << 30 << 7;
+                QTest::newRow(name("largest batched size").constData()) << QSize(1600, 900) << 3 << 4 << 63;
+                QTest::newRow(name("wider than their cells").constData())
+                    << QSize(400, 300) << 12 << 20 << 14;
+                QTest::newRow(name("outlines").constData()) << QSize(1200, 900) << 2 << 2 << 80;
             }
         }
     }

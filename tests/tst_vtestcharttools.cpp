@@ -5,9 +5,11 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMetaType>
+#include <QPainter>
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -33,6 +35,60 @@ std::map<int, QColor> randomColors(QRandomGenerator& random)
     return colors;
 }
 
+InLineChartData randomInLineData(QRandomGenerator& random)
+{
+    InLineChartData data;
+    data.showCircle = random.bounded(2) == 1;
+    data.circleSize = random.bounded(1, 16385);
+    data.circleWidth = random.bounded(1, 101);
+    data.circleColor = randomColor(random);
+    data.showDiagonal = random.bounded(2) == 1;
+    data.diagonalWidth = random.bounded(1, 101);
+    data.diagonalColor = randomColor(random);
+    data.showSerialNumber = random.bounded(2) == 1;
+    data.serialSize = random.bounded(1, 101);
+    data.serialColor = randomColor(random);
+    const int mode = random.bounded(3);
+    data.letterMode = mode == 0;
+    data.numMode = mode == 1;
+    data.combinationMode = mode == 2;
+    data.serialPosition = random.bounded(3);
+    data.serialSort = random.bounded(4);
+    return data;
+}
+
+LogoChartData randomLogoData(QRandomGenerator& random)
+{
+    LogoChartData data;
+    data.showLogo = random.bounded(2) == 1;
+    data.pictureLogo = random.bounded(2) == 1;
+    data.textLogo = !data.pictureLogo;
+    data.logoText = "logo " + std::to_string(random.bounded(1000));
+    data.textSize = random.bounded(101);
+    data.textColor = randomColor(random);
+    data.scale = random.bounded(201);
+    data.picturePath =
+        random.bounded(2) == 1 ? VD_SOURCE_DIR "/vdpatterndesign/resources/images/suggest.png" : "";
+    data.displayPosition = random.bounded(5);
+    data.offsetX = random.bounded(16385);
+    data.offsetY = random.bounded(16385);
+    data.opacity = random.bounded(101);
+    return data;
+}
+
+SelfChartData randomSelfData(QRandomGenerator& random)
+{
+    SelfChartData data;
+    data.showSelfText = random.bounded(2) == 1;
+    data.selfText = "text " + std::to_string(random.bounded(1000));
+    data.selfTextSize = random.bounded(1, 201);
+    data.selfTextColor = randomColor(random);
+    data.showResolution = random.bounded(2) == 1;
+    data.resolutionTextSize = random.bounded(1, 201);
+    data.resolutionTextColor = randomColor(random);
+    return data;
+}
+
 /// Any record whose values the panels can show.
 TestChartToolsData randomRecord(quint32 seed)
 {
@@ -54,6 +110,9 @@ TestChartToolsData randomRecord(quint32 seed)
     record.publicData.showOutBorder = flag();
     record.publicData.outBorderWidth = random.bounded(1, 101);
     record.publicData.outBorderColor = randomColor(random);
+    record.inLineData = randomInLineData(random);
+    record.logoData = randomLogoData(random);
+    record.selfData = randomSelfData(random);
     return record;
 }
 
@@ -216,35 +275,66 @@ private Q_SLOTS:
         QVERIFY(user.mask()->isHidden());
     }
 
+    void sections_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QStringList>("items");
+        QTest::newRow("layers") << "basePropertyBox" << 0 << "Layer settings"
+                                << QStringList({"basicSetting", "publicSetting"});
+        QTest::newRow("content") << "userSettingPropertyBox" << 1 << "Display content personalization"
+                                 << QStringList({"inLineSetting", "logoSetting", "selfSetting"});
+    }
+
     void sections()
     {
+        QFETCH(QString, name);
+        QFETCH(int, position);
+        QFETCH(QString, title);
+        QFETCH(QStringList, items);
         VTestChartTools tool;
         const User user(tool);
-        auto* section = user.named<PropertyBox>("basePropertyBox");
+        QCOMPARE(tool.findChildren<PropertyBox*>().size(), 2);
+        auto* section = tool.findChild<PropertyBox*>(name);
         QVERIFY(section);
-        QCOMPARE(user.named<QWidget>("scrollWidget")->layout()->indexOf(section), 0);
-        QCOMPARE(section->titleText(), QStringLiteral("Layer settings"));
+        const QLayout* const column = user.named<QWidget>("scrollWidget")->layout();
+        QCOMPARE(column->indexOf(section), position);
+        QCOMPARE(column->count(), 3);
+        QCOMPARE(section->titleText(), title);
+        QStringList names;
+        const QWidget* const body = section->findChild<QWidget*>(items.first())->parentWidget();
+        for (int i = 0; i < body->layout()->count(); ++i)
+            names.append(body->layout()->itemAt(i)->widget()->objectName());
+        QCOMPARE(names, items);
         QCOMPARE(section->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred));
     }
 
     void items_data()
     {
+        QTest::addColumn<QString>("sectionName");
         QTest::addColumn<QString>("item");
         QTest::addColumn<QByteArray>("panel");
         QTest::addColumn<int>("position");
         QTest::addColumn<int>("height");
-        QTest::newRow("basic") << "basicSetting" << QByteArray("BasicSettingBox") << 0 << 140;
-        QTest::newRow("public") << "publicSetting" << QByteArray("PublicSettingBox") << 1 << 160;
+        const QString layers = QStringLiteral("basePropertyBox");
+        const QString content = QStringLiteral("userSettingPropertyBox");
+        QTest::newRow("basic") << layers << "basicSetting" << QByteArray("BasicSettingBox") << 0 << 140;
+        QTest::newRow("public") << layers << "publicSetting" << QByteArray("PublicSettingBox") << 1 << 160;
+        QTest::newRow("inline") << content << "inLineSetting" << QByteArray("InLineSettingBox") << 0 << 330;
+        QTest::newRow("logo") << content << "logoSetting" << QByteArray("LogoSettingBox") << 1 << 245;
+        QTest::newRow("custom text") << content << "selfSetting" << QByteArray("SelfSettingBox") << 2 << 160;
     }
 
     void items()
     {
+        QFETCH(QString, sectionName);
         QFETCH(QString, item);
         QFETCH(QByteArray, panel);
         QFETCH(int, position);
         QFETCH(int, height);
         VTestChartTools tool;
-        auto* section = User(tool).named<PropertyBox>("basePropertyBox");
+        auto* section = tool.findChild<PropertyBox*>(sectionName);
         auto* widget = section->findChild<QWidget*>(item);
         QVERIFY(widget);
         QCOMPARE(widget->minimumHeight(), height);
@@ -254,6 +344,24 @@ private Q_SLOTS:
         const QString shown =
             QString::fromLatin1(widget->layout()->itemAt(0)->widget()->metaObject()->className());
         QCOMPARE(shown, QLatin1String("vardeno::testcharttools::") + QLatin1String(panel));
+    }
+
+    void panelsScroll()
+    {
+        VTestChartTools tool;
+        User user(tool);
+        QVERIFY(user.show());
+        const QWidget* const content = user.settings()->widget();
+        const QWidget* const viewport = user.settings()->viewport();
+        QCOMPARE(content->size(), QSize(410, 1091));
+        QCOMPARE(viewport->size(), QSize(410, 802));
+        QCOMPARE(user.settings()->verticalScrollBar()->maximum(), 1091 - 802);
+        QVERIFY(!user.settings()->horizontalScrollBar()->isVisible());
+        for (const SettingPanel* panel : user.panels()) {
+            user.reveal(panel);
+            const QRect shown(panel->mapTo(viewport, QPoint()), panel->size());
+            QVERIFY2(viewport->rect().contains(shown), panel->metaObject()->className());
+        }
     }
 
     void paintersLieInOneCell()
@@ -268,14 +376,28 @@ private Q_SLOTS:
 
         QStringList bottomToTop;
         for (QObject* child : user.layerView()->children()) {
-            if (auto* layer = qobject_cast<LayerPainter*>(child)) {
-                QVERIFY(cell->indexOf(layer) >= 0);
-                bottomToTop.append(
-                    QString::fromLatin1(layer->metaObject()->className()).section(QLatin1String("::"), -1));
-            }
+            auto* layer = qobject_cast<QWidget*>(child);
+            if (!layer)
+                continue;
+            QVERIFY(cell->indexOf(layer) >= 0);
+            bottomToTop.append(
+                QString::fromLatin1(layer->metaObject()->className()).section(QLatin1String("::"), -1));
         }
-        QCOMPARE(bottomToTop,
-                 QStringList({"PaintBasicWidget", "PaintPublicBrightWidget", "PaintPublicWidget"}));
+        QCOMPARE(bottomToTop, QStringList({"PaintBasicWidget", "PaintRowColSequeWidget", "PaintInLineWidget",
+                                           "PaintSelfWidget", "QStackedWidget", "PaintPublicBrightWidget",
+                                           "PaintPublicWidget"}));
+        QCOMPARE(user.layerView()->findChildren<LayerPainter*>().size(), 8);
+    }
+
+    void logoPaintersShareAStack()
+    {
+        VTestChartTools tool;
+        const User user(tool);
+        const auto* stack = user.layerView()->findChild<QStackedWidget*>();
+        QCOMPARE(stack->count(), 2);
+        QCOMPARE(stack->widget(0), user.painter<PaintPicLogoWidget>());
+        QCOMPARE(stack->widget(1), user.painter<PaintTextLogoWidget>());
+        QCOMPARE(stack->currentIndex(), 0);
     }
 
     void layerViewIsNeverShown()
@@ -343,10 +465,20 @@ private Q_SLOTS:
         VTestChartTools tool;
         const User user(tool);
         tool.setTestChartToolsData(smallRecord());
-        for (const auto* layer : user.layerView()->findChildren<LayerPainter*>()) {
+        // Of the two logo painters the one whose page is shown; its picture is the logo alone.
+        QCOMPARE(user.painter<PaintPicLogoWidget>()->size(), QSize(160, 90));
+        for (const auto* layer :
+             user.layerView()->findChildren<LayerPainter*>(QString(), Qt::FindDirectChildrenOnly)) {
             QCOMPARE(layer->size(), QSize(160, 90));
             QCOMPARE(layerImage(*layer).size(), QSize(160, 90));
         }
+        TestChartToolsData text = smallRecord();
+        text.logoData.showLogo = true;
+        text.logoData.pictureLogo = false;
+        text.logoData.textLogo = true;
+        tool.setTestChartToolsData(text);
+        QCOMPARE(user.painter<PaintTextLogoWidget>()->size(), QSize(160, 90));
+        QCOMPARE(layerImage(*user.painter<PaintTextLogoWidget>()).size(), QSize(160, 90));
     }
 
     void showAndResizeRefit_data()
@@ -378,7 +510,7 @@ private Q_SLOTS:
     void previewShowsTheLayers_data()
     {
         QTest::addColumn<QVariant>("record");
-        QTest::newRow("default") << QVariant::fromValue(TestChartToolsData());
+        QTest::newRow("default, bare") << QVariant::fromValue(bareRecord());
         QTest::newRow("small") << QVariant::fromValue(smallRecord());
         QTest::newRow("stripes with a black remainder") << QVariant::fromValue(stripesRecord());
         TestChartToolsData dim = smallRecord();
@@ -399,6 +531,74 @@ private Q_SLOTS:
         tool.setTestChartToolsData(record.value<TestChartToolsData>());
         QVERIFY(user.settle());
         VD_COMPARE_IMAGES(user.shownChart(), expectedChart(record.value<TestChartToolsData>()));
+    }
+
+    void everyLayerIsInThePreview_data()
+    {
+        QTest::addColumn<QVariant>("record");
+        TestChartToolsData record;
+        QTest::newRow("default") << QVariant::fromValue(record);
+        record.logoData.pictureLogo = false;
+        record.logoData.textLogo = true;
+        QTest::newRow("text logo") << QVariant::fromValue(record);
+        record.publicData.brightness = 40;
+        QTest::newRow("dim") << QVariant::fromValue(record);
+    }
+
+    /// The layers' pictures one upon the other, whoever put them together.
+    void everyLayerIsInThePreview()
+    {
+        QFETCH(QVariant, record);
+        VTestChartTools tool;
+        User user(tool);
+        QVERIFY(user.show());
+        tool.setTestChartToolsData(record.value<TestChartToolsData>());
+        QVERIFY(user.settle());
+
+        QImage chart(1920, 1080, QImage::Format_RGB32);
+        chart.fill(Qt::black);
+        QPainter painter(&chart);
+        painter.drawImage(0, 0, layerImage(*user.painter<PaintBasicWidget>()));
+        painter.drawImage(0, 0, layerImage(*user.painter<PaintRowColSequeWidget>()));
+        const QImage below = chart;
+        painter.drawImage(0, 0, layerImage(*user.painter<PaintInLineWidget>()));
+        QVERIFY(below != chart);
+        const QImage inLine = chart;
+        painter.drawImage(0, 0, layerImage(*user.painter<PaintSelfWidget>()));
+        QVERIFY(inLine != chart);
+        const QImage texts = chart;
+        if (record.value<TestChartToolsData>().logoData.textLogo) {
+            painter.drawImage(0, 0, layerImage(*user.painter<PaintTextLogoWidget>()));
+        } else {
+            const QImage logo = layerImage(*user.painter<PaintPicLogoWidget>());
+            painter.drawImage(960 - logo.width() / 2, 540 - logo.height() / 2, logo);
+        }
+        QVERIFY(texts != chart);
+        painter.drawImage(0, 0, layerImage(*user.painter<PaintPublicBrightWidget>()));
+        painter.drawImage(0, 0, layerImage(*user.painter<PaintPublicWidget>()));
+        painter.end();
+        VD_COMPARE_IMAGES(user.shownChart(), chart);
+    }
+
+    void savedChartIsThePreview_data() { everyLayerIsInThePreview_data(); }
+
+    void savedChartIsThePreview()
+    {
+        QFETCH(QVariant, record);
+        VTestChartTools tool;
+        User user(tool);
+        Host host(tool);
+        tool.setSavePath(m_folder.filePath(QStringLiteral("whole")), QString());
+        tool.setTestChartToolsData(record.value<TestChartToolsData>());
+        QVERIFY(user.show());
+        tool.slotAddConfirmButtonClicked();
+        QVERIFY(host.hears(2));
+        const QImage saved(host.last().path);
+        QCOMPARE(saved.size(), QSize(1920, 1080));
+        QVERIFY(!saved.hasAlphaChannel());
+        VD_COMPARE_IMAGES(saved, user.shownChart());
+        QVERIFY(saved != expectedChart(record.value<TestChartToolsData>()));
+        QCOMPARE(host.last().record, record.value<TestChartToolsData>());
     }
 
     void rowsAndColumnsReachTheChessboard()
@@ -481,7 +681,7 @@ private Q_SLOTS:
         QCOMPARE(User(tool).publicPanel()->getData(), second.publicData);
     }
 
-    void groupsWithoutAPanelComeBack()
+    void everyGroupComesBack()
     {
         VTestChartTools tool;
         TestChartToolsData record = smallRecord();
@@ -490,6 +690,12 @@ private Q_SLOTS:
         record.selfData.selfText = "text";
         tool.setTestChartToolsData(record);
         QCOMPARE(tool.getTestChartToolsData(), record);
+        const User user(tool);
+        InLineChartData inLineData;
+        user.inLinePanel()->getData(inLineData);
+        QCOMPARE(inLineData, record.inLineData);
+        QCOMPARE(user.logoPanel()->getData(), record.logoData);
+        QCOMPARE(user.selfPanel()->getData(), record.selfData);
     }
 
     void listKeysAreRows()
@@ -639,10 +845,26 @@ private Q_SLOTS:
         tool.setShowForAdd(true);
         User(tool).addConfirm()->click();
         QVERIFY(host.hears(2));
-        TestChartToolsData record;
-        record.publicData.outBorderWidth = 6; // what the panel shows before a record is pushed
+        TestChartToolsData record; // what the panels show before a record is pushed
+        const RgbaColor black = toRgbaColor(Qt::black);
+        record.publicData.outBorderWidth = 6;
+        record.inLineData.serialSize = 15;
+        record.inLineData.serialColor = black;
+        record.logoData.textColor = black;
+        record.selfData.selfTextColor = black;
+        record.selfData.resolutionTextColor = black;
         QCOMPARE(host.last().record, record);
+        const QImage whole(host.last().path);
+
+        switchLayersOff(User(tool));
+        tool.updateShowSaveBtnStatus(true);
+        User(tool).addConfirm()->click();
+        QVERIFY(host.hears(4));
         VD_COMPARE_IMAGES(QImage(host.last().path), expectedChart(record));
+
+        VTestChartTools shown;
+        QVERIFY(User(shown).show());
+        VD_COMPARE_IMAGES(User(shown).shownChart(), whole);
     }
 
     void hostMayDeleteTheToolAtAnyMoment_data()
@@ -759,6 +981,39 @@ private Q_SLOTS:
         QVERIFY(ears.hears(2));
         VD_COMPARE_IMAGES(QImage(ears.last().path), expectedChart(stripesRecord()));
         VD_COMPARE_IMAGES(User(tool).shownChart(), expectedChart(stripesRecord()));
+
+        tool.translateLanguage();
+        tool.setTestChartToolsData(TestChartToolsData());
+        const QImage underTheHost = User(tool).shownChart();
+        qApp->setStyleSheet(QString());
+        VTestChartTools alone;
+        alone.translateLanguage();
+        alone.setTestChartToolsData(TestChartToolsData());
+        VD_COMPARE_IMAGES(underTheHost, User(alone).shownChart());
+    }
+
+    void hostsFontStaysOutOfTheChart()
+    {
+        QWidget host;
+        VTestChartTools tool(&host);
+        tool.setTestChartToolsData(TestChartToolsData());
+        const QImage before = User(tool).shownChart();
+        QFont font = host.font();
+        font.setPixelSize(31);
+        host.setFont(font);
+        tool.slotGetHeightWidth();
+        VD_COMPARE_IMAGES(User(tool).shownChart(), before);
+    }
+
+    void missingPictureIsSilent()
+    {
+        VTestChartTools tool;
+        TestChartToolsData record = smallRecord();
+        record.logoData.showLogo = true;
+        record.logoData.picturePath = "/no/such/picture.png";
+        tool.setTestChartToolsData(record);
+        QCOMPARE(tool.getTestChartToolsData(), record);
+        VD_COMPARE_IMAGES(User(tool).shownChart(), expectedChart(record));
     }
 
     void hostMayDeleteTheToolWhileItIsTold_data()

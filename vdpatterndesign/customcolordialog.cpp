@@ -126,13 +126,20 @@ void CustomColorDialog::slotColorExternallyChanged(QColor color)
 void CustomColorDialog::slotColorDialogRejected()
 {
     Q_EMIT sigColorDialogRejected();
-    slotCloseWidget();
+    endChoice();
 }
 
 void CustomColorDialog::slotDialogAccepted()
 {
     Q_EMIT sigColorAccept(currentColor());
+    endChoice();
+}
+
+/// The inner dialog has hidden itself: a window that is locked open is not to stay empty.
+void CustomColorDialog::endChoice()
+{
     slotCloseWidget();
+    m_dialog->show();
 }
 
 /// Names the dialog's parts, by which they are styled and relabelled later.

@@ -39,6 +39,7 @@ public Q_SLOTS:
     void slotDialogAccepted();
 
 private:
+    void endChoice();
     void tagChildren();
 
     QColorDialog* m_dialog;

@@ -3,6 +3,7 @@
 #include "common/moverange.h"
 #include "titlewidget.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QKeyEvent>
@@ -122,8 +123,7 @@ void FloatDockWidget::slotLockWidget(bool bLock)
 
 void FloatDockWidget::slotWindowMoveDistance(QPoint distance)
 {
-    const QPoint target = pos() + distance;
-    move(d->clamped ? keptInRange(target, frameGeometry().size(), d->moveRange) : target);
+    moveClamped(pos() + distance);
     d->geometryChanged = true;
     Q_EMIT sigMove(distance);
 }
@@ -131,9 +131,15 @@ void FloatDockWidget::slotWindowMoveDistance(QPoint distance)
 void FloatDockWidget::slotShowInCursoPos()
 {
     const QPoint target = QCursor::pos();
-    move(d->clamped ? keptInRange(target, frameGeometry().size(), d->moveRange) : target);
+    moveClamped(target);
     show();
+    moveClamped(target); // only now its size is known
     raise();
+}
+
+void FloatDockWidget::moveClamped(const QPoint& target)
+{
+    move(d->clamped ? keptInRange(target, frameGeometry().size(), d->moveRange) : target);
 }
 
 void FloatDockWidget::showEvent(QShowEvent* event)
@@ -152,6 +158,15 @@ void FloatDockWidget::moveEvent(QMoveEvent* event)
 {
     d->geometryChanged = true;
     QDockWidget::moveEvent(event);
+}
+
+/// The window system may ask as well.
+void FloatDockWidget::closeEvent(QCloseEvent* event)
+{
+    if (d->locked)
+        event->ignore();
+    else
+        QDockWidget::closeEvent(event);
 }
 
 void FloatDockWidget::keyPressEvent(QKeyEvent* event)

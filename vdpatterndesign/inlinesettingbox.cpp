@@ -138,6 +138,8 @@ void InLineSettingBox::Impl::build(PanelControls& controls)
     circle.swatch.paint(QColor(0x00, 0xff, 0x00));
     diagonal.swatch.paint(QColor(0x00, 0xff, 0x00));
     serial.swatch.paint(Qt::black);
+    for (ColorRole* each : {&circle, &diagonal, &serial})
+        each->beforePicking = each->swatch.color();
 }
 
 void InLineSettingBox::Impl::buildCircleRows(SettingRows& rows)

@@ -19,7 +19,7 @@ public:
     void setCircleVisible(bool visible);
     void setCircleColor(const QColor& color);
     void setCircleLineWidth(ushort width);
-    /// The circles are drawn with twice this diameter, at most with the chart's shorter side.
+    /// The circles are drawn with twice this radius as their diameter, at most with the chart's shorter side.
     void setCircleRadius(ushort radius);
 
     void setDiagonalVisible(bool visible);

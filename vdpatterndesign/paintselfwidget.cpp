@@ -35,10 +35,11 @@ public:
 QString PaintSelfWidget::Impl::infoText(const QSize& size) const
 {
     const QString resolution =
-        QStringLiteral("%1:%2*%3").arg(resolutionCaption).arg(size.width()).arg(size.height());
+        resolutionCaption + QStringLiteral(":%1*%2").arg(size.width()).arg(size.height());
     if (!boxNumVisible)
         return resolution;
-    return resolution + QStringLiteral(" %1:%2").arg(boxNumCaption).arg(quint32(rows) * columns);
+    return resolution + QLatin1Char(' ') + boxNumCaption + QLatin1Char(':') +
+           QString::number(quint32(rows) * columns);
 }
 
 /// Draws `text` with its baseline half its height and `below` under the origin, and returns its fitted size.

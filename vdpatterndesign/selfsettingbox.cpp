@@ -3,6 +3,7 @@
 #include "common/settingrows.h"
 #include "common/swatch.h"
 #include "common/textentry.h"
+#include "common/translation.h"
 #include "common/wholevalue.h"
 #include "paintselfwidget.h"
 #include "testcharttoolsdata.h"
@@ -36,10 +37,8 @@ public:
 
     void buildRows(PanelControls& controls);
     void connectControls();
-    SwitchedSwatch& swatchOf(const QPushButton* button)
-    {
-        return button == textColor ? textSwatch : resolutionSwatch;
-    }
+    SwitchedSwatch* swatchOf(const QPushButton* button);
+    QColor colorOf(const QPushButton* button);
     void showColor(const QColor& color, QPushButton* button);
     void tellColor(const QColor& color, const QPushButton* button);
     void switchGroup(QPushButton* button, bool on);
@@ -132,9 +131,26 @@ void SelfSettingBox::Impl::connectControls()
     connect(resolutionColor, &QPushButton::clicked, this, &Impl::slotChangeResolutionColor);
 }
 
+/// Null for a button that is none of the panel's own.
+SwitchedSwatch* SelfSettingBox::Impl::swatchOf(const QPushButton* button)
+{
+    if (button == textColor)
+        return &textSwatch;
+    return button == resolutionColor ? &resolutionSwatch : nullptr;
+}
+
+QColor SelfSettingBox::Impl::colorOf(const QPushButton* button)
+{
+    const SwitchedSwatch* swatch = swatchOf(button);
+    return swatch ? swatch->color() : swatchColor(button);
+}
+
 void SelfSettingBox::Impl::showColor(const QColor& color, QPushButton* button)
 {
-    swatchOf(button).paint(color);
+    if (SwitchedSwatch* swatch = swatchOf(button))
+        swatch->paint(color);
+    else
+        paintSwatch(button, color);
     tellColor(color, button);
 }
 
@@ -155,7 +171,7 @@ void SelfSettingBox::Impl::tellColor(const QColor& color, const QPushButton* but
 void SelfSettingBox::Impl::switchGroup(QPushButton* button, bool on)
 {
     owner->controls().update();
-    swatchOf(button).show(on);
+    swatchOf(button)->show(on);
     Q_EMIT owner->selfSignal();
 }
 
@@ -232,8 +248,11 @@ SelfSettingBox::~SelfSettingBox() = default;
 
 void SelfSettingBox::setPaintSelfWidget(PaintSelfWidget* painter)
 {
-    if (painter)
-        d->painter = painter;
+    if (!painter)
+        return;
+    d->painter = painter;
+    if (isTranslated())
+        painter->retranslate();
 }
 
 SelfChartData SelfSettingBox::getData() const
@@ -264,7 +283,7 @@ void SelfSettingBox::setData(const SelfChartData& data)
 
 void SelfSettingBox::setButtonColor(const QColor& color, QPushButton* button)
 {
-    if (!button || !color.isValid() || color == d->swatchOf(button).color())
+    if (!button || !color.isValid() || color == d->colorOf(button))
         return;
     d->showColor(color, button);
     Q_EMIT selfSignal();
@@ -320,6 +339,8 @@ void SelfSettingBox::setRoleColor(const QString& role, const QColor& color)
 
 void SelfSettingBox::focusAfterLock(bool locked)
 {
+    for (QWidget* entry : std::initializer_list<QWidget*>{d->text, d->textSize, d->resolutionSize})
+        entry->clearFocus();
     if (locked)
         SettingPanel::focusAfterLock(locked);
 }

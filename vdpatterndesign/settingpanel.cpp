@@ -33,7 +33,7 @@ void SettingPanel::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        retranslate(); // what fits has changed
+        m_controls->captions.retranslate(); // what fits has changed; the chart has not
 }
 
 void SettingPanel::focusAfterLock(bool)

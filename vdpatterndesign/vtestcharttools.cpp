@@ -277,6 +277,8 @@ QWidget* VTestChartTools::Impl::createSettingsColumn()
     mask->setFixedSize(settingsSize);
     mask->setAttribute(Qt::WA_StyledBackground);
     mask->hide();
+    connect(scrollArea->verticalScrollBar(), &QScrollBar::valueChanged, mask,
+            [this](int y) { mask->move(0, y); });
     input.setCover(mask);
     return scrollArea;
 }
@@ -400,7 +402,6 @@ void VTestChartTools::Impl::beginCycle()
 
 void VTestChartTools::Impl::showMask()
 {
-    mask->move(0, scrollArea->verticalScrollBar()->value());
     mask->raise();
     mask->show();
 }

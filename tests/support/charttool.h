@@ -3,11 +3,19 @@
 #include "testcase.h"
 
 #include <basicsettingbox.h>
+#include <inlinesettingbox.h>
 #include <layerpainter.h>
+#include <logosettingbox.h>
 #include <paintbasicwidget.h>
+#include <paintinlinewidget.h>
+#include <paintpiclogowidget.h>
 #include <paintpublicbrightwidget.h>
 #include <paintpublicwidget.h>
+#include <paintrowcolsequewidget.h>
+#include <paintselfwidget.h>
+#include <painttextlogowidget.h>
 #include <publicsettingbox.h>
+#include <selfsettingbox.h>
 #include <spineditbox.h>
 #include <vtestcharttools.h>
 
@@ -18,6 +26,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QWindow>
 
@@ -47,9 +57,18 @@ public:
     QPushButton* saveButton() const { return named<QPushButton>("saveButton"); }
     QWidget* mask() const { return named<QWidget>("maskWidget"); }
     QLabel* preview() const { return named<QLabel>("ViewWidget"); }
-    QWidget* layerView() const { return painter<LayerPainter>()->parentWidget(); }
+    QWidget* layerView() const { return painter<PaintBasicWidget>()->parentWidget(); }
+    QScrollArea* settings() const { return named<QScrollArea>("ScrollArea"); }
     BasicSettingBox* basicPanel() const { return m_tool.findChild<BasicSettingBox*>(); }
+    InLineSettingBox* inLinePanel() const { return m_tool.findChild<InLineSettingBox*>(); }
+    LogoSettingBox* logoPanel() const { return m_tool.findChild<LogoSettingBox*>(); }
     PublicSettingBox* publicPanel() const { return m_tool.findChild<PublicSettingBox*>(); }
+    SelfSettingBox* selfPanel() const { return m_tool.findChild<SelfSettingBox*>(); }
+    /// In the order in which they are locked.
+    QList<SettingPanel*> panels() const
+    {
+        return {basicPanel(), inLinePanel(), logoPanel(), publicPanel(), selfPanel()};
+    }
     QRadioButton* chess() const { return named<QRadioButton>("chessRadioButton"); }
     QRadioButton* colorBar() const { return named<QRadioButton>("colorStripeRadioButton"); }
     QListWidget* stripeList() const { return named<QListWidget>("_colorStripeListWidget"); }
@@ -79,6 +98,20 @@ public:
         }
         std::sort(row.begin(), row.end(), [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
         return row.value(position);
+    }
+
+    /// The switch in the row that `caption` names.
+    QAbstractButton* toggle(const char* caption) const
+    {
+        const QLabel* const label = captionLabel(QLatin1String(caption));
+        for (QLayout* row : label->parentWidget()->findChildren<QLayout*>()) {
+            for (int i = 0; row->indexOf(const_cast<QLabel*>(label)) >= 0 && i < row->count(); ++i) {
+                auto* button = qobject_cast<QAbstractButton*>(row->itemAt(i)->widget());
+                if (button && button->isCheckable())
+                    return button;
+            }
+        }
+        return nullptr;
     }
 
     /// The label that shows `text`, elided or not.
@@ -113,11 +146,19 @@ public:
             20000);
     }
 
+    /// Scrolls the settings column until it shows `widget`; does nothing for what is not in the column.
+    void reveal(const QWidget* widget)
+    {
+        if (settings()->widget()->isAncestorOf(widget))
+            settings()->ensureWidgetVisible(const_cast<QWidget*>(widget));
+    }
+
     /// Clicks where `widget` is, so that what covers it gets the click.
     void click(const QWidget* widget) { clickAt(widget, widget->rect().center()); }
 
     void clickAt(const QWidget* widget, const QPoint& position)
     {
+        reveal(widget);
         QWidget* const window = widget->window();
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window, position));
     }
@@ -201,13 +242,36 @@ private:
     }
 };
 
-/// A small chart: 160 x 90 pixels with cabinets of 10 x 10.
-inline TestChartToolsData smallRecord()
+/// The default chart with nothing over its base pattern but the veil and the border.
+inline TestChartToolsData bareRecord()
 {
     TestChartToolsData record;
+    record.inLineData.showCircle = false;
+    record.inLineData.showDiagonal = false;
+    record.inLineData.showSerialNumber = false;
+    record.logoData.showLogo = false;
+    record.selfData.showSelfText = false;
+    record.selfData.showResolution = false;
+    return record;
+}
+
+/// A small bare chart: 160 x 90 pixels with cabinets of 10 x 10.
+inline TestChartToolsData smallRecord()
+{
+    TestChartToolsData record = bareRecord();
     record.publicData.resolutionWidth = 160;
     record.publicData.resolutionHeight = 90;
     return record;
+}
+
+/// Switches off in the tool what a bare record has switched off.
+inline void switchLayersOff(const User& user)
+{
+    for (const char* caption : {"Show Circle", "Show Diagonal", "Show Serial Number", "Show Logo",
+                                "Display custom text", "Show Resolution"}) {
+        if (QAbstractButton* const button = user.toggle(caption))
+            button->setChecked(false);
+    }
 }
 
 /// Fills the cells of a chessboard whose cells are whole pixels.
@@ -247,8 +311,8 @@ inline QRgb veiled(QRgb color, int brightness)
     return qRgb(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)));
 }
 
-/// The picture of an opaque record in whole pixels, made without the library: the base pattern (chessboard or
-/// stripes), the veil over it, the border (of one pixel or an even width) over both.
+/// The picture of a bare and opaque record in whole pixels, made without the library: the base pattern
+/// (chessboard or stripes), the veil over it, the border (of one pixel or an even width) over both.
 inline QImage expectedChart(const TestChartToolsData& record)
 {
     const PublicChartData& common = record.publicData;

@@ -41,6 +41,8 @@ void LogRecorder::handle(QtMsgType type, const QMessageLogContext& context, cons
     {
         const QMutexLocker locker(&mutex);
         recorder.m_messages.append(text);
+        if (type == QtFatalMsg)
+            declared = false;
         if (type == QtWarningMsg || type == QtCriticalMsg) {
             declared = std::any_of(
                 recorder.m_allowed.begin(), recorder.m_allowed.end(),

@@ -2,6 +2,8 @@
 
 #include <QFontMetrics>
 
+#include <algorithm>
+
 namespace vardeno::testcharttools {
 
 namespace {
@@ -95,16 +97,20 @@ int fittedLabelSize(int requested, const QFont& font, const CabinetGrid& grid)
 {
     const int heightLimit = int(grid.cellHeight() * 0.51);
     const int widthLimit = int(grid.cellWidth() * 0.5);
-    const auto fits = [&](int pixelSize) {
-        QFont sized = font;
-        sized.setPixelSize(pixelSize);
-        const QFontMetrics metrics(sized);
-        return metrics.height() <= heightLimit &&
-               metrics.horizontalAdvance(QStringLiteral("WW")) <= widthLimit;
-    };
     int size = requested;
-    while (size > 1 && !fits(size))
-        --size;
+    while (size > 1) {
+        QFont sized = font;
+        sized.setPixelSize(size);
+        const QFontMetrics metrics(sized);
+        const int height = metrics.height();
+        const int width = metrics.horizontalAdvance(QStringLiteral("WW"));
+        if (height <= heightLimit && width <= widthLimit)
+            break;
+        // Both grow with the size, but for a pixel of rounding: what is in between cannot fit either.
+        const double scale = std::min((heightLimit + 2.0) / std::max(height - 1, 1),
+                                      (widthLimit + 2.0) / std::max(width - 1, 1));
+        size = std::max(1, std::min(size - 1, int(size * scale) + 1));
+    }
     return size;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QFontMetrics>
 
+#include <algorithm>
+
 namespace vardeno::testcharttools {
 
 namespace {
@@ -23,7 +25,12 @@ FittedText fitText(const QString& text, int requested, double widthLimit, double
 {
     FittedText fitted = measured(text, requested);
     while ((fitted.advance > widthLimit || fitted.height > heightLimit) && fitted.pixelSize >= 1) {
-        const int next = fitted.pixelSize - 1;
+        // Both grow with the size, but for the rounding of a pixel and of every character: what is in between
+        // cannot fit either.
+        const double scale =
+            std::min({1.0, (heightLimit + 2) / std::max(fitted.height - 1, 1),
+                      (widthLimit + 2.0 * text.size()) / std::max(fitted.advance - text.size(), 1)});
+        const int next = std::min(fitted.pixelSize - 1, int(fitted.pixelSize * scale) + 1);
         if (next == 0)
             fitted.pixelSize = 0;
         else

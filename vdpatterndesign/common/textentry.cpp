@@ -1,5 +1,6 @@
 #include "common/textentry.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 
 namespace vardeno::testcharttools {
@@ -13,7 +14,19 @@ TextEntryWatcher::TextEntryWatcher(QLineEdit* entry)
         if (!m_entry->isModified())
             m_settled = text;
     });
-    connect(entry, &QLineEdit::editingFinished, this, &TextEntryWatcher::finish);
+    connect(entry, &QLineEdit::returnPressed, this, &TextEntryWatcher::finish);
+    entry->installEventFilter(this);
+}
+
+/// The entry itself tells of the focus only once in an edit, and that is when it is locked.
+bool TextEntryWatcher::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            finish();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void TextEntryWatcher::finish()

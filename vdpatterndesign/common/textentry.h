@@ -15,6 +15,8 @@ class TextEntryWatcher : public QObject
 public:
     explicit TextEntryWatcher(QLineEdit* entry);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     /// Texts that were set by code do not come here.
     void editFinished(const QString& previousText);

@@ -10,4 +10,9 @@ QString translated(const QString& source)
                             QStringLiteral("Widget"), source);
 }
 
+bool isTranslated()
+{
+    return !TranslateManager1::instance().translator().language().isEmpty();
+}
+
 } // namespace vardeno::testcharttools

@@ -8,4 +8,7 @@ namespace vardeno::testcharttools {
 /// translator.
 QString translated(const QString& source);
 
+/// Whether a language has been chosen yet.
+bool isTranslated();
+
 } // namespace vardeno::testcharttools
