@@ -168,7 +168,7 @@ std::optional<QPixmap> PaintPicLogoWidget::renderedPicture()
 
 bool PaintPicLogoWidget::draw(QPainter& painter, const QSize& size)
 {
-    painter.translate(size.width() / 2, size.height() / 2);
+    painter.translate(QPoint(size.width() / 2, size.height() / 2));
     painter.setOpacity(double(d->opacity));
     painter.drawPixmap(d->placement.at, pixmap(Qt::ReturnByValue));
     return true;

@@ -134,7 +134,8 @@ void PaintSelfWidget::retranslate()
 
 bool PaintSelfWidget::draw(QPainter& painter, const QSize& size)
 {
-    painter.translate(size.width() / 2, size.height() / 1.5);
+    const int middle = size.width() / 2;
+    painter.translate(middle, size.height() / 1.5);
     if (d->selfTextVisible)
         d->fittedSelfTextSize = d->drawLine(painter, size, d->selfText, d->selfTextSize, d->selfTextColor, 0);
     if (d->resolutionVisible)

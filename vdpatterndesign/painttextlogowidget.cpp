@@ -92,7 +92,7 @@ bool PaintTextLogoWidget::draw(QPainter& painter, const QSize& size)
     const LogoPlacement placement = placedText(size, extent, d->position, {d->moveX, d->moveY});
     d->applied = placement.applied;
 
-    painter.translate(size.width() / 2, size.height() / 2);
+    painter.translate(QPoint(size.width() / 2, size.height() / 2));
     painter.setPen(d->color);
     painter.setFont(fitted.font);
     painter.drawText(placement.at, d->text);
