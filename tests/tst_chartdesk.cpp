@@ -115,7 +115,11 @@ private Q_SLOTS:
         auto* list = window.findChild<QListWidget*>(QStringLiteral("chartList"));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
         QVERIFY(trigger(window, QStringLiteral("Edit chart")));
-        QTRY_VERIFY(button(window, QStringLiteral("Apply"))->isEnabled());
+        auto* mask = window.editor()->findChild<QWidget*>(QStringLiteral("maskWidget"));
+        QTRY_VERIFY(mask->isVisible());
+        QTRY_VERIFY(mask->isHidden()); // the chart has been painted, and no lock is to come
+        QCoreApplication::processEvents(); // the focus is given back
+        QVERIFY(button(window, QStringLiteral("Apply"))->isEnabled());
         SpinEditBox* rows = rowEntry(window);
         rows->setFocus();
         rows->selectAll();
