@@ -197,13 +197,14 @@ private Q_SLOTS:
         QTest::addColumn<QPoint>("shift");
         for (int anchor = -1; anchor <= 5; ++anchor) {
             const auto name = [anchor](const char* shift) {
-                return qPrintable(QStringLiteral("anchor %1, %2").arg(anchor).arg(QLatin1String(shift)));
+                return QString(QStringLiteral("anchor %1, %2").arg(anchor).arg(QLatin1String(shift)))
+                    .toUtf8();
             };
-            QTest::newRow(name("as it is")) << anchor << QPoint();
-            QTest::newRow(name("shifted")) << anchor << QPoint(17, 23);
-            QTest::newRow(name("shifted back")) << anchor << QPoint(-17, -23);
-            QTest::newRow(name("as far as it goes")) << anchor << QPoint(16384, 16384);
-            QTest::newRow(name("limits of an int")) << anchor << QPoint(INT_MIN, INT_MAX);
+            QTest::newRow(name("as it is").constData()) << anchor << QPoint();
+            QTest::newRow(name("shifted").constData()) << anchor << QPoint(17, 23);
+            QTest::newRow(name("shifted back").constData()) << anchor << QPoint(-17, -23);
+            QTest::newRow(name("as far as it goes").constData()) << anchor << QPoint(16384, 16384);
+            QTest::newRow(name("limits of an int").constData()) << anchor << QPoint(INT_MIN, INT_MAX);
         }
     }
 

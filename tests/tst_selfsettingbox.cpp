@@ -297,12 +297,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("pixels");
         for (const bool ofText : {true, false}) {
             const auto name = [ofText](const char* what) {
-                return qPrintable(QLatin1String(ofText ? "text, " : "resolution, ") + QLatin1String(what));
+                return QString(QLatin1String(ofText ? "text, " : "resolution, ") + QLatin1String(what))
+                    .toUtf8();
             };
-            QTest::newRow(name("smaller")) << ofText << QStringLiteral("20") << 20;
-            QTest::newRow(name("smallest")) << ofText << QStringLiteral("1") << 1;
-            QTest::newRow(name("largest")) << ofText << QStringLiteral("200") << 200;
-            QTest::newRow(name("truncated")) << ofText << QStringLiteral("31.9") << 31;
+            QTest::newRow(name("smaller").constData()) << ofText << QStringLiteral("20") << 20;
+            QTest::newRow(name("smallest").constData()) << ofText << QStringLiteral("1") << 1;
+            QTest::newRow(name("largest").constData()) << ofText << QStringLiteral("200") << 200;
+            QTest::newRow(name("truncated").constData()) << ofText << QStringLiteral("31.9") << 31;
         }
     }
 
