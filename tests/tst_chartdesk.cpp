@@ -117,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(trigger(window, QStringLiteral("Edit chart")));
         auto* mask = window.editor()->findChild<QWidget*>(QStringLiteral("maskWidget"));
         QTRY_VERIFY(mask->isVisible());
-        QTRY_VERIFY(mask->isHidden()); // the chart has been painted, and no lock is to come
+        QTRY_VERIFY(mask->isHidden());     // the chart has been painted, and no lock is to come
         QCoreApplication::processEvents(); // the focus is given back
         QVERIFY(button(window, QStringLiteral("Apply"))->isEnabled());
         SpinEditBox* rows = rowEntry(window);
