@@ -2,11 +2,41 @@
 # Renders the library's pictures from their SVG sources, at one and two pixels per unit. The results are checked in;
 # run this after a source has changed. Needs rsvg-convert (Debian: librsvg2-bin).
 set -euo pipefail
+export LC_ALL=C
 cd "$(dirname "$0")/../vdpatterndesign/resources"
+
+# Calm and hover keep a contrast of 3:1 (rounded) to the dark panels and to light ones, so one set serves both.
+calm='color:#8b8b99'
+dimmed="$calm;opacity:.45"
+hover='color:#458cee'
+pressed='color:#356cb8'
+accent='color:#3d7dd4'
+bright='color:#3abcf0'
+track='color:#636474'
+
+# A shape is drawn once, in currentColor. Its looks are "<ending of the picture's name>=<style>".
+looks() {
+  case $1 in
+    icon_pop_pin_enable) echo "_nor=$hover _hover=$bright _pressed=$pressed" ;;
+    icon_pop_*) echo "_nor=$calm _hover=$hover _pressed=$pressed" ;;
+    icon_zuo | icon_you) echo "_nor=$calm _dis=$dimmed _hov=$hover _pre=$pressed" ;;
+    radioBtn_selected) echo "_normal=$accent _hover=$hover _disabled=$dimmed _pressed=$pressed" ;;
+    radioBtn_unselected) echo "_normal=$calm _hover=$hover _disabled=$dimmed _pressed=$pressed" ;;
+    radioBtn_checked | Switch_on | icon_ask) echo "=$accent" ;;
+    icon_checked) echo "=$hover" ;;
+    Switch_off) echo "=$track" ;;
+    *) echo "=$calm" ;;
+  esac
+}
+
+rm -f images/*.png
 for source in svg/*.svg; do
-  name=$(basename "$source" .svg)
-  rsvg-convert "$source" -o "images/$name.png"
-  rsvg-convert --zoom 2 "$source" -o "images/$name@2x.png"
+  shape=$(basename "$source" .svg)
+  for look in $(looks "$shape"); do
+    picture=images/$shape${look%%=*}
+    rsvg-convert -s <(echo "svg {${look#*=}}") "$source" -o "$picture.png"
+    rsvg-convert -s <(echo "svg {${look#*=}}") --zoom 2 "$source" -o "$picture@2x.png"
+  done
 done
 rsvg-convert logo/logo_1025.svg -o logo/logo_1025.png
 {
