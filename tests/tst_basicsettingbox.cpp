@@ -229,10 +229,10 @@ public:
 
     QStringList takeHeard() { return std::exchange(heard, {}); }
 
+    QStringList heard; // the window goes first, and losing the focus ends an edit
+    PaintBasicWidget layer;
     QWidget window;
     BasicSettingBox* panel = new BasicSettingBox;
-    PaintBasicWidget layer;
-    QStringList heard;
 
 private:
     void clickAt(const QWidget* widget, const QPoint& position)

@@ -168,11 +168,11 @@ public:
 
     QStringList takeHeard() { return std::exchange(heard, {}); }
 
-    QWidget window;
-    PublicSettingBox* panel = new PublicSettingBox;
+    QStringList heard; // the window goes first, and losing the focus ends an edit
     PaintPublicWidget border;
     PaintPublicBrightWidget veil;
-    QStringList heard;
+    QWidget window;
+    PublicSettingBox* panel = new PublicSettingBox;
 
 private:
     void clickAt(const QWidget* widget, const QPoint& position)
