@@ -63,6 +63,10 @@ function(vd_library name)
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-  install(FILES ${arg_PUBLIC_HEADERS} "${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h"
+  foreach(header IN LISTS arg_PUBLIC_HEADERS)
+    get_filename_component(folder ${header} DIRECTORY)
+    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name}/${folder})
+  endforeach()
+  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name})
 endfunction()

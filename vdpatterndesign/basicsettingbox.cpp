@@ -494,6 +494,11 @@ BasicSettingBox::BasicSettingBox(QWidget* parent)
 
 BasicSettingBox::~BasicSettingBox() = default;
 
+void BasicSettingBox::setDialogStyleSheet(const QString& sheet)
+{
+    d->dialogStyleSheet = sheet;
+}
+
 void BasicSettingBox::setPaintWidget(PaintBasicWidget* painter)
 {
     if (painter)

@@ -23,6 +23,9 @@ public:
     /// The painter that the panel drives; it stays the caller's. Null is ignored.
     void setPaintWidget(PaintBasicWidget* painter);
 
+    /// The style sheet of the confirmations that the panel opens.
+    void setDialogStyleSheet(const QString& sheet);
+
     /// Gives the chess colour `which` ("odd" or "even") the colour `color`. Any other name does nothing.
     void setColor(const QColor& color, const QString& which);
     /// Puts back the chess colour `which` as it was when its colour button was last clicked.

@@ -4,6 +4,7 @@
 
 #include <QColorDialog>
 #include <QCoreApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -147,6 +148,9 @@ void CustomColorDialog::tagChildren()
 {
     tag<QLabel>(m_dialog);
     tag<QPushButton>(m_dialog);
+    const auto buttons = m_dialog->findChildren<QPushButton*>();
+    for (QPushButton* button : buttons)
+        button->setIcon(QIcon()); // the platform's pictures do not go with the library's
     const auto spinBoxes = m_dialog->findChildren<QSpinBox*>();
     for (QSpinBox* spinBox : spinBoxes)
         spinBox->setObjectName(QStringLiteral("spinBox"));

@@ -1,6 +1,7 @@
 #include "floatdockwidget.h"
 
 #include "common/moverange.h"
+#include "theme/themefile.h"
 #include "titlewidget.h"
 
 #include <QCloseEvent>
@@ -50,11 +51,22 @@ FloatDockWidget::FloatDockWidget(const QString& id, QWidget* parent)
     auto* body = new QScrollArea(this);
     body->setObjectName(QStringLiteral("ScrollArea"));
     body->setWidgetResizable(true);
+    body->setFrameShape(QFrame::NoFrame);
     body->setContentsMargins(0, 0, 0, 0);
     setWidget(body);
+    applyTheme();
 }
 
 FloatDockWidget::~FloatDockWidget() = default;
+
+void FloatDockWidget::applyTheme()
+{
+    const QString themeFile = installedThemeFile();
+    loadTheme(themeFile);
+    const QString sheet = findStyleSheet(themeFile);
+    setStyleSheet(sheet);
+    d->title->setStyleSheet(sheet);
+}
 
 QString FloatDockWidget::id() const
 {

@@ -61,6 +61,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void applyTheme();
     void moveClamped(const QPoint& target);
 
     class Impl;

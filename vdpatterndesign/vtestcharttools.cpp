@@ -22,6 +22,7 @@
 #include "publicsettingbox.h"
 #include "saveimagethread.h"
 #include "selfsettingbox.h"
+#include "theme/themefile.h"
 #include "translatemanager1.h"
 
 #include <propertybox.h>
@@ -97,6 +98,7 @@ public:
     void createConnects();
     void connectReports();
     void connectColorDialog();
+    void initTestChartTools();
     void centreColorDialog();
 
     void fitToResolution();
@@ -210,6 +212,8 @@ QWidget* VTestChartTools::Impl::createViewColumn()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     viewArea = new QWidget(column);
+    viewArea->setObjectName(QStringLiteral("viewArea"));
+    viewArea->setAttribute(Qt::WA_StyledBackground);
     viewArea->setFixedSize(viewAreaSize);
     previewLabel = new QLabel(viewArea);
     previewLabel->setObjectName(QStringLiteral("ViewWidget"));
@@ -217,6 +221,7 @@ QWidget* VTestChartTools::Impl::createViewColumn()
     layout->addWidget(viewArea);
     saveBar = new QWidget(column);
     saveBar->setObjectName(QStringLiteral("saveWidget"));
+    saveBar->setAttribute(Qt::WA_StyledBackground);
     saveBar->setFixedSize(saveBarSize);
     layout->addWidget(saveBar);
     createSaveBar();
@@ -360,6 +365,13 @@ void VTestChartTools::Impl::connectReports()
             painter, &LayerPainter::sigPaintEventUpdated, painter,
             [this, name] { owner->slotUpdatePaintEventStatus(name); }, Qt::DirectConnection);
     }
+}
+
+void VTestChartTools::Impl::initTestChartTools()
+{
+    const QString themeFile = installedThemeFile();
+    loadTheme(themeFile);
+    owner->setTestChartToolsStyleSheet(themeFile);
 }
 
 void VTestChartTools::Impl::fitToResolution()
@@ -509,6 +521,7 @@ VTestChartTools::VTestChartTools(QWidget* parent)
     d = std::make_unique<Impl>(this);
     d->createWidget();
     d->createConnects();
+    d->initTestChartTools();
     d->fitToResolution();
     d->captions.retranslate();
     setShowForAdd(false);
@@ -596,6 +609,16 @@ void VTestChartTools::setMoveRange(const QRect& range)
     d->dialogAnchor = range.center();
     if (d->colorDialog)
         d->colorDialog->setMoveRange(range);
+}
+
+void VTestChartTools::setTestChartToolsStyleSheet(const QString& themeFile)
+{
+    extendTheme(themeFile);
+    const QString sheet = findStyleSheet(themeFile);
+    setStyleSheet(sheet);
+    d->basicPanel->setDialogStyleSheet(sheet);
+    if (d->colorDialog)
+        d->colorDialog->setStyleSheet(sheet);
 }
 
 void VTestChartTools::closeColorDialog()

@@ -58,6 +58,10 @@ public:
 
     /// The host's main window, in global pixels: the colour picker stays in it.
     void setMoveRange(const QRect& range);
+    /// Lays the theme file `themeFile`, if there is one, over the current theme and styles the editor with
+    /// the
+    /// "*.qss" beside it, or with the compiled-in one. The colours of a process are those of its first theme.
+    void setTestChartToolsStyleSheet(const QString& themeFile);
     /// Hides the colour picker.
     void closeColorDialog();
 

@@ -1,5 +1,5 @@
-#include "darkpalette.h"
 #include "mainwindow.h"
+#include "themepalette.h"
 
 #include <vdpatterndesign_version.h>
 
@@ -73,10 +73,10 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("chartdesk"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VDPATTERNDESIGN_VERSION));
     QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setPalette(darkPalette());
 
     const Options options = parseCommandLine(application);
     MainWindow window(options.folder);
+    QApplication::setPalette(themePalette());
     window.editor()->loadLanguageFiles(
         {QStringLiteral(":/translations/en.ts"), QStringLiteral(":/translations/zh_CN.ts")});
     window.switchLanguage(options.language);

@@ -8,6 +8,11 @@ namespace {
 
 QMutex mutex;
 
+/// The default theme keeps one colour in a form that is refused and one disabled picture: every window that
+/// reads it warns of them.
+constexpr const char* alwaysAllowed[] = {"Color \"#000000\" is neither a named color nor a valid color",
+                                         "Theme image file /*upLogo is not set."};
+
 } // namespace
 
 LogRecorder& LogRecorder::instance()
@@ -21,6 +26,8 @@ void LogRecorder::start()
     m_messages.clear();
     m_undeclared.clear();
     m_allowed.clear();
+    for (const char* text : alwaysAllowed)
+        allowWarning(QRegularExpression::escape(QLatin1String(text)));
     m_next = qInstallMessageHandler(handle);
 }
 

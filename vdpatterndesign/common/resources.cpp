@@ -6,6 +6,7 @@
 static void initialiseResources()
 {
     Q_INIT_RESOURCE(vdpatterndesign);
+    Q_INIT_RESOURCE(vdpatterndesign_theme);
 }
 
 namespace vardeno::testcharttools {

@@ -1,0 +1,72 @@
+#include "theme/themefile.h"
+
+#include "common/resources.h"
+#include "theme/theme.h"
+#include "theme/theming.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+constexpr char compiledInFolder[] = ":/theme/teststylesheet";
+constexpr char themeName[] = "default.testcharttoolstheme";
+
+/// Empty where `folder` has no sheet that can be read.
+QString sheetIn(const QDir& folder)
+{
+    const QStringList sheets = folder.entryList({QStringLiteral("*.qss")}, QDir::Files, QDir::Name);
+    QFile file(folder.filePath(sheets.value(0)));
+    if (!sheets.isEmpty() && file.open(QIODevice::ReadOnly))
+        return QString::fromUtf8(file.readAll());
+    qDebug() << Q_FUNC_INFO << folder.filePath(QStringLiteral("*.qss")) << "not there!";
+    return {};
+}
+
+} // namespace
+
+QString installedThemeFile()
+{
+    ensureResources();
+    const QString installed =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                        QStringLiteral("/../share/themes/testcharttools/") + QLatin1String(themeName));
+    return QFileInfo::exists(installed)
+               ? installed
+               : QLatin1String(compiledInFolder) + QLatin1Char('/') + QLatin1String(themeName);
+}
+
+void loadTheme(const QString& file)
+{
+    auto* theme = new Theme(QStringLiteral("testcharttools.theme"), QCoreApplication::instance());
+    QSettings settings(file, QSettings::IniFormat);
+    theme->readSettings(settings);
+    Theme::setCurrentTheme(theme);
+}
+
+void extendTheme(const QString& file)
+{
+    if (!QFileInfo::exists(file) || !Theme::currentTheme())
+        return;
+    QSettings settings(file, QSettings::IniFormat);
+    Theme::currentTheme()->readSettings(settings);
+}
+
+QString findStyleSheet(const QString& themeFile)
+{
+    ensureResources();
+    QString css = sheetIn(QFileInfo(themeFile).dir());
+    if (css.isEmpty())
+        css = sheetIn(QDir(QLatin1String(compiledInFolder)));
+    css = Theming::replaceCssColors(css);
+    css = Theming::replaceCssImages(css);
+    return Theming::replaceCssIntegers(css);
+}
+
+} // namespace vardeno::testcharttools
