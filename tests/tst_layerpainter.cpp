@@ -14,18 +14,18 @@ class PlainLayer : public LayerPainter
 public:
     void setColor(const QColor& color) { assign(m_color, color); }
 
-    bool draws = true; ///< what `draw` answers
+    bool draws = true; ///< whether there is anything to draw from
     bool sourceIsNew = false;
     QVector<QSize> drawn; ///< the sizes of all calls
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override
+    bool isDrawable() const override { return draws; }
+
+    void draw(QPainter& painter, const QSize& size) override
     {
         drawn.append(size);
         sourceIsNew = false;
-        if (draws)
-            painter.fillRect(QRect(QPoint(), size), m_color);
-        return draws;
+        painter.fillRect(QRect(QPoint(), size), m_color);
     }
 
     bool sourceChanged() const override { return sourceIsNew; }
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(layer.drawn.size(), renders + 1);
     }
 
-    void aLayerThatDrawsNothingKeepsItsPicture()
+    void aLayerWithNothingToDrawFromKeepsItsPicture()
     {
         PlainLayer layer;
         layer.resize(30, 20);
@@ -202,20 +202,91 @@ private Q_SLOTS:
 
         layer.draws = false;
         layer.setColor(Qt::green);
-        QCOMPARE(layer.drawn.size(), 2);
-        QCOMPARE(pictureOf(layer), picture);
         layer.grab();
-        QCOMPARE(layer.drawn.size(), 2);
-
         layer.resize(50, 40);
         layer.grab();
-        QCOMPARE(layer.drawn.size(), 3);
+        QCOMPARE(layer.drawn.size(), 1);
         QCOMPARE(pictureOf(layer), picture);
         VD_COMPARE_IMAGES(layerImage(layer), filled(QSize(30, 20), Qt::red));
 
         layer.draws = true;
         layer.setColor(Qt::blue);
         VD_COMPARE_IMAGES(layerImage(layer), filled(QSize(50, 40), Qt::blue));
+    }
+
+    void aHeldLayerRendersOnceWhenItIsLetGo()
+    {
+        PlainLayer layer;
+        layer.resize(30, 20);
+        layer.setHeld(true);
+        layer.setColor(Qt::green);
+        layer.setColor(Qt::blue);
+        layer.resize(50, 40);
+        QVERIFY(layer.drawn.isEmpty());
+        layer.setHeld(false);
+        QCOMPARE(layer.drawn, QVector<QSize>{QSize(50, 40)});
+        VD_COMPARE_IMAGES(layerImage(layer), filled(QSize(50, 40), Qt::blue));
+        layer.setHeld(true);
+        layer.setHeld(false);
+        QCOMPARE(layer.drawn.size(), 1);
+    }
+
+    void aHeldLayerIsPaintedAsItIs()
+    {
+        PlainLayer layer;
+        layer.resize(30, 20);
+        layer.setHeld(true);
+        layer.setColor(Qt::green);
+        VD_COMPARE_IMAGES(layer.grab().toImage(), filled(QSize(30, 20), Qt::green));
+        layer.setHeld(false);
+        QCOMPARE(layer.drawn.size(), 1);
+    }
+
+    void whoeverHoldsAPictureKeepsIt()
+    {
+        PlainLayer layer;
+        layer.resize(30, 20);
+        layer.setColor(Qt::green);
+        const QImage before = layerImage(layer);
+        const QPixmap held = layer.pixmap(Qt::ReturnByValue);
+        layer.setColor(Qt::blue);
+        VD_COMPARE_IMAGES(before, filled(QSize(30, 20), Qt::green));
+        VD_COMPARE_IMAGES(held.toImage(), filled(QSize(30, 20), Qt::green));
+    }
+
+    void coversItsArea_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<bool>("covers");
+        QTest::newRow("opaque") << QColor(Qt::green) << true;
+        QTest::newRow("nearly opaque") << QColor(0, 255, 0, 254) << false;
+        QTest::newRow("transparent") << QColor(Qt::transparent) << false;
+    }
+
+    void coversItsArea()
+    {
+        QFETCH(QColor, color);
+        QFETCH(bool, covers);
+        PlainLayer layer;
+        layer.resize(300, 200);
+        layer.setColor(color);
+        QCOMPARE(layer.coversItsArea(), covers);
+        layer.resize(400, 300);
+        QCOMPARE(layer.coversItsArea(), covers);
+        layer.draws = false;
+        layer.resize(500, 300);
+        QVERIFY(!layer.coversItsArea());
+    }
+
+    void coversNothingWithSomeoneElsesPicture()
+    {
+        PlainLayer layer;
+        layer.resize(30, 20);
+        QVERIFY(layer.coversItsArea());
+        connect(&layer, &LayerPainter::sigPaintEventUpdated, this, [&] { layer.setPixmap(QPixmap()); });
+        layer.grab();
+        layer.draws = false;
+        QVERIFY(!layer.coversItsArea());
     }
 
     void anEmptyLayerIsNotDrawn_data()

@@ -1,11 +1,24 @@
 #include "layerpainter.h"
 
+#include "common/layerpicture.h"
+
 #include <QPainter>
 
 namespace vardeno::testcharttools {
 
+class LayerPainter::Impl
+{
+public:
+    LayerPicture picture;
+    QSize renderedSize;
+    qint64 renderedKey = 0; ///< identifies the picture of the last render
+    bool held = false;
+    bool changed = false; ///< while held
+};
+
 LayerPainter::LayerPainter(QWidget* parent)
     : QLabel(parent)
+    , d(std::make_unique<Impl>())
 {
     // The layer takes the size of the chart; the picture of its previous size must not hold it.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
@@ -13,33 +26,58 @@ LayerPainter::LayerPainter(QWidget* parent)
 
 LayerPainter::~LayerPainter() = default;
 
+void LayerPainter::setHeld(bool held)
+{
+    d->held = held;
+    if (!held && d->changed)
+        render();
+}
+
+bool LayerPainter::coversItsArea()
+{
+    refresh();
+    return d->renderedKey == pixmap(Qt::ReturnByValue).cacheKey() && d->picture.ink().opaque &&
+           pixmap(Qt::ReturnByValue).size() == size();
+}
+
 void LayerPainter::paintEvent(QPaintEvent* event)
 {
-    if (isStale())
-        render();
+    refresh();
     Q_EMIT sigPaintEventUpdated();
     paintStored(event);
 }
 
-std::optional<QPixmap> LayerPainter::renderedPicture()
+bool LayerPainter::isDrawable() const
 {
-    QPixmap layer(size());
-    layer.fill(Qt::transparent);
-    if (layer.isNull())
-        return std::nullopt; // nothing to draw on: the layer keeps its picture
-    QPainter painter(&layer);
-    if (!draw(painter, layer.size()))
-        return std::nullopt;
+    return true;
+}
+
+void LayerPainter::renderPicture()
+{
+    if (size().isEmpty() || !isDrawable())
+        return;
+    clear(); // lets go of the picture, which is then drawn on again
+    QImage& image = d->picture.blank(size());
+    if (image.isNull())
+        return;
+    QPainter painter(&image);
+    draw(painter, image.size());
     painter.end();
-    return layer;
+    setPixmap(d->picture.finished());
 }
 
 /// Not as the label's style would: a style sheet of the host, or a host that is disabled, must not get into
 /// the chart.
 void LayerPainter::paintStored(QPaintEvent*)
 {
+    const QPixmap stored = pixmap(Qt::ReturnByValue);
     QPainter painter(this);
-    painter.drawPixmap(0, 0, pixmap(Qt::ReturnByValue));
+    if (stored.cacheKey() != d->renderedKey) {
+        painter.drawPixmap(0, 0, stored);
+        return;
+    }
+    for (const QRect& place : d->picture.ink().places)
+        painter.drawPixmap(place.topLeft(), stored, place);
 }
 
 bool LayerPainter::sourceChanged() const
@@ -49,16 +87,25 @@ bool LayerPainter::sourceChanged() const
 
 void LayerPainter::render()
 {
-    m_renderedSize = size();
-    if (const auto picture = renderedPicture())
-        setPixmap(*picture);
-    m_renderedKey = pixmap(Qt::ReturnByValue).cacheKey();
+    d->changed = false;
+    d->renderedSize = size();
+    renderPicture();
+    d->renderedKey = pixmap(Qt::ReturnByValue).cacheKey();
 }
 
-bool LayerPainter::isStale() const
+void LayerPainter::layerChanged()
 {
-    return m_renderedSize != size() || m_renderedKey != pixmap(Qt::ReturnByValue).cacheKey() ||
-           sourceChanged();
+    if (d->held)
+        d->changed = true;
+    else
+        render();
+}
+
+void LayerPainter::refresh()
+{
+    if (d->changed || d->renderedSize != size() || d->renderedKey != pixmap(Qt::ReturnByValue).cacheKey() ||
+        sourceChanged())
+        render();
 }
 
 } // namespace vardeno::testcharttools

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QPixmap>
 
-#include <optional>
+#include <memory>
 
 namespace vardeno::testcharttools {
 
@@ -26,6 +26,13 @@ public:
     /// Renders the layer now, whether or not anything has changed.
     void render();
 
+    /// Held, setters only note that something has changed; the layer renders once when it is let go, if need
+    /// be.
+    void setHeld(bool held);
+
+    /// Brings the picture up to date and tells whether it covers the whole layer without a transparent pixel.
+    bool coversItsArea();
+
 Q_SIGNALS:
     /// Sent by every paint event, after the layer's picture is up to date and before it is painted.
     void sigPaintEventUpdated();
@@ -33,13 +40,13 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
 
-    /// Draws the layer with `painter` on a transparent picture of `size` (never empty). Returns false to
-    /// leave the layer with the picture it had.
-    virtual bool draw(QPainter& painter, const QSize& size) = 0;
+    /// Whether there is anything to draw from. A layer for which there is not stays with the picture it had.
+    virtual bool isDrawable() const;
+    /// Draws the layer with `painter` on a transparent picture of `size` (never empty).
+    virtual void draw(QPainter& painter, const QSize& size) = 0;
 
-    /// The layer's picture; none to leave the layer with the one it had. The base draws a transparent picture
-    /// of the layer's size.
-    virtual std::optional<QPixmap> renderedPicture();
+    /// Makes the label's picture anew. The base draws a transparent one of the layer's size.
+    virtual void renderPicture();
 
     /// Paints the stored picture; the base paints it at the top left.
     virtual void paintStored(QPaintEvent* event);
@@ -55,14 +62,17 @@ protected:
         if (field == value)
             return;
         field = value;
-        render();
+        layerChanged();
     }
 
-private:
-    bool isStale() const;
+    /// Renders the layer, or notes that it is to be rendered while it is held.
+    void layerChanged();
+    /// Renders the layer if its picture is not what a fresh render would give.
+    void refresh();
 
-    QSize m_renderedSize;
-    qint64 m_renderedKey = 0; ///< identifies the picture of the last render
+private:
+    class Impl;
+    std::unique_ptr<Impl> d;
 };
 
 } // namespace vardeno::testcharttools

@@ -13,7 +13,7 @@ class PaintBasicWidget::Impl : public QObject
 public:
     QVector<QColor> barColors() const;
 
-    bool drawChess(QPainter& painter, const QSize& size) const;
+    void drawChess(QPainter& painter, const QSize& size) const;
     void drawGradient(QPainter& painter, const QSize& size) const;
     void drawStripes(QPainter& painter, const QSize& size) const;
 
@@ -38,10 +38,8 @@ QVector<QColor> PaintBasicWidget::Impl::barColors() const
     return colors;
 }
 
-bool PaintBasicWidget::Impl::drawChess(QPainter& painter, const QSize& size) const
+void PaintBasicWidget::Impl::drawChess(QPainter& painter, const QSize& size) const
 {
-    if (rows == 0 || columns == 0)
-        return false;
     const double cellHeight = double(size.height()) / rows;
     const double cellWidth = double(size.width()) / columns;
     // Edges are running sums: where rounding keeps the last one below the far edge, a sliver of one more cell
@@ -52,7 +50,6 @@ bool PaintBasicWidget::Impl::drawChess(QPainter& painter, const QSize& size) con
             painter.fillRect(QRectF(x, y, cellWidth, cellHeight), odd ? oddColor : evenColor);
         }
     }
-    return true;
 }
 
 void PaintBasicWidget::Impl::drawGradient(QPainter& painter, const QSize& size) const
@@ -122,12 +119,18 @@ void PaintBasicWidget::setColorStripeList(QListWidget* list)
     assign(d->colorStripeList, QPointer<QListWidget>(list));
 }
 
-bool PaintBasicWidget::draw(QPainter& painter, const QSize& size)
+bool PaintBasicWidget::isDrawable() const
+{
+    return d->mode != 0 || (d->rows > 0 && d->columns > 0);
+}
+
+void PaintBasicWidget::draw(QPainter& painter, const QSize& size)
 {
     d->drawnColors = d->barColors();
     switch (d->mode) {
     case 0:
-        return d->drawChess(painter, size);
+        d->drawChess(painter, size);
+        break;
     case 1:
         d->drawGradient(painter, size);
         break;
@@ -137,7 +140,6 @@ bool PaintBasicWidget::draw(QPainter& painter, const QSize& size)
     default:
         break;
     }
-    return true;
 }
 
 bool PaintBasicWidget::sourceChanged() const

@@ -40,7 +40,8 @@ public:
     void setColorStripeList(QListWidget* list);
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
+    bool isDrawable() const override;
+    void draw(QPainter& painter, const QSize& size) override;
     bool sourceChanged() const override;
 
 private:

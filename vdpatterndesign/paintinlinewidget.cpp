@@ -153,7 +153,7 @@ ushort PaintInLineWidget::workingSerialSize() const
     return d->workingSerialSize;
 }
 
-bool PaintInLineWidget::draw(QPainter& painter, const QSize& size)
+void PaintInLineWidget::draw(QPainter& painter, const QSize& size)
 {
     if (d->diagonalVisible)
         d->drawDiagonals(painter, size);
@@ -161,12 +161,11 @@ bool PaintInLineWidget::draw(QPainter& painter, const QSize& size)
         d->drawCircles(painter, size);
     if (d->serialVisible)
         d->drawLabels(painter, size);
-    return true;
 }
 
 void PaintInLineWidget::resizeEvent(QResizeEvent* event)
 {
-    render();
+    refresh();
     QWidget::resizeEvent(event);
 }
 

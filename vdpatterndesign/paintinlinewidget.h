@@ -46,7 +46,7 @@ public:
     ushort workingSerialSize() const;
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
+    void draw(QPainter& painter, const QSize& size) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

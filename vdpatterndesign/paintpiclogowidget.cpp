@@ -47,6 +47,8 @@ public:
     QString dialogTitle;
     std::string picPath;
     CachedPicture picture;
+    QPixmap logo;       ///< the picture in its size on the chart
+    qint64 logoKey = 0; ///< of the picture that `logo` was made from
     int position = 0;
 };
 
@@ -104,7 +106,7 @@ void PaintPicLogoWidget::setOpacity(int percent)
     if (percent * 0.01 == double(d->opacity))
         return;
     d->opacity = float(percent * 0.01);
-    render();
+    layerChanged();
 }
 
 void PaintPicLogoWidget::setScale(int percent)
@@ -112,7 +114,7 @@ void PaintPicLogoWidget::setScale(int percent)
     if (percent * 0.01 == double(d->scale))
         return;
     d->scale = float(percent * 0.01);
-    render();
+    layerChanged();
 }
 
 void PaintPicLogoWidget::setDefaultPicLogo()
@@ -154,24 +156,27 @@ void PaintPicLogoWidget::translateTitle()
 }
 
 /// The label's picture is the scaled logo alone; where it stands is decided when it is painted.
-std::optional<QPixmap> PaintPicLogoWidget::renderedPicture()
+void PaintPicLogoWidget::renderPicture()
 {
     const QImage& image = d->picture.load(d->path());
-    if (image.isNull())
-        return QPixmap();
+    if (image.isNull()) {
+        setPixmap(QPixmap());
+        return;
+    }
     const QSize scaled(int(float(image.width()) * d->scale), int(float(image.height()) * d->scale));
-    const QPixmap logo =
-        QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
-    d->placement = placedPicture(size(), logo.size(), d->position, {d->moveX, d->moveY});
-    return logo;
+    if (d->logo.size() != scaled || d->logoKey != image.cacheKey()) {
+        d->logo = QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+        d->logoKey = image.cacheKey();
+    }
+    d->placement = placedPicture(size(), d->logo.size(), d->position, {d->moveX, d->moveY});
+    setPixmap(d->logo);
 }
 
-bool PaintPicLogoWidget::draw(QPainter& painter, const QSize& size)
+void PaintPicLogoWidget::draw(QPainter& painter, const QSize& size)
 {
     painter.translate(QPoint(size.width() / 2, size.height() / 2));
     painter.setOpacity(double(d->opacity));
     painter.drawPixmap(d->placement.at, pixmap(Qt::ReturnByValue));
-    return true;
 }
 
 void PaintPicLogoWidget::paintStored(QPaintEvent*)

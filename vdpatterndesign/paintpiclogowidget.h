@@ -53,8 +53,8 @@ Q_SIGNALS:
     void sigMoveXY(int x, int y);
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
-    std::optional<QPixmap> renderedPicture() override;
+    void draw(QPainter& painter, const QSize& size) override;
+    void renderPicture() override;
     void paintStored(QPaintEvent* event) override;
     bool sourceChanged() const override;
 

@@ -23,11 +23,11 @@ void PaintPublicBrightWidget::setBrightness(ushort percent)
     assign(d->brightness, percent);
 }
 
-bool PaintPublicBrightWidget::draw(QPainter& painter, const QSize& size)
+void PaintPublicBrightWidget::draw(QPainter& painter, const QSize& size)
 {
     const int alpha = 255 - d->brightness * 255 / 100;
-    painter.fillRect(QRect(QPoint(), size), QColor(0, 0, 0, alpha));
-    return true;
+    if (alpha > 0)
+        painter.fillRect(QRect(QPoint(), size), QColor(0, 0, 0, alpha));
 }
 
 } // namespace vardeno::testcharttools

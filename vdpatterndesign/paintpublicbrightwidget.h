@@ -20,7 +20,7 @@ public:
     void setBrightness(ushort percent);
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
+    void draw(QPainter& painter, const QSize& size) override;
 
 private:
     class Impl;

@@ -49,10 +49,10 @@ void PaintPublicWidget::setColumns(ushort columns)
     assign(d->columns, columns);
 }
 
-bool PaintPublicWidget::draw(QPainter& painter, const QSize& size)
+void PaintPublicWidget::draw(QPainter& painter, const QSize& size)
 {
     if (!d->outBorderVisible)
-        return true;
+        return;
     painter.setPen(chartPen(d->outLineColor, d->outLineWidth));
 
     // The lines' centres lie half a pen inside the edges; the square caps fill the corners.
@@ -64,7 +64,6 @@ bool PaintPublicWidget::draw(QPainter& painter, const QSize& size)
     painter.drawLine(near, bottom, right, bottom);
     painter.drawLine(near, near, near, bottom);
     painter.drawLine(right, near, right, bottom);
-    return true;
 }
 
 } // namespace vardeno::testcharttools

@@ -25,7 +25,7 @@ public:
     void setColumns(ushort columns);
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
+    void draw(QPainter& painter, const QSize& size) override;
 
 private:
     class Impl;

@@ -99,10 +99,10 @@ int PaintRowColSequeWidget::sequeSize() const
     return d->fittedSequeSize;
 }
 
-bool PaintRowColSequeWidget::draw(QPainter& painter, const QSize& size)
+void PaintRowColSequeWidget::draw(QPainter& painter, const QSize& size)
 {
     if (!d->rowColVisible && !d->sequeVisible)
-        return true;
+        return;
     const CabinetGrid grid{size, d->rows, d->columns};
     QFont font = painter.font();
     d->fittedSequeSize = ushort(fittedLabelSize(d->sequeSize, font, grid));
@@ -112,7 +112,6 @@ bool PaintRowColSequeWidget::draw(QPainter& painter, const QSize& size)
         d->drawLines(painter, grid);
     if (d->sequeVisible)
         drawCabinetLabels(painter, grid, d->style, font, d->sequeColor);
-    return true;
 }
 
 } // namespace vardeno::testcharttools

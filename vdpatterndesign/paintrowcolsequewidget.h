@@ -38,7 +38,7 @@ public:
     int sequeSize() const;
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
+    void draw(QPainter& painter, const QSize& size) override;
 
 private:
     class Impl;

@@ -132,7 +132,7 @@ void PaintSelfWidget::retranslate()
     assign(d->boxNumCaption, translated(QStringLiteral("BoxNumShow")));
 }
 
-bool PaintSelfWidget::draw(QPainter& painter, const QSize& size)
+void PaintSelfWidget::draw(QPainter& painter, const QSize& size)
 {
     const int middle = size.width() / 2;
     painter.translate(middle, size.height() / 1.5);
@@ -141,7 +141,6 @@ bool PaintSelfWidget::draw(QPainter& painter, const QSize& size)
     if (d->resolutionVisible)
         d->fittedResolutionSize = d->drawLine(painter, size, d->infoText(size), d->resolutionSize,
                                               d->resolutionColor, size.height() / 6);
-    return true;
 }
 
 void PaintSelfWidget::showEvent(QShowEvent* event)

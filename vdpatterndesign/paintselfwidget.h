@@ -44,7 +44,7 @@ public:
     void retranslate();
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
+    void draw(QPainter& painter, const QSize& size) override;
     void showEvent(QShowEvent* event) override;
 
 private:

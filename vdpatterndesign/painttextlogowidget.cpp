@@ -82,7 +82,7 @@ int PaintTextLogoWidget::fittedSize() const
     return d->fittedSize;
 }
 
-bool PaintTextLogoWidget::draw(QPainter& painter, const QSize& size)
+void PaintTextLogoWidget::draw(QPainter& painter, const QSize& size)
 {
     // Not rounded: full opacity gives 254. It is meant.
     d->color.setAlpha(std::clamp(int(d->opacity * 2.55), 0, 255));
@@ -96,7 +96,6 @@ bool PaintTextLogoWidget::draw(QPainter& painter, const QSize& size)
     painter.setPen(d->color);
     painter.setFont(fitted.font);
     painter.drawText(placement.at, d->text);
-    return true;
 }
 
 void PaintTextLogoWidget::showEvent(QShowEvent* event)

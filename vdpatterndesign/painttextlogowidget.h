@@ -34,7 +34,7 @@ public:
     int fittedSize() const;
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override;
+    void draw(QPainter& painter, const QSize& size) override;
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -146,6 +146,7 @@ public:
     InputKeeper input;
     CaptionSet captions; ///< of the edit buttons
     QRect fittedPreviewRect;
+    QImage snapshot;
     QString savePath = QStringLiteral(" ");
     QString previewName = QStringLiteral(" ");
     QString currentEditName = QStringLiteral(" ");
@@ -431,7 +432,9 @@ void VTestChartTools::Impl::lockControls(bool locked)
 
 void VTestChartTools::Impl::takeSnapshot()
 {
-    previewLabel->setPixmap(QPixmap::fromImage(layers.image()));
+    previewLabel->clear(); // lets go of the snapshot, whose memory is used again
+    layers.compose(snapshot);
+    previewLabel->setPixmap(QPixmap::fromImage(snapshot));
     previewLabel->resize(fittedPreviewRect.size());
     previewLabel->move(fittedPreviewRect.topLeft());
 }
@@ -540,10 +543,12 @@ void VTestChartTools::setTestChartToolsData(TestChartToolsData data)
 {
     d->record = data;
     d->pushing = true;
+    d->layers.setHeld(true);
     for (SettingPanel* panel : d->panels)
         panel->pushFrom(data);
     if (d->showForAdd)
         d->basicPanel->colorStripeAddDefaultColors(true);
+    d->layers.setHeld(false);
     d->pushing = false;
     if (d->captureWanted)
         d->captureAndDisplay();

@@ -13,10 +13,10 @@ public:
     int renders = 0;
 
 protected:
-    bool draw(QPainter& painter, const QSize& size) override
+    void draw(QPainter& painter, const QSize& size) override
     {
         ++renders;
-        return Layer::draw(painter, size);
+        Layer::draw(painter, size);
     }
 };
 

@@ -17,8 +17,6 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-constexpr QWidget::RenderFlags renderFlags = QWidget::DrawWindowBackground | QWidget::DrawChildren;
-
 template <typename Painter>
 LayerPainter* create()
 {
@@ -80,6 +78,11 @@ void LayerStack::stack(QGridLayout* cell, const Layer& layer)
 void LayerStack::setChartSize(const QSize& size)
 {
     m_view->setFixedSize(size);
+    // Now, not when the view is next drawn: a layer that renders in between would do it for nothing.
+    if (m_sharedPlace)
+        m_sharedPlace->resize(size);
+    for (LayerPainter* painter : m_painters)
+        painter->resize(size);
 }
 
 QSize LayerStack::chartSize() const
@@ -89,11 +92,25 @@ QSize LayerStack::chartSize() const
 
 QImage LayerStack::image() const
 {
-    QImage image(chartSize(), QImage::Format_RGB32);
-    image.fill(Qt::black);
-    QPainter painter(&image);
-    m_view->render(&painter, QPoint(), QRegion(), renderFlags);
+    QImage image;
+    compose(image);
     return image;
+}
+
+void LayerStack::compose(QImage& image) const
+{
+    if (image.size() != chartSize() || image.format() != QImage::Format_RGB32 || !image.isDetached())
+        image = QImage(chartSize(), QImage::Format_RGB32);
+    if (!m_painters.front()->coversItsArea())
+        image.fill(Qt::black);
+    QPainter painter(&image);
+    m_view->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+}
+
+void LayerStack::setHeld(bool held)
+{
+    for (LayerPainter* painter : m_painters)
+        painter->setHeld(held);
 }
 
 } // namespace vardeno::testcharttools

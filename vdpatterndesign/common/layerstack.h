@@ -40,6 +40,13 @@ public:
     /// The composed chart at full resolution, opaque (RGB32). All visible painters paint, and report,
     /// meanwhile.
     QImage image() const;
+    /// The same, in `image`, whose memory is used again where its size and format are those of the chart and
+    /// no one else holds it.
+    void compose(QImage& image) const;
+
+    /// Held, the layers only note that something has changed; each renders once when they are let go, if need
+    /// be.
+    void setHeld(bool held);
 
     /// Holds the layers that share a place.
     QStackedWidget* sharedPlace() const { return m_sharedPlace; }

@@ -1,0 +1,100 @@
+#include "common/layerpicture.h"
+#include "testcase.h"
+
+#include <QPainter>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+QPixmap drawn(LayerPicture& picture, const QSize& size, const QRect& where, const QColor& color)
+{
+    QImage& image = picture.blank(size);
+    QPainter painter(&image);
+    painter.fillRect(where, color);
+    painter.end();
+    return picture.finished();
+}
+
+QImage expected(const QSize& size, const QRect& where, const QColor& color)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter(&image).fillRect(where, color);
+    return image;
+}
+
+constexpr QSize chart(200, 100);
+constexpr QRect onTheLeft(10, 10, 50, 50);
+constexpr QRect onTheRight(120, 40, 60, 60);
+
+} // namespace
+
+class TestLayerPicture : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void beginsTransparent()
+    {
+        LayerPicture picture;
+        const QImage& image = picture.blank(chart);
+        QCOMPARE(image.size(), chart);
+        QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied);
+        VD_COMPARE_IMAGES(image, expected(chart, {}, Qt::black));
+    }
+
+    void knowsItsInk()
+    {
+        LayerPicture picture;
+        drawn(picture, chart, onTheLeft, Qt::red);
+        QVERIFY(!picture.ink().places.isEmpty());
+        for (const QRect& place : picture.ink().places)
+            QVERIFY(place.intersects(onTheLeft));
+        drawn(picture, chart, {}, Qt::red);
+        QVERIFY(picture.ink().places.isEmpty());
+    }
+
+    void isDrawnOnAgain()
+    {
+        LayerPicture picture;
+        const uchar* memory = nullptr;
+        {
+            const QPixmap first = drawn(picture, chart, onTheLeft, Qt::red);
+            VD_COMPARE_IMAGES(first.toImage(), expected(chart, onTheLeft, Qt::red));
+            memory = first.toImage().constBits();
+        }
+        const QPixmap second = drawn(picture, chart, onTheRight, QColor(0, 0, 255, 80));
+        VD_COMPARE_IMAGES(second.toImage(), expected(chart, onTheRight, QColor(0, 0, 255, 80)));
+        QCOMPARE(second.toImage().constBits(), memory);
+    }
+
+    void leavesWhatSomeoneHolds()
+    {
+        LayerPicture picture;
+        const QPixmap first = drawn(picture, chart, onTheLeft, Qt::red);
+        const QPixmap second = drawn(picture, chart, onTheRight, Qt::blue);
+        VD_COMPARE_IMAGES(first.toImage(), expected(chart, onTheLeft, Qt::red));
+        VD_COMPARE_IMAGES(second.toImage(), expected(chart, onTheRight, Qt::blue));
+        QVERIFY(first.cacheKey() != second.cacheKey());
+    }
+
+    void everyDrawingHasAKeyOfItsOwn()
+    {
+        LayerPicture picture;
+        const qint64 first = drawn(picture, chart, onTheLeft, Qt::red).cacheKey();
+        const qint64 second = drawn(picture, chart, onTheLeft, Qt::blue).cacheKey();
+        QVERIFY(first != second);
+    }
+
+    void takesAnotherSize()
+    {
+        LayerPicture picture;
+        drawn(picture, chart, onTheLeft, Qt::red);
+        const QPixmap larger = drawn(picture, {300, 200}, onTheRight, Qt::blue);
+        VD_COMPARE_IMAGES(larger.toImage(), expected({300, 200}, onTheRight, Qt::blue));
+    }
+};
+
+VD_TEST_MAIN(TestLayerPicture)
+#include "tst_layerpicture.moc"
