@@ -1,27 +1,23 @@
 #include "basicsettingbox.h"
 #include "customdialog.h"
 #include "imagewidget.h"
+#include "language.h"
 #include "paintbasicwidget.h"
 #include "testcase.h"
 #include "testcharttoolsdata.h"
-#include "translatemanager1.h"
 
 #include <QColorDialog>
 #include <QDragEnterEvent>
-#include <QFile>
 #include <QListWidget>
-#include <QMap>
 #include <QMimeData>
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
-#include <QXmlStreamWriter>
 
 #include <memory>
 
@@ -30,41 +26,11 @@ using namespace vardeno::testcharttools;
 namespace {
 
 using Colors = QVector<QColor>;
-using Texts = QMap<QString, QString>;
 
 const QSize layerSize(100, 20);
 const QColor oddDefault(255, 170, 255);
 const QColor evenDefault(85, 170, 255);
 const Colors defaults{Qt::yellow, Qt::green, Qt::cyan, Qt::magenta, Qt::red};
-
-/// Makes a language current that has these texts and no others.
-bool speak(const Texts& texts)
-{
-    static int languages = 0;
-    const QString language = QStringLiteral("test_%1").arg(++languages);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("texts.ts")));
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QXmlStreamWriter xml(&file);
-    xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("TS"));
-    xml.writeAttribute(QStringLiteral("language"), language);
-    xml.writeStartElement(QStringLiteral("context"));
-    xml.writeTextElement(QStringLiteral("name"), QStringLiteral("TestChartTools::Widget"));
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        xml.writeStartElement(QStringLiteral("message"));
-        xml.writeTextElement(QStringLiteral("source"), text.key());
-        xml.writeTextElement(QStringLiteral("translation"), text.value());
-        xml.writeEndElement();
-    }
-    xml.writeEndDocument();
-    file.close();
-    TranslateManager1& manager = TranslateManager1::instance();
-    const bool loaded = manager.translator().load(file.fileName());
-    manager.switchLanguage(language);
-    return loaded;
-}
 
 Colors colorsOf(const QListWidget* list)
 {

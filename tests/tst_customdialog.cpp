@@ -1,52 +1,17 @@
 #include "customdialog.h"
+#include "language.h"
 #include "testcase.h"
-#include "translatemanager1.h"
 
-#include <QFile>
 #include <QLayout>
-#include <QMap>
 #include <QPointer>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QWindow>
-#include <QXmlStreamWriter>
 
 #include <memory>
 
 using namespace vardeno::testcharttools;
 
 namespace {
-
-using Texts = QMap<QString, QString>;
-
-/// Makes a language current that has these texts and no others.
-bool speak(const Texts& texts)
-{
-    static int languages = 0;
-    const QString language = QStringLiteral("test_%1").arg(++languages);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("texts.ts")));
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QXmlStreamWriter xml(&file);
-    xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("TS"));
-    xml.writeAttribute(QStringLiteral("language"), language);
-    xml.writeStartElement(QStringLiteral("context"));
-    xml.writeTextElement(QStringLiteral("name"), QStringLiteral("TestChartTools::Widget"));
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        xml.writeStartElement(QStringLiteral("message"));
-        xml.writeTextElement(QStringLiteral("source"), text.key());
-        xml.writeTextElement(QStringLiteral("translation"), text.value());
-        xml.writeEndElement();
-    }
-    xml.writeEndDocument();
-    file.close();
-    TranslateManager1& manager = TranslateManager1::instance();
-    const bool loaded = manager.translator().load(file.fileName());
-    manager.switchLanguage(language);
-    return loaded;
-}
 
 /// A dialog as the panel makes it, and what is heard of it.
 class Dialog : public QObject

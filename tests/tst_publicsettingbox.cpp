@@ -1,28 +1,22 @@
+#include "language.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
 #include "publicsettingbox.h"
 #include "testcase.h"
 #include "testcharttoolsdata.h"
-#include "translatemanager1.h"
 
 #include <spineditbox.h>
 
 #include <QCheckBox>
-#include <QFile>
-#include <QMap>
 #include <QPainter>
 #include <QPushButton>
 #include <QSlider>
-#include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QWindow>
-#include <QXmlStreamWriter>
 
 using namespace vardeno::testcharttools;
 
 namespace {
-
-using Texts = QMap<QString, QString>;
 
 const QSize layerSize(240, 220);
 
@@ -36,35 +30,6 @@ enum Entry
     Col,
     BorderWidth
 };
-
-/// Makes a language current that has these texts and no others.
-bool speak(const Texts& texts)
-{
-    static int languages = 0;
-    const QString language = QStringLiteral("test_%1").arg(++languages);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("texts.ts")));
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QXmlStreamWriter xml(&file);
-    xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("TS"));
-    xml.writeAttribute(QStringLiteral("language"), language);
-    xml.writeStartElement(QStringLiteral("context"));
-    xml.writeTextElement(QStringLiteral("name"), QStringLiteral("TestChartTools::Widget"));
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        xml.writeStartElement(QStringLiteral("message"));
-        xml.writeTextElement(QStringLiteral("source"), text.key());
-        xml.writeTextElement(QStringLiteral("translation"), text.value());
-        xml.writeEndElement();
-    }
-    xml.writeEndDocument();
-    file.close();
-    TranslateManager1& manager = TranslateManager1::instance();
-    const bool loaded = manager.translator().load(file.fileName());
-    manager.switchLanguage(language);
-    return loaded;
-}
 
 /// The picture of a colour button: the colour inside a transparent margin of one pixel.
 QImage swatch(const QColor& color)
