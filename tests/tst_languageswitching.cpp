@@ -1,32 +1,16 @@
 #include "charttool.h"
+#include "language.h"
 
 #include <propertybox.h>
-#include <translatemanager1.h>
 
 #include <QComboBox>
 #include <QLoggingCategory>
-#include <QTemporaryDir>
 
 using namespace charttool;
 
 namespace {
 
-using Texts = QMap<QString, QString>; ///< source text to translation
-
 constexpr auto context = "TestChartTools::Widget";
-
-QByteArray languageFile(const QString& language, const Texts& texts)
-{
-    QString messages;
-    for (auto it = texts.cbegin(); it != texts.cend(); ++it)
-        messages += QStringLiteral("<message><source>%1</source><translation>%2</translation></message>\n")
-                        .arg(it.key().toHtmlEscaped(), it.value().toHtmlEscaped());
-    return QStringLiteral(
-               "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n"
-               "<TS version=\"2.1\" language=\"%1\">\n<context>\n<name>%2</name>\n%3</context>\n</TS>\n")
-        .arg(language, QLatin1String(context), messages)
-        .toUtf8();
-}
 
 /// What the tool shows in a language of short texts, so that nothing is elided.
 Texts shortTexts()

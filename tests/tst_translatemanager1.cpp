@@ -1,10 +1,8 @@
+#include "language.h"
 #include "testcase.h"
-#include "translatemanager1.h"
 #include "vtestcharttools.h"
 
-#include <QFile>
 #include <QRadioButton>
-#include <QTemporaryDir>
 #include <QThread>
 
 #include <memory>
@@ -95,13 +93,11 @@ private Q_SLOTS:
     }
 
 private:
-    void load(const QByteArray& language, const QByteArray& source, const QByteArray& translation)
+    void load(const QString& language, const QString& source, const QString& translation)
     {
-        QFile file(m_folder.filePath(QString::fromLatin1(language + ".ts")));
+        QFile file(m_folder.filePath(language + QLatin1String(".ts")));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<TS language=\"" + language +
-                   "\"><context><name>TestChartTools::Widget</name><message><source>" + source +
-                   "</source><translation>" + translation + "</translation></message></context></TS>");
+        file.write(languageFile(language, {{source, translation}}));
         file.close();
         QVERIFY(TranslateManager1::instance().translator().load(file.fileName()));
     }
