@@ -1,14 +1,13 @@
 #include "customcolordialog.h"
+#include "language.h"
 #include "propertybox.h"
 #include "selfsettingbox.h"
 #include "settingpanel.h"
 #include "testcase.h"
 #include "titlewidget.h"
-#include "translatemanager1.h"
 #include "vtestcharttools.h"
 
 #include <QColorDialog>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -17,7 +16,6 @@
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -653,11 +651,7 @@ private Q_SLOTS:
         const QString path = dir.filePath(QStringLiteral("xx.ts"));
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<TS version=\"2.1\" language=\"xx\">\n"
-                   "<context><name>TestChartTools::Widget</name>\n"
-                   "<message><source>SelectColor</source><translation>Farbe</translation></message>\n"
-                   "<message><source>Hue</source><translation>Ton</translation></message>\n"
-                   "</context></TS>\n");
+        file.write(languageFile(QStringLiteral("xx"), {{"SelectColor", "Farbe"}, {"Hue", "Ton"}}));
         file.close();
 
         Host host;

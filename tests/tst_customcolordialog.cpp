@@ -1,12 +1,9 @@
 #include "customcolordialog.h"
+#include "language.h"
 #include "testcase.h"
 #include "titlewidget.h"
-#include "translatemanager1.h"
-
-#include <translator.h>
 
 #include <QColorDialog>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaMethod>
@@ -15,7 +12,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTemporaryDir>
 
 using namespace vardeno::testcharttools;
 
@@ -119,13 +115,9 @@ private:
         const QString path = m_dir.filePath(language + QLatin1String(".ts"));
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QString text = QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n"
-                                      "<TS version=\"2.1\" language=\"%1\">\n<context>\n"
-                                      "<name>TestChartTools::Widget</name>\n")
-                           .arg(language);
+        Texts texts;
         const auto add = [&](const char* source) {
-            text += QStringLiteral("<message><source>%1</source><translation>%2 %1</translation></message>\n")
-                        .arg(QLatin1String(source), language);
+            texts.insert(QLatin1String(source), language + QLatin1Char(' ') + QLatin1String(source));
         };
         for (const Text& label : labelTexts)
             add(label.source);
@@ -133,8 +125,7 @@ private:
             add(button.source);
         add("HTML");
         add("Alpha");
-        text += QStringLiteral("</context>\n</TS>\n");
-        file.write(text.toUtf8());
+        file.write(languageFile(language, texts));
         file.close();
         QVERIFY(TranslateManager1::instance().translator().load(path));
     }

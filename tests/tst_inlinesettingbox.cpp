@@ -1,21 +1,19 @@
 #include "ink.h"
 #include "inlinesettingbox.h"
+#include "language.h"
 #include "layerprotocol.h"
 #include "paintinlinewidget.h"
 #include "testcase.h"
 #include "testcharttoolsdata.h"
-#include "translatemanager1.h"
 
 #include <combobox.h>
 #include <spineditbox.h>
 
-#include <QFile>
 #include <QFocusEvent>
 #include <QFrame>
 #include <QHelpEvent>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTemporaryDir>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -183,24 +181,6 @@ QLabel* captionOf(const ShownPanel& shown, QWidget* control)
 class TestInLineSettingBox : public TestCase
 {
     Q_OBJECT
-
-private:
-    /// Loads a language with one text in it and makes it current.
-    static void loadText(const QString& language, const QString& source, const QString& translation)
-    {
-        const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("test.ts")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(
-            QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS><TS version=\"2.1\" "
-                           "language=\"%1\"><context><name>TestChartTools::Widget</name><message>"
-                           "<source>%2</source><translation>%3</translation></message></context></TS>")
-                .arg(language, source, translation)
-                .toUtf8());
-        file.close();
-        QVERIFY(TranslateManager1::instance().translator().load(file.fileName()));
-        TranslateManager1::instance().switchLanguage(language);
-    }
 
 private Q_SLOTS:
     void cleanup()
@@ -1194,7 +1174,7 @@ private Q_SLOTS:
         }
         QVERIFY(!widgets.isEmpty());
 
-        loadText(QStringLiteral("wide"), source, wide);
+        QVERIFY(speak({{source, wide}}));
         shown.panel.retranslate();
         for (const QWidget* widget : widgets) {
             QCOMPARE(text(widget), widget->fontMetrics().elidedText(wide, Qt::ElideRight, room));
@@ -1204,19 +1184,19 @@ private Q_SLOTS:
         const QFontMetrics metrics = widgets.first()->fontMetrics();
         const QString justTooWide = textOfWidth(metrics, room + 1, room + 2);
         QVERIFY(!justTooWide.isEmpty());
-        loadText(QStringLiteral("too wide"), source, justTooWide);
+        QVERIFY(speak({{source, justTooWide}}));
         shown.panel.retranslate();
         for (const QWidget* widget : widgets)
             QCOMPARE(widget->toolTip(), justTooWide);
         const QString justFitting = textOfWidth(metrics, room - 3, room);
         QVERIFY(!justFitting.isEmpty());
-        loadText(QStringLiteral("fitting"), source, justFitting);
+        QVERIFY(speak({{source, justFitting}}));
         shown.panel.retranslate();
         for (const QWidget* widget : widgets) {
             QCOMPARE(text(widget), justFitting);
             QCOMPARE(widget->toolTip(), QString());
         }
-        loadText(QStringLiteral("narrow"), source, QStringLiteral("i"));
+        QVERIFY(speak({{source, QStringLiteral("i")}}));
         shown.panel.retranslate();
         for (const QWidget* widget : widgets) {
             QCOMPARE(text(widget), QStringLiteral("i"));
@@ -1249,8 +1229,8 @@ private Q_SLOTS:
         type(shown.radius(), "77");
         shown.changes.clear();
         const qint64 picture = shown.layer.pixmap(Qt::ReturnByValue).cacheKey();
-        loadText(QStringLiteral("other"), QStringLiteral("Left Up Right Down"), QStringLiteral("Lurd"));
-        loadText(QStringLiteral("other"), QStringLiteral("Widget"), QStringLiteral("Inline"));
+        QVERIFY(speak({{QStringLiteral("Left Up Right Down"), QStringLiteral("Lurd")},
+                       {QStringLiteral("Widget"), QStringLiteral("Inline")}}));
         shown.panel.retranslate();
         QCOMPARE(shown.position()->currentText(), QStringLiteral("Lurd"));
         QCOMPARE(shown.position()->currentIndex(), 1);

@@ -1,9 +1,9 @@
+#include "language.h"
 #include "logosettingbox.h"
 #include "paintpiclogowidget.h"
 #include "painttextlogowidget.h"
 #include "testcase.h"
 #include "testcharttoolsdata.h"
-#include "translatemanager1.h"
 
 #include <combobox.h>
 #include <spineditbox.h>
@@ -1242,23 +1242,14 @@ private Q_SLOTS:
     void longCaptionsAreElided()
     {
         const QString whole = QStringLiteral("Choose a picture of your own for the logo");
-        QFile file(m_home.filePath("long.ts"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<?xml version=\"1.0\"?><TS version=\"2.1\" language=\"de\"><context>"
-                   "<name>TestChartTools::Widget</name><message><source>Upload your logo</source>"
-                   "<translation>" +
-                   whole.toUtf8() + "</translation></message></context></TS>");
-        file.close();
-        TranslateManager1& manager = TranslateManager1::instance();
-        QVERIFY(manager.translator().load(file.fileName()));
-        manager.switchLanguage(QStringLiteral("de"));
+        QVERIFY(speak({{QStringLiteral("Upload your logo"), whole}}));
         m_panel->retranslate();
         QCOMPARE(uploadButton()->toolTip(), whole);
         QCOMPARE(uploadButton()->text(),
                  uploadButton()->fontMetrics().elidedText(whole, Qt::ElideRight, 118));
         QVERIFY(uploadButton()->text() != whole);
 
-        manager.switchLanguage(QString());
+        TranslateManager1::instance().switchLanguage(QString());
         m_panel->retranslate();
         QCOMPARE(uploadButton()->text(), QStringLiteral("Upload your logo"));
         QCOMPARE(uploadButton()->toolTip(), QString());

@@ -1,12 +1,10 @@
 #include "ink.h"
+#include "language.h"
 #include "layerprotocol.h"
 #include "paintselfwidget.h"
 #include "testcase.h"
-#include "translatemanager1.h"
 
-#include <QFile>
 #include <QFontMetrics>
-#include <QTemporaryDir>
 
 using namespace vardeno::testcharttools;
 
@@ -71,30 +69,6 @@ void showOnly(PaintSelfWidget& layer, bool text, bool information)
 class TestPaintSelfWidget : public TestCase
 {
     Q_OBJECT
-
-private:
-    /// Makes a language known in which the two captions have these texts.
-    static void loadLanguage(const QString& language, const QString& resolution, const QString& boxNum)
-    {
-        const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("test.ts")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        const QString message =
-            QStringLiteral("<message><source>%1</source><translation>%2</translation></message>");
-        const QString context = QStringLiteral("<context><name>TestChartTools::Widget</name>") +
-                                message.arg(QStringLiteral("ResolutionShow"), resolution) +
-                                message.arg(QStringLiteral("BoxNumShow"), boxNum) +
-                                QStringLiteral("</context>");
-        file.write(
-            QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS><TS version=\"2.1\" "
-                           "language=\"%1\">")
-                .arg(language)
-                .toUtf8());
-        file.write(context.toUtf8() + "</TS>");
-        file.close();
-        QVERIFY(TranslateManager1::instance().translator().load(file.fileName()));
-        TranslateManager1::instance().switchLanguage(language);
-    }
 
 private Q_SLOTS:
     void cleanup()
@@ -166,8 +140,8 @@ private Q_SLOTS:
         layer.setRows(ushort(rows));
         layer.setColumns(ushort(columns));
         if (!captions.isEmpty()) {
-            loadLanguage(QStringLiteral("xx"), captions.section(QLatin1Char(','), 0, 0),
-                         captions.section(QLatin1Char(','), 1));
+            QVERIFY(speak({{QStringLiteral("ResolutionShow"), captions.section(QLatin1Char(','), 0, 0)},
+                           {QStringLiteral("BoxNumShow"), captions.section(QLatin1Char(','), 1)}}));
             layer.retranslate();
         }
         const QImage image = pictureAt(size, layer);
@@ -188,7 +162,8 @@ private Q_SLOTS:
         };
         layer.retranslate(); // no language: the keys
         QCOMPARE(shows("ResolutionShow:800*450 BoxNumShow:144"), QString());
-        loadLanguage(QStringLiteral("xx"), QStringLiteral("Size"), QStringLiteral("Boxes"));
+        QVERIFY(speak({{QStringLiteral("ResolutionShow"), QStringLiteral("Size")},
+                       {QStringLiteral("BoxNumShow"), QStringLiteral("Boxes")}}));
         QCOMPARE(shows("ResolutionShow:800*450 BoxNumShow:144"), QString());
         layer.retranslate();
         QCOMPARE(shows("Size:800*450 Boxes:144"), QString());
