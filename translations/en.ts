@@ -331,6 +331,11 @@
 <context>
     <name>ChartDesk::MainWindow</name>
     <message>
+        <source>English</source>
+        <extracomment>The name of this file's language, in the language itself</extracomment>
+        <translation>English</translation>
+    </message>
+    <message>
         <source>Test charts</source>
         <translation>Test charts</translation>
     </message>
@@ -373,10 +378,6 @@
     <message>
         <source>The record of this chart cannot be read:</source>
         <translation>The record of this chart cannot be read:</translation>
-    </message>
-    <message>
-        <source>This is not a folder that charts can be saved in:</source>
-        <translation>This is not a folder that charts can be saved in:</translation>
     </message>
     <message>
         <source>Saved:</source>

@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Display custom text</source>
-        <translation>显示自定义文字</translation>
+        <translation>自定义文字</translation>
     </message>
     <message>
         <source>Even</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>From up to down increase Frome left to right increase</source>
-        <translation>行从上到下递增，列从左到右递增</translation>
+        <translation>行从上到下，列从左到右</translation>
     </message>
     <message>
         <source>Gradient</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>SelectImage</source>
-        <translation>选择图片</translation>
+        <translation>选择标志图片</translation>
     </message>
     <message>
         <source>Serial Size</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Upload your logo</source>
-        <translation>上传您的标志</translation>
+        <translation>选择图片…</translation>
     </message>
     <message>
         <source>Val</source>
@@ -317,19 +317,24 @@
     </message>
     <message>
         <source>from down to up increase frome left to right decrease</source>
-        <translation>行从下到上递增，列从右到左递增</translation>
+        <translation>行从下到上，列从右到左</translation>
     </message>
     <message>
         <source>from down to up increase frome left to right increase</source>
-        <translation>行从下到上递增，列从左到右递增</translation>
+        <translation>行从下到上，列从左到右</translation>
     </message>
     <message>
         <source>from up to down increase frome left to right decrease</source>
-        <translation>行从上到下递增，列从右到左递增</translation>
+        <translation>行从上到下，列从右到左</translation>
     </message>
 </context>
 <context>
     <name>ChartDesk::MainWindow</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of this file's language, in the language itself</extracomment>
+        <translation>简体中文</translation>
+    </message>
     <message>
         <source>Test charts</source>
         <translation>测试图</translation>
@@ -373,10 +378,6 @@
     <message>
         <source>The record of this chart cannot be read:</source>
         <translation>无法读取此测试图的记录：</translation>
-    </message>
-    <message>
-        <source>This is not a folder that charts can be saved in:</source>
-        <translation>无法在此文件夹中保存测试图：</translation>
     </message>
     <message>
         <source>Saved:</source>

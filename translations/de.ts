@@ -1,0 +1,391 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>TestChartTools::Widget</name>
+    <message>
+        <source>Add</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>AddtoCustomColors</source>
+        <translation>Zu eigenen Farben hinzufügen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Basiccolors</source>
+        <translation>Grundfarben</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau:</translation>
+    </message>
+    <message>
+        <source>BorderWidth</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Box RowColNum</source>
+        <translation>Cabinets</translation>
+    </message>
+    <message>
+        <source>BoxNumShow</source>
+        <translation>Cabinets</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbruch</translation>
+    </message>
+    <message>
+        <source>Cannel</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Chess</source>
+        <translation>Schachbrett</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Color bar</source>
+        <translation>Balken</translation>
+    </message>
+    <message>
+        <source>Combination Mode</source>
+        <translation>Beides</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Customcolors</source>
+        <translation>Eigene Farben</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>DeleteColorBar</source>
+        <translation>Diese Farbe löschen?</translation>
+    </message>
+    <message>
+        <source>Display Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Display content personalization</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Display custom text</source>
+        <translation>Eigener Text</translation>
+    </message>
+    <message>
+        <source>Even</source>
+        <translation>Feld B</translation>
+    </message>
+    <message>
+        <source>From up to down increase Frome left to right increase</source>
+        <translation>Nach unten, nach rechts</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün:</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton:</translation>
+    </message>
+    <message>
+        <source>Layer settings</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>Left Down</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Left Down Right Up</source>
+        <translation>Unten links, oben rechts</translation>
+    </message>
+    <message>
+        <source>Left Up</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Left Up Right Down</source>
+        <translation>Oben links, unten rechts</translation>
+    </message>
+    <message>
+        <source>Letter Mode</source>
+        <translation>Alphabet</translation>
+    </message>
+    <message>
+        <source>Logo Style</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Mode selection</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Next color</source>
+        <translation>Nächste Farbe</translation>
+    </message>
+    <message>
+        <source>Num Mode</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Odd</source>
+        <translation>Feld A</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>OutBorder</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>PickScreenColor</source>
+        <translation>Vom Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>Picture Logo</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Position adjustment</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Previous color</source>
+        <translation>Vorige Farbe</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Auf 100 zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>ResolutionShow</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Right Down</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Right Up</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sättigung:</translation>
+    </message>
+    <message>
+        <source>Scale Logo</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>SelectColor</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>SelectImage</source>
+        <translation>Bild für das Logo wählen</translation>
+    </message>
+    <message>
+        <source>Serial Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Show Circle</source>
+        <translation>Kreise</translation>
+    </message>
+    <message>
+        <source>Show Diagonal</source>
+        <translation>Diagonalen</translation>
+    </message>
+    <message>
+        <source>Show Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Show Model</source>
+        <translation>Zählen mit</translation>
+    </message>
+    <message>
+        <source>Show Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Show Resolution</source>
+        <translation>Angaben</translation>
+    </message>
+    <message>
+        <source>Show Serial Number</source>
+        <translation>Kennungen</translation>
+    </message>
+    <message>
+        <source>Show Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>SuggestTransparentbackgroundrecommended</source>
+        <translation>Am besten mit Transparenz</translation>
+    </message>
+    <message>
+        <source>TestImage</source>
+        <translation>Testbild</translation>
+    </message>
+    <message>
+        <source>Text Input</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text Logo</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>UpLogo</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Upload your logo</source>
+        <translation>Bild wählen…</translation>
+    </message>
+    <message>
+        <source>Val</source>
+        <translation>Hellwert:</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right decrease</source>
+        <translation>Nach oben, nach links</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right increase</source>
+        <translation>Nach oben, nach rechts</translation>
+    </message>
+    <message>
+        <source>from up to down increase frome left to right decrease</source>
+        <translation>Nach unten, nach links</translation>
+    </message>
+</context>
+<context>
+    <name>ChartDesk::MainWindow</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of this file's language, in the language itself</extracomment>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Test charts</source>
+        <translation>Testbilder</translation>
+    </message>
+    <message>
+        <source>New chart</source>
+        <translation>Neues Testbild</translation>
+    </message>
+    <message>
+        <source>Edit chart</source>
+        <translation>Testbild bearbeiten</translation>
+    </message>
+    <message>
+        <source>Choose folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>Testbilder</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the charts</source>
+        <translation>Ordner der Testbilder wählen</translation>
+    </message>
+    <message>
+        <source>No charts here yet. Press “New chart” to make the first one.</source>
+        <translation>Hier gibt es noch keine Testbilder. Mit „Neues Testbild“ entsteht das erste.</translation>
+    </message>
+    <message>
+        <source>This chart could not be written:</source>
+        <translation>Dieses Testbild konnte nicht geschrieben werden:</translation>
+    </message>
+    <message>
+        <source>The record of this chart could not be written, so it cannot be edited later:</source>
+        <translation>Die Daten dieses Testbilds konnten nicht geschrieben werden; es lässt sich später nicht mehr bearbeiten:</translation>
+    </message>
+    <message>
+        <source>The record of this chart cannot be read:</source>
+        <translation>Die Daten dieses Testbilds können nicht gelesen werden:</translation>
+    </message>
+    <message>
+        <source>Saved:</source>
+        <translation>Gespeichert:</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,391 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>TestChartTools::Widget</name>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>AddtoCustomColors</source>
+        <translation>Añadir a los colores propios</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Basiccolors</source>
+        <translation>Colores básicos</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul:</translation>
+    </message>
+    <message>
+        <source>BorderWidth</source>
+        <translation>Grosor</translation>
+    </message>
+    <message>
+        <source>Box RowColNum</source>
+        <translation>Gabinetes</translation>
+    </message>
+    <message>
+        <source>BoxNumShow</source>
+        <translation>Gabinetes</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anular</translation>
+    </message>
+    <message>
+        <source>Cannel</source>
+        <translation>Anular</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Chess</source>
+        <translation>Damero</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Color bar</source>
+        <translation>Barras</translation>
+    </message>
+    <message>
+        <source>Combination Mode</source>
+        <translation>Ambos</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Customcolors</source>
+        <translation>Colores propios</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>DeleteColorBar</source>
+        <translation>¿Borrar este color?</translation>
+    </message>
+    <message>
+        <source>Display Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Display content personalization</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Display custom text</source>
+        <translation>Texto propio</translation>
+    </message>
+    <message>
+        <source>Even</source>
+        <translation>Par</translation>
+    </message>
+    <message>
+        <source>From up to down increase Frome left to right increase</source>
+        <translation>Hacia abajo, a la derecha</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradiente</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde:</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Tono:</translation>
+    </message>
+    <message>
+        <source>Layer settings</source>
+        <translation>Capas</translation>
+    </message>
+    <message>
+        <source>Left Down</source>
+        <translation>Abajo izq.</translation>
+    </message>
+    <message>
+        <source>Left Down Right Up</source>
+        <translation>Abajo izq. y arriba der.</translation>
+    </message>
+    <message>
+        <source>Left Up</source>
+        <translation>Arriba izq.</translation>
+    </message>
+    <message>
+        <source>Left Up Right Down</source>
+        <translation>Arriba izq. y abajo der.</translation>
+    </message>
+    <message>
+        <source>Letter Mode</source>
+        <translation>Letras</translation>
+    </message>
+    <message>
+        <source>Logo Style</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Mode selection</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>Next color</source>
+        <translation>Color siguiente</translation>
+    </message>
+    <message>
+        <source>Num Mode</source>
+        <translation>Números</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Odd</source>
+        <translation>Impar</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>OutBorder</source>
+        <translation>Borde</translation>
+    </message>
+    <message>
+        <source>PickScreenColor</source>
+        <translation>Tomar de la pantalla</translation>
+    </message>
+    <message>
+        <source>Picture Logo</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Position adjustment</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Previous color</source>
+        <translation>Color anterior</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Volver a 100</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>ResolutionShow</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>Right Down</source>
+        <translation>Abajo der.</translation>
+    </message>
+    <message>
+        <source>Right Up</source>
+        <translation>Arriba der.</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Saturación:</translation>
+    </message>
+    <message>
+        <source>Scale Logo</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>SelectColor</source>
+        <translation>Elegir un color</translation>
+    </message>
+    <message>
+        <source>SelectImage</source>
+        <translation>Elegir la imagen del logo</translation>
+    </message>
+    <message>
+        <source>Serial Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Show Circle</source>
+        <translation>Círculos</translation>
+    </message>
+    <message>
+        <source>Show Diagonal</source>
+        <translation>Diagonales</translation>
+    </message>
+    <message>
+        <source>Show Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Show Model</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Show Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Show Resolution</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Show Serial Number</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Show Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>SuggestTransparentbackgroundrecommended</source>
+        <translation>Mejor con transparencia</translation>
+    </message>
+    <message>
+        <source>TestImage</source>
+        <translation>CartaDeAjuste</translation>
+    </message>
+    <message>
+        <source>Text Input</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Text Logo</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Text Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>UpLogo</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Upload your logo</source>
+        <translation>Elegir imagen…</translation>
+    </message>
+    <message>
+        <source>Val</source>
+        <translation>Valor:</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right decrease</source>
+        <translation>Hacia arriba, a la izquierda</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right increase</source>
+        <translation>Hacia arriba, a la derecha</translation>
+    </message>
+    <message>
+        <source>from up to down increase frome left to right decrease</source>
+        <translation>Hacia abajo, a la izquierda</translation>
+    </message>
+</context>
+<context>
+    <name>ChartDesk::MainWindow</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of this file's language, in the language itself</extracomment>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>Test charts</source>
+        <translation>Cartas de ajuste</translation>
+    </message>
+    <message>
+        <source>New chart</source>
+        <translation>Nueva carta</translation>
+    </message>
+    <message>
+        <source>Edit chart</source>
+        <translation>Editar carta</translation>
+    </message>
+    <message>
+        <source>Choose folder…</source>
+        <translation>Elegir carpeta…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>Cartas</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the charts</source>
+        <translation>Elegir la carpeta de las cartas</translation>
+    </message>
+    <message>
+        <source>No charts here yet. Press “New chart” to make the first one.</source>
+        <translation>Aún no hay cartas de ajuste. Pulse «Nueva carta» para crear la primera.</translation>
+    </message>
+    <message>
+        <source>This chart could not be written:</source>
+        <translation>No se pudo escribir esta carta:</translation>
+    </message>
+    <message>
+        <source>The record of this chart could not be written, so it cannot be edited later:</source>
+        <translation>No se pudieron escribir los datos de esta carta; no se podrá editar más adelante:</translation>
+    </message>
+    <message>
+        <source>The record of this chart cannot be read:</source>
+        <translation>No se pueden leer los datos de esta carta:</translation>
+    </message>
+    <message>
+        <source>Saved:</source>
+        <translation>Guardado:</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,391 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>TestChartTools::Widget</name>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>AddtoCustomColors</source>
+        <translation>カスタムカラーに追加</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Basiccolors</source>
+        <translation>基本色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青:</translation>
+    </message>
+    <message>
+        <source>BorderWidth</source>
+        <translation>線幅</translation>
+    </message>
+    <message>
+        <source>Box RowColNum</source>
+        <translation>キャビネット</translation>
+    </message>
+    <message>
+        <source>BoxNumShow</source>
+        <translation>キャビネット</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Cannel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Chess</source>
+        <translation>チェッカー</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>半径</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Color bar</source>
+        <translation>カラーバー</translation>
+    </message>
+    <message>
+        <source>Combination Mode</source>
+        <translation>両方</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>決定</translation>
+    </message>
+    <message>
+        <source>Customcolors</source>
+        <translation>カスタムカラー</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>DeleteColorBar</source>
+        <translation>この色を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Display Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Display content personalization</source>
+        <translation>表示内容</translation>
+    </message>
+    <message>
+        <source>Display custom text</source>
+        <translation>任意テキスト</translation>
+    </message>
+    <message>
+        <source>Even</source>
+        <translation>偶数</translation>
+    </message>
+    <message>
+        <source>From up to down increase Frome left to right increase</source>
+        <translation>上から下、左から右</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>グラデ</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑:</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相:</translation>
+    </message>
+    <message>
+        <source>Layer settings</source>
+        <translation>レイヤー</translation>
+    </message>
+    <message>
+        <source>Left Down</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Left Down Right Up</source>
+        <translation>左下と右上</translation>
+    </message>
+    <message>
+        <source>Left Up</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Left Up Right Down</source>
+        <translation>左上と右下</translation>
+    </message>
+    <message>
+        <source>Letter Mode</source>
+        <translation>英字</translation>
+    </message>
+    <message>
+        <source>Logo Style</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Mode selection</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>Next color</source>
+        <translation>次の色</translation>
+    </message>
+    <message>
+        <source>Num Mode</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Odd</source>
+        <translation>奇数</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>OutBorder</source>
+        <translation>外枠</translation>
+    </message>
+    <message>
+        <source>PickScreenColor</source>
+        <translation>画面から色を取得</translation>
+    </message>
+    <message>
+        <source>Picture Logo</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Position adjustment</source>
+        <translation>位置調整</translation>
+    </message>
+    <message>
+        <source>Previous color</source>
+        <translation>前の色</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>100 に戻す</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>ResolutionShow</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Right Down</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Right Up</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>彩度:</translation>
+    </message>
+    <message>
+        <source>Scale Logo</source>
+        <translation>拡大率</translation>
+    </message>
+    <message>
+        <source>SelectColor</source>
+        <translation>色の選択</translation>
+    </message>
+    <message>
+        <source>SelectImage</source>
+        <translation>ロゴの画像を選択</translation>
+    </message>
+    <message>
+        <source>Serial Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Show Circle</source>
+        <translation>円</translation>
+    </message>
+    <message>
+        <source>Show Diagonal</source>
+        <translation>対角線</translation>
+    </message>
+    <message>
+        <source>Show Logo</source>
+        <translation>ロゴ</translation>
+    </message>
+    <message>
+        <source>Show Model</source>
+        <translation>表記</translation>
+    </message>
+    <message>
+        <source>Show Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Show Resolution</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Show Serial Number</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Show Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>順序</translation>
+    </message>
+    <message>
+        <source>SuggestTransparentbackgroundrecommended</source>
+        <translation>透過画像を推奨</translation>
+    </message>
+    <message>
+        <source>TestImage</source>
+        <translation>テストパターン</translation>
+    </message>
+    <message>
+        <source>Text Input</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Text Logo</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Text Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>UpLogo</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Upload your logo</source>
+        <translation>画像を選択…</translation>
+    </message>
+    <message>
+        <source>Val</source>
+        <translation>明度:</translation>
+    </message>
+    <message>
+        <source>Widget</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right decrease</source>
+        <translation>下から上、右から左</translation>
+    </message>
+    <message>
+        <source>from down to up increase frome left to right increase</source>
+        <translation>下から上、左から右</translation>
+    </message>
+    <message>
+        <source>from up to down increase frome left to right decrease</source>
+        <translation>上から下、右から左</translation>
+    </message>
+</context>
+<context>
+    <name>ChartDesk::MainWindow</name>
+    <message>
+        <source>English</source>
+        <extracomment>The name of this file's language, in the language itself</extracomment>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Test charts</source>
+        <translation>テストパターン</translation>
+    </message>
+    <message>
+        <source>New chart</source>
+        <translation>新規テストパターン</translation>
+    </message>
+    <message>
+        <source>Edit chart</source>
+        <translation>テストパターンを編集</translation>
+    </message>
+    <message>
+        <source>Choose folder…</source>
+        <translation>フォルダーを選択…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>テストパターン</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the charts</source>
+        <translation>テストパターンのフォルダーを選択</translation>
+    </message>
+    <message>
+        <source>No charts here yet. Press “New chart” to make the first one.</source>
+        <translation>テストパターンはまだありません。「新規テストパターン」で最初のパターンを作成してください。</translation>
+    </message>
+    <message>
+        <source>This chart could not be written:</source>
+        <translation>このテストパターンを書き込めませんでした:</translation>
+    </message>
+    <message>
+        <source>The record of this chart could not be written, so it cannot be edited later:</source>
+        <translation>このテストパターンのデータを書き込めませんでした。後から編集できません:</translation>
+    </message>
+    <message>
+        <source>The record of this chart cannot be read:</source>
+        <translation>このテストパターンのデータを読み込めません:</translation>
+    </message>
+    <message>
+        <source>Saved:</source>
+        <translation>保存しました:</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+</context>
+</TS>
