@@ -1,4 +1,5 @@
 #include "chartfolderlist.h"
+#include "languages.h"
 #include "mainwindow.h"
 #include "testcase.h"
 
@@ -7,6 +8,7 @@
 #include <translatemanager1.h>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
@@ -74,6 +76,12 @@ private:
     }
 
 private Q_SLOTS:
+    void cleanup()
+    {
+        TranslateManager1::instance().switchLanguage(QString());
+        TestCase::cleanup();
+    }
+
     void addedChartIsListedWithItsRecord()
     {
         QTemporaryDir folder;
@@ -185,11 +193,83 @@ private Q_SLOTS:
         QCOMPARE(ChartFolderList::charts(folder.path()).size(), 0);
     }
 
+    void offeredLanguages_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("newChart");
+        QTest::addColumn<QString>("confirm");
+        QTest::newRow("Deutsch") << "de"
+                                 << "Neues Testbild"
+                                 << "OK";
+        QTest::newRow("English") << "en"
+                                 << "New chart"
+                                 << "Confirm";
+        QTest::newRow("Español") << "es"
+                                 << "Nueva carta"
+                                 << "Aceptar";
+        QTest::newRow("日本語") << "ja"
+                                << "新規テストパターン"
+                                << "決定";
+        QTest::newRow("简体中文") << "zh_CN"
+                                  << "新建测试图"
+                                  << "确定";
+    }
+
+    /// The row's name is what the menu shows.
+    void offeredLanguages()
+    {
+        QFETCH(QString, code);
+        QFETCH(QString, newChart);
+        QFETCH(QString, confirm);
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(trigger(window, QString::fromUtf8(QTest::currentDataTag())));
+        QCOMPARE(TranslateManager1::instance().translator().language(), code);
+        const QAction* checked = window.findChild<QActionGroup*>()->checkedAction();
+        QVERIFY(checked);
+        QCOMPARE(checked->data().toString(), code);
+        QVERIFY(trigger(window, newChart));
+        QVERIFY(button(window, confirm));
+    }
+
+    void menuOffersTheLanguages()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        QStringList offered;
+        const auto choices = window.findChild<QActionGroup*>()->actions();
+        for (const QAction* choice : choices)
+            offered.append(choice->text());
+        QCOMPARE(offered, QStringList({"Deutsch", "English", "Español", "日本語", "简体中文"}));
+        QCOMPARE(languages().size(), offered.size());
+    }
+
+    void languageOfTheSystem_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("language and country") << QLocale("zh_CN") << "zh_CN";
+        QTest::newRow("another country, same script") << QLocale("zh_SG") << "zh_CN";
+        QTest::newRow("a language of one file") << QLocale("de_AT") << "de";
+        QTest::newRow("Latin America") << QLocale("es_MX") << "es";
+        QTest::newRow("Japanese") << QLocale("ja_JP") << "ja";
+        QTest::newRow("British") << QLocale("en_GB") << "en";
+        QTest::newRow("one that no file is in") << QLocale("fi_FI") << "en";
+        QTest::newRow("none") << QLocale::c() << "en";
+    }
+
+    void languageOfTheSystem()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, code);
+        QCOMPARE(languageFor(locale), code);
+    }
+
     void languageIsSwitchedInTheRunningWindow()
     {
         QTemporaryDir folder;
         MainWindow window(folder.path());
-        window.editor()->loadLanguageFiles({QStringLiteral(":/translations/zh_CN.ts")});
         window.show();
         window.switchLanguage(QStringLiteral("zh_CN"));
         QVERIFY(trigger(window, QStringLiteral("新建测试图")));

@@ -1,3 +1,5 @@
+#include "darkpalette.h"
+#include "languages.h"
 #include "mainwindow.h"
 #include "themepalette.h"
 
@@ -10,6 +12,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
@@ -20,15 +23,30 @@ struct Options
     bool headless;
 };
 
+QStringList languageCodes()
+{
+    QStringList codes;
+    for (const Language& language : languages())
+        codes.append(language.code);
+    return codes;
+}
+
+/// Ends the program as the command line parser does on an unknown option.
+[[noreturn]] void refuse(const QString& problem)
+{
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << problem << '\n';
+    std::exit(1);
+}
+
 Options parseCommandLine(const QCoreApplication& application)
 {
     const QCommandLineOption folder(QStringLiteral("folder"), QStringLiteral("Where charts are saved."),
                                     QStringLiteral("path"),
                                     QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-    const QString ofSystem =
-        QLocale().language() == QLocale::Chinese ? QStringLiteral("zh_CN") : QStringLiteral("en");
-    const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("en or zh_CN."),
-                                      QStringLiteral("code"), ofSystem);
+    const QStringList codes = languageCodes();
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      codes.join(QStringLiteral(", ")) + QLatin1Char('.'),
+                                      QStringLiteral("code"), languageFor(QLocale()));
     const QCommandLineOption headless(
         QStringLiteral("headless"),
         QStringLiteral("Without a display: confirm one default chart, print the path of "
@@ -39,7 +57,11 @@ Options parseCommandLine(const QCoreApplication& application)
     parser.addVersionOption();
     parser.addOptions({folder, language, headless});
     parser.process(application);
-    return {parser.value(folder), parser.value(language), parser.isSet(headless)};
+    const QString code = parser.value(language).replace(QLatin1Char('-'), QLatin1Char('_'));
+    if (!codes.contains(code))
+        refuse(
+            QStringLiteral("The language \"%1\" is none of %2.").arg(code, codes.join(QStringLiteral(", "))));
+    return {parser.value(folder), code, parser.isSet(headless)};
 }
 
 /// Confirms one default chart; the exit code tells whether it was written.
@@ -77,8 +99,6 @@ int main(int argc, char** argv)
     const Options options = parseCommandLine(application);
     MainWindow window(options.folder);
     QApplication::setPalette(themePalette());
-    window.editor()->loadLanguageFiles(
-        {QStringLiteral(":/translations/en.ts"), QStringLiteral(":/translations/zh_CN.ts")});
     window.switchLanguage(options.language);
     if (options.headless)
         return confirmDefaultChart(window, application);

@@ -2,6 +2,7 @@
 
 #include "chartfolderlist.h"
 #include "hosttext.h"
+#include "languages.h"
 
 #include <chartrecordfile.h>
 #include <translatemanager1.h>
@@ -77,6 +78,7 @@ MainWindow::MainWindow(const QString& folder)
     m_pages->addWidget(createEditorPage());
     setCentralWidget(m_pages);
     createActions();
+    loadLanguages();
 
     connect(&TranslateManager1::instance(), &TranslateManager1::languageChanged, this,
             &MainWindow::retranslate);
@@ -118,15 +120,23 @@ void MainWindow::createActions()
     charts->addActions({m_new, m_edit, m_choose});
     charts->addSeparator();
     charts->addAction(m_quit);
-    QMenu* languages = menuBar()->addMenu(QString());
-    for (const auto& [name, code] : {std::pair("English", "en"), std::pair("简体中文", "zh_CN")}) {
-        QAction* choice = m_languages->addAction(QString::fromUtf8(name));
+    QMenu* menu = menuBar()->addMenu(QString());
+    for (const Language& language : languages()) {
+        QAction* choice = m_languages->addAction(language.name);
         choice->setCheckable(true);
-        choice->setData(QLatin1String(code));
-        languages->addAction(choice);
+        choice->setData(language.code);
+        menu->addAction(choice);
     }
     connect(m_languages, &QActionGroup::triggered, this,
             [this](const QAction* choice) { switchLanguage(choice->data().toString()); });
+}
+
+void MainWindow::loadLanguages()
+{
+    std::vector<QString> files;
+    for (const Language& language : languages())
+        files.push_back(language.file);
+    m_editor->loadLanguageFiles(files);
 }
 
 QWidget* MainWindow::createListPage()

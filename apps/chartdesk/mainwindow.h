@@ -21,7 +21,7 @@ public:
     /// `folder` is where charts are saved; it is created with the first chart.
     explicit MainWindow(const QString& folder);
 
-    /// The language of the window and of the editor, "en" or "zh_CN".
+    /// The language of the window and of the editor: the code of one of `languages()`.
     void switchLanguage(const QString& language);
 
     void addChart();
@@ -29,6 +29,7 @@ public:
 
 private:
     void createActions();
+    void loadLanguages();
     QWidget* createListPage();
     QWidget* createEditorPage();
     void retranslate();
