@@ -17,6 +17,21 @@ QString lookUp(const QString& source)
                             QStringLiteral("Widget"), source);
 }
 
+/// All that a language file has texts for.
+QStringList editorSources()
+{
+    QFile file(QStringLiteral(VD_SOURCE_DIR "/translations/en.ts"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QStringList sources;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("source"))
+            sources.append(xml.readElementText());
+    }
+    return sources;
+}
+
 } // namespace
 
 class TestTranslateManager1 : public TestCase
@@ -43,8 +58,11 @@ private Q_SLOTS:
         QFETCH(QString, language);
         TranslateManager1::instance().switchLanguage(language);
         QCOMPARE(TranslateManager1::instance().translator().language(), language);
-        QCOMPARE(lookUp(QStringLiteral("Chess")), QStringLiteral("Chess"));
-        QCOMPARE(lookUp(QStringLiteral("DeleteColorBar")), QStringLiteral("DeleteColorBar"));
+        QStringList sources = editorSources();
+        QVERIFY(sources.contains(QStringLiteral("DeleteColorBar")));
+        sources << QString() << QStringLiteral("no such text") << QStringLiteral("色");
+        for (const QString& source : qAsConst(sources))
+            QCOMPARE(lookUp(source), source);
     }
 
     void oneManagerForTheProcess()
