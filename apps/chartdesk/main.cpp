@@ -1,4 +1,3 @@
-#include "darkpalette.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "themepalette.h"
