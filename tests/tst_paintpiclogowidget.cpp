@@ -386,6 +386,34 @@ private Q_SLOTS:
         VD_COMPARE_IMAGES(painted(layer), expectedPaint(layer, QImage(), {0, 0}));
     }
 
+    void withoutPictureTheShiftIsThatOfTheLastRender()
+    {
+        PaintPicLogoWidget layer;
+        layer.resize(200, 120);
+        layer.setMoveX(30);
+        layer.setMoveY(-1000);
+        QCOMPARE(QPoint(layer.appliedMoveX(), layer.appliedMoveY()), QPoint(30, -60));
+        layer.setPicPath(saved(picture({200, 120}), "logo.png").toStdString());
+        QCOMPARE(QPoint(layer.appliedMoveX(), layer.appliedMoveY()), QPoint());
+        layer.setPicPath(path("missing.png").toStdString());
+        QCOMPARE(QPoint(layer.appliedMoveX(), layer.appliedMoveY()), QPoint(30, -60));
+    }
+
+    void scaledToTheSizeOfTheChartIgnoresTheShift()
+    {
+        PaintPicLogoWidget layer;
+        layer.resize(201, 121);
+        layer.setPicPath(saved(picture({134, 81}), "logo.png").toStdString());
+        layer.setMoveX(20);
+        layer.setMoveY(-10);
+        layer.setScale(148);
+        QCOMPARE(QPoint(layer.appliedMoveX(), layer.appliedMoveY()), QPoint(1, -1));
+        layer.setScale(150);
+        QCOMPARE(QPoint(layer.appliedMoveX(), layer.appliedMoveY()), QPoint());
+        VD_COMPARE_IMAGES(painted(layer),
+                          expectedPaint(layer, scaled(picture({134, 81}), {201, 121}), {0, 0}));
+    }
+
     void withoutPictureAgain()
     {
         PaintPicLogoWidget layer;

@@ -159,13 +159,12 @@ void PaintPicLogoWidget::translateTitle()
 void PaintPicLogoWidget::renderPicture()
 {
     const QImage& image = d->picture.load(d->path());
-    if (image.isNull()) {
-        setPixmap(QPixmap());
-        return;
-    }
     const QSize scaled(int(float(image.width()) * d->scale), int(float(image.height()) * d->scale));
     if (d->logo.size() != scaled || d->logoKey != image.cacheKey()) {
-        d->logo = QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+        d->logo =
+            image.isNull()
+                ? QPixmap() // scaling none would warn
+                : QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
         d->logoKey = image.cacheKey();
     }
     d->placement = placedPicture(size(), d->logo.size(), d->position, {d->moveX, d->moveY});
