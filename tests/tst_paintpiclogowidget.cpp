@@ -604,6 +604,18 @@ private Q_SLOTS:
         QCOMPARE(QDir(uploaded(QString())).entryList(QDir::Files | QDir::Hidden), QStringList("mark.png"));
     }
 
+    void aVisibleLayerShowsTheUploadOfTheSameNameByItself()
+    {
+        PaintPicLogoWidget layer;
+        layer.resize(200, 120);
+        layer.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&layer));
+        upload(layer, saved(picture({40, 30}), "mark.png"));
+        QTRY_COMPARE(layerImage(layer).size(), QSize(40, 30));
+        upload(layer, saved(picture({60, 50}), "mark.png"));
+        QTRY_COMPARE(layerImage(layer).size(), QSize(60, 50));
+    }
+
     void anUploadedPictureMayBeChosenAgain()
     {
         PaintPicLogoWidget layer;

@@ -147,6 +147,7 @@ void PaintPicLogoWidget::uploadPicLogo()
     const QString copy = uploadFolder() + QLatin1Char('/') + file.fileName();
     writeImageWhole(image, copy, "PNG");
     setPicPath(copy.toStdString());
+    update(); // the file may be new where its path is not
     settings.setValue(QStringLiteral("lastImagePath"), file.absolutePath());
 }
 
