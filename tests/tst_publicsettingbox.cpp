@@ -259,6 +259,13 @@ private Q_SLOTS:
         QVERIFY(entry->isEnabled());
     }
 
+    void theEntriesOfTheCabinetGridAreNamed()
+    {
+        Desk d;
+        QCOMPARE(d.panel->findChild<SpinEditBox*>(QStringLiteral("Row")), d.entry(Row));
+        QCOMPARE(d.panel->findChild<SpinEditBox*>(QStringLiteral("Col")), d.entry(Col));
+    }
+
     void otherControls()
     {
         Desk d;

@@ -103,6 +103,8 @@ void PublicSettingBox::Impl::buildRows(PanelControls& controls)
     rows.row(QStringLiteral("Box RowColNum"))
         .spin(row, shortEntry, range(1, 100).value(9))
         .spin(col, shortEntry, range(1, 100).value(16));
+    row->setObjectName(QStringLiteral("Row"));
+    col->setObjectName(QStringLiteral("Col"));
     rows.row(QStringLiteral("OutBorder")).toggle(borderSwitch, true);
     rows.row(QStringLiteral("BorderWidth"))
         .spin(borderWidth, entrySize, range(1, 100).value(6).suffix(QStringLiteral("px")), whenBorderOn)
