@@ -277,7 +277,6 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        qRegisterMetaType<QPushButton*>();
         QVERIFY(m_home.isValid());
         qputenv("HOME", m_home.path().toUtf8());
         for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})

@@ -583,6 +583,15 @@ private Q_SLOTS:
         QCOMPARE(requested, QVector<QPushButton*>{d.color()});
     }
 
+    void theColorButtonCanBeSpiedOn()
+    {
+        Desk d;
+        const QSignalSpy asked(d.panel, &PublicSettingBox::colorBtnSignal);
+        d.color()->click();
+        QCOMPARE(asked.count(), 1);
+        QCOMPARE(asked.at(0).at(0).value<QPushButton*>(), d.color());
+    }
+
     void everyChangeReachesTheShell()
     {
         Desk d;

@@ -127,8 +127,6 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase() { qRegisterMetaType<QPushButton*>(); }
-
     void init()
     {
         TestCase::init();

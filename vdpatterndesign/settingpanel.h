@@ -2,11 +2,10 @@
 
 #include "vdpatterndesign_export.h"
 
+#include <QPushButton> // whole, so that moc makes the signals' buttons known to spies and queued connections
 #include <QWidget>
 
 #include <memory>
-
-class QPushButton;
 
 namespace vardeno::testcharttools {
 
