@@ -1248,6 +1248,12 @@ private Q_SLOTS:
                  uploadButton()->fontMetrics().elidedText(whole, Qt::ElideRight, 118));
         QVERIFY(uploadButton()->text() != whole);
 
+        uploadButton()->setProperty("btnProperty", "uplogo"); // leaves room for a picture
+        m_panel->retranslate();
+        QCOMPARE(uploadButton()->toolTip(), whole);
+        QCOMPARE(uploadButton()->text(), uploadButton()->fontMetrics().elidedText(whole, Qt::ElideRight, 52));
+        uploadButton()->setProperty("btnProperty", QVariant());
+
         TranslateManager1::instance().switchLanguage(QString());
         m_panel->retranslate();
         QCOMPARE(uploadButton()->text(), QStringLiteral("Upload your logo"));

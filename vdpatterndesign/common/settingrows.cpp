@@ -30,6 +30,12 @@ QIcon switchIcon()
     return icon;
 }
 
+/// What a button's caption leaves free: an upload button has a picture beside it.
+int captionMargin(const QPushButton* button)
+{
+    return button->property("btnProperty") == QLatin1String("uplogo") ? 68 : 2;
+}
+
 } // namespace
 
 SettingRow::SettingRow(QWidget* panel, PanelControls& controls, QHBoxLayout* layout)
@@ -130,7 +136,9 @@ SettingRow& SettingRow::button(QPushButton*& button, const QString& source, cons
     button = new QPushButton(m_panel);
     button->setObjectName(objectName);
     appendLocked(button, size, std::move(allowed));
-    m_controls->captions.add(button, source, 2);
+    QPushButton* const shown = button;
+    m_controls->captions.add(source,
+                             [shown](const QString& text) { showElided(shown, text, captionMargin(shown)); });
     return *this;
 }
 

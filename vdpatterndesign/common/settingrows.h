@@ -64,7 +64,7 @@ public:
     SettingRow& radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed = {});
     /// A combo box with one item for each of `sources`; an item's data is its 0-based row.
     SettingRow& combo(ComboBox*& box, const QStringList& sources, const QSize& size, Allowed allowed = {});
-    /// A button with a caption.
+    /// A button with a caption; its dynamic property "btnProperty" = "uplogo" leaves room for a picture.
     SettingRow& button(QPushButton*& button, const QString& source, const QSize& size,
                        const QString& objectName, Allowed allowed = {});
     /// The switch of a group, 28 x 14.
