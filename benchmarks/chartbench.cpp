@@ -1,19 +1,20 @@
 // What a change of the chart costs: one layer's render, and the composition of the whole view.
 
 #include "common/cabinetpainter.h"
-#include "common/layerstack.h"
 #include "paintbasicwidget.h"
+#include "paintinlinewidget.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
+#include "vtestcharttools.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QListWidget>
 #include <QPainter>
-#include <QWidget>
 
 #include <cstring>
+#include <utility>
 
 using namespace vardeno::testcharttools;
 
@@ -137,30 +138,90 @@ void labelsWithDrawText(benchmark::State& state)
 }
 BENCHMARK(labelsWithDrawText)->Apply(labelSizes);
 
-void composeView(benchmark::State& state)
+/// An editor that is not shown takes its snapshot at once.
+class Editor
 {
-    QWidget owner;
-    LayerStack layers(&owner);
-    layers.setChartSize(chartSize(state));
-    layers.image(); // the layers take the chart's size
-    for (auto _ : state)
-        benchmark::DoNotOptimize(layers.image().constBits());
-}
-BENCHMARK(composeView)->Apply(chartSizes);
+public:
+    explicit Editor(const QSize& chart)
+    {
+        TestChartToolsData record;
+        record.publicData.resolutionWidth = ushort(chart.width());
+        record.publicData.resolutionHeight = ushort(chart.height());
+        tool.setTestChartToolsData(record);
+    }
 
-void changeAndCompose(benchmark::State& state)
+    template <typename Painter>
+    Painter* find() const
+    {
+        return tool.findChild<Painter*>();
+    }
+
+    void takeSnapshot() { tool.slotGetHeightWidth(); }
+
+    VTestChartTools tool;
+};
+
+void snapshot(benchmark::State& state)
 {
-    QWidget owner;
-    LayerStack layers(&owner);
-    layers.setChartSize(chartSize(state));
-    layers.image();
-    bool red = false;
+    Editor editor(chartSize(state));
+    for (auto _ : state)
+        editor.takeSnapshot();
+}
+BENCHMARK(snapshot)->Apply(chartSizes);
+
+/// `change` gets the editor and whether this change is an odd one.
+template <typename Change>
+void changeAndSnapshot(benchmark::State& state, Change change)
+{
+    Editor editor(chartSize(state));
+    bool odd = false;
     for (auto _ : state) {
-        layers.find<PaintBasicWidget>()->setOddColor((red = !red) ? Qt::red : Qt::green);
-        benchmark::DoNotOptimize(layers.image().constBits());
+        change(editor, odd = !odd);
+        editor.takeSnapshot();
     }
 }
-BENCHMARK(changeAndCompose)->Apply(chartSizes);
+
+void changeColor(benchmark::State& state)
+{
+    changeAndSnapshot(state, [](const Editor& editor, bool odd) {
+        editor.find<PaintBasicWidget>()->setOddColor(odd ? Qt::red : Qt::green);
+    });
+}
+BENCHMARK(changeColor)->Apply(chartSizes);
+
+void changeLineWidth(benchmark::State& state)
+{
+    changeAndSnapshot(state, [](const Editor& editor, bool odd) {
+        editor.find<PaintInLineWidget>()->setDiagonalLineWidth(odd ? 3 : 5);
+    });
+}
+BENCHMARK(changeLineWidth)->Apply(chartSizes);
+
+void changeBrightness(benchmark::State& state)
+{
+    changeAndSnapshot(state, [](const Editor& editor, bool odd) {
+        editor.find<PaintPublicBrightWidget>()->setBrightness(odd ? 60 : 80);
+    });
+}
+BENCHMARK(changeBrightness)->Apply(chartSizes);
+
+void pushRecord(benchmark::State& state)
+{
+    Editor editor(chartSize(state));
+    TestChartToolsData record = editor.tool.getTestChartToolsData();
+    TestChartToolsData other = record;
+    other.basicData.oddColor = {255, 0, 0, 255};
+    other.publicData.brightness = 80;
+    other.publicData.outBorderWidth = 9;
+    other.publicData.boxRow = 12;
+    other.inLineData.circleWidth = 7;
+    other.selfData.selfTextSize = 30;
+    for (auto _ : state) {
+        editor.tool.setTestChartToolsData(other);
+        std::swap(record, other);
+    }
+}
+BENCHMARK(pushRecord)->Apply(chartSizes);
 
 } // namespace
 

@@ -9,11 +9,11 @@ namespace {
 
 QPixmap drawn(LayerPicture& picture, const QSize& size, const QRect& where, const QColor& color)
 {
-    QImage& image = picture.blank(size);
+    QImage& image = picture.begin(size);
     QPainter painter(&image);
     painter.fillRect(where, color);
     painter.end();
-    return picture.finished();
+    return picture.finish();
 }
 
 QImage expected(const QSize& size, const QRect& where, const QColor& color)
@@ -38,7 +38,7 @@ private Q_SLOTS:
     void beginsTransparent()
     {
         LayerPicture picture;
-        const QImage& image = picture.blank(chart);
+        const QImage& image = picture.begin(chart);
         QCOMPARE(image.size(), chart);
         QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied);
         VD_COMPARE_IMAGES(image, expected(chart, {}, Qt::black));
@@ -85,6 +85,30 @@ private Q_SLOTS:
         const qint64 first = drawn(picture, chart, onTheLeft, Qt::red).cacheKey();
         const qint64 second = drawn(picture, chart, onTheLeft, Qt::blue).cacheKey();
         QVERIFY(first != second);
+    }
+
+    void whatIsWrittenWholeIsNotLookedAt()
+    {
+        LayerPicture picture;
+        drawn(picture, chart, onTheLeft, Qt::red);
+        QImage& image = picture.begin(chart, LayerPicture::Coverage::Whole);
+        image.fill(QColor(0, 0, 0, 90));
+        const QPixmap whole = picture.finish();
+        VD_COMPARE_IMAGES(whole.toImage(), expected(chart, QRect(QPoint(), chart), QColor(0, 0, 0, 90)));
+        QCOMPARE(picture.ink().places, QVector<QRect>{QRect(QPoint(), chart)});
+        QVERIFY(!picture.ink().opaque);
+        picture.begin(chart, LayerPicture::Coverage::Opaque).fill(Qt::white);
+        picture.finish();
+        QVERIFY(picture.ink().opaque);
+    }
+
+    void transparentAgainAfterItWasWrittenWhole()
+    {
+        LayerPicture picture;
+        picture.begin(chart, LayerPicture::Coverage::Opaque).fill(Qt::white);
+        picture.finish();
+        const QPixmap part = drawn(picture, chart, onTheLeft, Qt::red);
+        VD_COMPARE_IMAGES(part.toImage(), expected(chart, onTheLeft, Qt::red));
     }
 
     void takesAnotherSize()

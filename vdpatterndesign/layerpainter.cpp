@@ -52,18 +52,23 @@ bool LayerPainter::isDrawable() const
     return true;
 }
 
+LayerPainter::Coverage LayerPainter::coverage() const
+{
+    return Coverage::Unknown;
+}
+
 void LayerPainter::renderPicture()
 {
     if (size().isEmpty() || !isDrawable())
         return;
     clear(); // lets go of the picture, which is then drawn on again
-    QImage& image = d->picture.blank(size());
+    QImage& image = d->picture.begin(size(), coverage());
     if (image.isNull())
         return;
     QPainter painter(&image);
     draw(painter, image.size());
     painter.end();
-    setPixmap(d->picture.finished());
+    setPixmap(d->picture.finish());
 }
 
 /// Not as the label's style would: a style sheet of the host, or a host that is disabled, must not get into

@@ -20,6 +20,14 @@ class VDPATTERNDESIGN_EXPORT LayerPainter : public QLabel
     Q_OBJECT
 
 public:
+    /// What is known of a layer's picture before it is drawn.
+    enum class Coverage
+    {
+        Unknown,
+        Whole, ///< every pixel is written, whatever was there before
+        Opaque ///< every pixel is written, and opaque
+    };
+
     explicit LayerPainter(QWidget* parent = nullptr);
     ~LayerPainter() override;
 
@@ -42,6 +50,9 @@ protected:
 
     /// Whether there is anything to draw from. A layer for which there is not stays with the picture it had.
     virtual bool isDrawable() const;
+    /// What `draw` is about to do. Where it writes every pixel, it may find its last picture on what it draws
+    /// on.
+    virtual Coverage coverage() const;
     /// Draws the layer with `painter` on a transparent picture of `size` (never empty).
     virtual void draw(QPainter& painter, const QSize& size) = 0;
 

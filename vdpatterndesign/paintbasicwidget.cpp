@@ -124,6 +124,12 @@ bool PaintBasicWidget::isDrawable() const
     return d->mode != 0 || (d->rows > 0 && d->columns > 0);
 }
 
+LayerPainter::Coverage PaintBasicWidget::coverage() const
+{
+    const bool opaqueChess = d->mode == 0 && d->oddColor.alpha() == 255 && d->evenColor.alpha() == 255;
+    return opaqueChess ? Coverage::Opaque : Coverage::Unknown;
+}
+
 void PaintBasicWidget::draw(QPainter& painter, const QSize& size)
 {
     d->drawnColors = d->barColors();

@@ -41,6 +41,7 @@ public:
 
 protected:
     bool isDrawable() const override;
+    Coverage coverage() const override;
     void draw(QPainter& painter, const QSize& size) override;
     bool sourceChanged() const override;
 

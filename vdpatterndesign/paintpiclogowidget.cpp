@@ -47,8 +47,6 @@ public:
     QString dialogTitle;
     std::string picPath;
     CachedPicture picture;
-    QPixmap logo;       ///< the picture in its size on the chart
-    qint64 logoKey = 0; ///< of the picture that `logo` was made from
     int position = 0;
 };
 
@@ -161,15 +159,11 @@ void PaintPicLogoWidget::renderPicture()
 {
     const QImage& image = d->picture.load(d->path());
     const QSize scaled(int(float(image.width()) * d->scale), int(float(image.height()) * d->scale));
-    if (d->logo.size() != scaled || d->logoKey != image.cacheKey()) {
-        d->logo =
-            image.isNull()
-                ? QPixmap() // scaling none would warn
-                : QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
-        d->logoKey = image.cacheKey();
-    }
-    d->placement = placedPicture(size(), d->logo.size(), d->position, {d->moveX, d->moveY});
-    setPixmap(d->logo);
+    QPixmap logo;
+    if (!image.isNull()) // scaling none would warn
+        logo = QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    d->placement = placedPicture(size(), logo.size(), d->position, {d->moveX, d->moveY});
+    setPixmap(logo);
 }
 
 void PaintPicLogoWidget::draw(QPainter& painter, const QSize& size)

@@ -7,6 +7,8 @@ namespace vardeno::testcharttools {
 class PaintPublicBrightWidget::Impl : public QObject
 {
 public:
+    int alpha() const { return 255 - brightness * 255 / 100; }
+
     ushort brightness = 100;
 };
 
@@ -23,11 +25,17 @@ void PaintPublicBrightWidget::setBrightness(ushort percent)
     assign(d->brightness, percent);
 }
 
+LayerPainter::Coverage PaintPublicBrightWidget::coverage() const
+{
+    return d->alpha() > 0 ? Coverage::Whole : Coverage::Unknown;
+}
+
 void PaintPublicBrightWidget::draw(QPainter& painter, const QSize& size)
 {
-    const int alpha = 255 - d->brightness * 255 / 100;
-    if (alpha > 0)
-        painter.fillRect(QRect(QPoint(), size), QColor(0, 0, 0, alpha));
+    if (d->alpha() == 0)
+        return;
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(QRect(QPoint(), size), QColor(0, 0, 0, d->alpha()));
 }
 
 } // namespace vardeno::testcharttools

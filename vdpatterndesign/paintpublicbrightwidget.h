@@ -20,6 +20,7 @@ public:
     void setBrightness(ushort percent);
 
 protected:
+    Coverage coverage() const override;
     void draw(QPainter& painter, const QSize& size) override;
 
 private:

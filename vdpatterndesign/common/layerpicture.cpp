@@ -20,19 +20,20 @@ QImage transparentImage(const QSize& size)
 
 } // namespace
 
-QImage& LayerPicture::blank(const QSize& size)
+QImage& LayerPicture::begin(const QSize& size, Coverage coverage)
 {
-    if (m_image.size() == size && m_image.isDetached())
-        wipe(m_image, m_ink.places);
-    else
+    if (m_image.size() != size || !m_image.isDetached())
         m_image = transparentImage(size);
-    m_ink = {};
+    else if (coverage == Coverage::Unknown)
+        wipe(m_image, m_ink.places);
+    m_coverage = coverage;
     return m_image;
 }
 
-QPixmap LayerPicture::finished()
+QPixmap LayerPicture::finish()
 {
-    m_ink = inkOf(m_image);
+    m_ink = m_coverage == Coverage::Unknown ? inkOf(m_image)
+                                            : Ink{{m_image.rect()}, m_coverage == Coverage::Opaque};
     return QPixmap::fromImage(m_image, Qt::NoOpaqueDetection);
 }
 
