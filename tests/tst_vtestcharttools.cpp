@@ -889,6 +889,25 @@ private Q_SLOTS:
             QTest::qWait(30);
             return true;
         });
+        for (const char* caption : {"Resolution", "Box RowColNum", "Circle", "Position adjustment"}) {
+            QTest::newRow(qPrintable(QStringLiteral("%1 is being typed").arg(QLatin1String(caption))))
+                << Moment([caption](VTestChartTools& tool) {
+                       User user(tool);
+                       TestChartToolsData record = smallRecord();
+                       record.inLineData.showCircle = true;
+                       record.logoData.showLogo = true;
+                       tool.setTestChartToolsData(record);
+                       if (!user.settle())
+                           return false;
+                       SpinEditBox* const entry = user.entry(caption);
+                       const double before = entry->value();
+                       user.click(entry);
+                       QTest::keyClick(tool.windowHandle(), Qt::Key_A, Qt::ControlModifier);
+                       for (const char digit : {'3', '7'})
+                           QTest::keyClick(tool.windowHandle(), digit);
+                       return entry->value() == before && entry->text().startsWith(QLatin1String("37"));
+                   });
+        }
         QTest::newRow("a removal is pending") << Moment([](VTestChartTools& tool) {
             Host host(tool);
             tool.setCurrentEditNum(QStringLiteral("new.png"));

@@ -530,7 +530,12 @@ VTestChartTools::VTestChartTools(QWidget* parent)
     setShowForAdd(false);
 }
 
-VTestChartTools::~VTestChartTools() = default;
+/// The window goes after this, and an entry that is being edited then ends its edit.
+VTestChartTools::~VTestChartTools()
+{
+    for (SettingPanel* panel : d->panels)
+        panel->disconnect(this);
+}
 
 TestChartToolsData VTestChartTools::getTestChartToolsData()
 {
