@@ -352,6 +352,22 @@ private Q_SLOTS:
         QCOMPARE(shownText(picker, button, name), source);
     }
 
+    void labelsOutliveTheToolkitsLanguageChange_data() { addTextRows(); }
+
+    /// A host that installs a translator for its own texts sends every window this event.
+    void labelsOutliveTheToolkitsLanguageChange()
+    {
+        QFETCH(bool, button);
+        QFETCH(QString, name);
+        QFETCH(QString, source);
+        switchLanguage(QStringLiteral("xx"));
+        QWidget host;
+        CustomColorDialog picker(&host);
+        QEvent language(QEvent::LanguageChange);
+        QApplication::sendEvent(&host, &language);
+        QCOMPARE(shownText(picker, button, name), QStringLiteral("xx ") + source);
+    }
+
     void otherTextsAreLeftAlone()
     {
         switchLanguage(QStringLiteral("xx"));

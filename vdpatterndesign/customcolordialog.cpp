@@ -4,6 +4,7 @@
 
 #include <QColorDialog>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
@@ -111,6 +112,14 @@ void CustomColorDialog::setVisible(bool visible)
     m_dialog->activateWindow();
     m_dialog->setFocus(Qt::OtherFocusReason);
     QCoreApplication::processEvents();
+}
+
+bool CustomColorDialog::event(QEvent* event)
+{
+    const bool handled = FloatDockWidget::event(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate(); // after the inner dialog, which gets the event from this one
+    return handled;
 }
 
 void CustomColorDialog::slotColorSelected(QColor color)

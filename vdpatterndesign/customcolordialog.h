@@ -20,7 +20,8 @@ public:
     void setCurrentColor(const QColor& color);
     QColor currentColor() const;
 
-    /// Shows the texts in the current language.
+    /// Shows the texts in the current language. A change of the toolkit's language, which gives the toolkit's
+    /// dialog its own texts back, does so by itself.
     void retranslate();
 
     void setVisible(bool visible) override;
@@ -37,6 +38,9 @@ public Q_SLOTS:
     void slotColorExternallyChanged(QColor color);
     void slotColorDialogRejected();
     void slotDialogAccepted();
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     void endChoice();
