@@ -789,6 +789,27 @@ private Q_SLOTS:
         QCOMPARE(received, stripesRecord());
     }
 
+    void savedRecordsTravelInQueuedSignals()
+    {
+        VTestChartTools tool;
+        tool.setTestChartToolsData(smallRecord());
+        tool.setSavePath(m_folder.filePath(QStringLiteral("queued")), QString());
+        QSignalSpy spy(&tool, &VTestChartTools::sigSave);
+        std::vector<TestChartToolsData> received;
+        QObject::connect(
+            &tool, &VTestChartTools::sigSave, &tool,
+            [&](TestChartToolsData& data) { received.push_back(data); }, Qt::QueuedConnection);
+        QObject::connect(&tool, &VTestChartTools::sigTestToolEditDone, &tool, [&] {
+            QCOMPARE(spy.count(), 1);
+            QVERIFY(received.empty());
+            tool.setTestChartToolsData(stripesRecord());
+        });
+        tool.slotAddConfirmButtonClicked();
+        QTRY_COMPARE(received.size(), std::size_t(1));
+        QCOMPARE(received.front(), smallRecord()); // as it was when it was sent
+        QCOMPARE(spy.first().first().value<TestChartToolsData>(), smallRecord());
+    }
+
     void toolsStandSideBySide()
     {
         QWidget host;

@@ -520,6 +520,7 @@ VTestChartTools::VTestChartTools(QWidget* parent)
 {
     ensureResources();
     qRegisterMetaType<TestChartToolsData>("TestChartToolsData");
+    qRegisterMetaType<TestChartToolsData>("TestChartToolsData&"); // as sigSave has it: queued, as a copy
     qRegisterMetaType<EditType>("EditType");
     d = std::make_unique<Impl>(this);
     d->createWidget();

@@ -74,7 +74,8 @@ public:
     void translateLanguage();
 
 Q_SIGNALS:
-    /// A chart image was written. `data` refers to the tool's own record: for direct connections only.
+    /// A chart image was written. `data` is the tool's own record in a direct connection, a copy in a queued
+    /// one.
     void sigSave(TestChartToolsData& data);
     /// An edit has ended; `fileName` is the full path of the image, empty where none was written.
     void sigTestToolEditDone(TestChartToolsData data, QString fileName, EditType type);
