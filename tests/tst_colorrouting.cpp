@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <utility>
 
 using namespace vardeno::testcharttools;
@@ -296,6 +297,27 @@ private Q_SLOTS:
             host.reject();
             QVERIFY(host.idle());
         }
+    }
+
+    void toolTakenFromItsHostOpensThePickerOnTheAnchor_data()
+    {
+        QTest::addColumn<bool>("parented");
+        QTest::newRow("no parent left") << false;
+        QTest::newRow("a parent only") << true;
+    }
+
+    void toolTakenFromItsHostOpensThePickerOnTheAnchor()
+    {
+        QFETCH(bool, parented);
+        Host host;
+        QWidget other;
+        host.tool->setParent(parented ? &other : nullptr);
+        const std::unique_ptr<VTestChartTools> owned(host.tool);
+        host.tool->setMoveRange(QRect(200, 100, 900, 700));
+        host.tool->slotShowColorDialog(host.button(roleNamed(QStringLiteral("odd"))));
+        QVERIFY(host.picker()->isVisible());
+        const QPoint off = host.picker()->frameGeometry().center() - QRect(200, 100, 900, 700).center();
+        QVERIFY2(off.manhattanLength() <= 2, qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
     }
 
     void openPickerStaysWhereItIs()

@@ -346,14 +346,16 @@ void VTestChartTools::Impl::connectColorDialog()
     connect(colorDialog, &CustomColorDialog::sigColorAccept, owner, &VTestChartTools::slotDialogAccepted);
 }
 
-/// On the anchor first, then on the host.
+/// On the anchor first, then on the host, from which the tool may have been taken since it was built.
 void VTestChartTools::Impl::centreColorDialog()
 {
-    const QWidget* host = owner->parentWidget()->parentWidget();
+    const QWidget* page = owner->parentWidget();
+    const QWidget* host = page ? page->parentWidget() : nullptr;
     colorDialog->adjustSize(); // before it is first shown it has no size of its own
     QRect frame = colorDialog->frameGeometry();
     frame.moveCenter(dialogAnchor);
-    frame.moveCenter(host->mapToGlobal(host->rect().center()));
+    if (host)
+        frame.moveCenter(host->mapToGlobal(host->rect().center()));
     colorDialog->move(frame.topLeft());
 }
 
