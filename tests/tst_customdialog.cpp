@@ -128,6 +128,30 @@ private Q_SLOTS:
         QCOMPARE(d.button("cancelBtn")->text(), cancel);
     }
 
+    void buttonsAreReadWholeWhateverTheHostsFont_data()
+    {
+        QTest::addColumn<int>("points");
+        QTest::newRow("small") << 7;
+        QTest::newRow("the toolkit's default") << 12;
+        QTest::newRow("large") << 20;
+    }
+
+    void buttonsAreReadWholeWhateverTheHostsFont()
+    {
+        QFETCH(int, points);
+        const QFont before = QApplication::font();
+        QApplication::setFont(QFont(before.family(), points));
+        Dialog d;
+        QApplication::setFont(before);
+        QVERIFY(d.show());
+        for (const char* name : {"confirmBtn", "cancelBtn"}) {
+            const QPushButton* const button = d.button(name);
+            QCOMPARE(button->text(), QLatin1String(name) == QLatin1String("confirmBtn") ? "OK" : "Cannel");
+            QVERIFY(button->fontMetrics().horizontalAdvance(button->text()) <= button->width());
+            QVERIFY(button->fontMetrics().height() <= button->height());
+        }
+    }
+
     void arrangement()
     {
         Dialog d;

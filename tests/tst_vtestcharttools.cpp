@@ -220,6 +220,38 @@ private Q_SLOTS:
         QVERIFY(button->isEnabled());
     }
 
+    void editButtonsAreReadWholeWhateverTheHostsFont_data()
+    {
+        QTest::addColumn<int>("points");
+        QTest::newRow("small") << 7;
+        QTest::newRow("the toolkit's default") << 12;
+        QTest::newRow("large") << 20;
+    }
+
+    void editButtonsAreReadWholeWhateverTheHostsFont()
+    {
+        QFETCH(int, points);
+        QWidget host;
+        host.setFont(QFont(host.font().family(), points));
+        VTestChartTools tool(&host);
+        const User user(tool);
+        const auto shown = [&] {
+            QStringList texts;
+            for (const QPushButton* button :
+                 {user.cancel(), user.addConfirm(), user.replaceConfirm(), user.replaceApply()}) {
+                texts.append(button->text());
+                QVERIFY2(button->fontMetrics().horizontalAdvance(button->text()) <= button->width(),
+                         qPrintable(button->text()));
+            }
+            QCOMPARE(texts, QStringList({"Cancel", "Confirm", "Confirm", "Apply"}));
+        };
+        shown();
+        host.show();
+        shown();
+        tool.translateLanguage();
+        shown();
+    }
+
     void saveBarStartsWithTheStretch()
     {
         VTestChartTools tool;

@@ -20,6 +20,7 @@ QPushButton* dialogButton(QDialog* dialog, const char* objectName)
     auto* button = new QPushButton(dialog);
     button->setObjectName(QLatin1String(objectName));
     button->setFixedSize(buttonSize);
+    useFixedFont(button);
     return button;
 }
 

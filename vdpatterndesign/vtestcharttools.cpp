@@ -252,6 +252,7 @@ QPushButton* VTestChartTools::Impl::createButton(const char* objectName, const c
     auto* button = new QPushButton(saveBar);
     button->setObjectName(QLatin1String(objectName));
     button->setFixedSize(size);
+    useFixedFont(button);
     captions.add(button, QLatin1String(text), buttonMargin);
     return button;
 }

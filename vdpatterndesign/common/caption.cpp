@@ -9,6 +9,8 @@ namespace vardeno::testcharttools {
 
 namespace {
 
+constexpr int fixedFontSize = 12;
+
 template <typename Widget>
 void showElidedOn(Widget* widget, const QString& text, int margin)
 {
@@ -29,6 +31,13 @@ void showElided(QLabel* label, const QString& text, int margin)
 void showElided(QAbstractButton* button, const QString& text, int margin)
 {
     showElidedOn(button, text, margin);
+}
+
+void useFixedFont(QAbstractButton* button)
+{
+    QFont font = button->font();
+    font.setPixelSize(fixedFontSize);
+    button->setFont(font);
 }
 
 void CaptionSet::add(QLabel* label, const QString& source, int margin)

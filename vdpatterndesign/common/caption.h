@@ -15,6 +15,10 @@ namespace vardeno::testcharttools {
 void showElided(QLabel* label, const QString& text, int margin = 0);
 void showElided(QAbstractButton* button, const QString& text, int margin = 0);
 
+/// Gives a button of fixed size, whose English caption is to be shown whole, a font of a fixed size as well:
+/// 12 pixels, whatever the host's.
+void useFixedFont(QAbstractButton* button);
+
 /// The captions of a panel: each the English source text and the widget that shows its translation.
 class CaptionSet
 {
