@@ -203,6 +203,17 @@ private Q_SLOTS:
         VD_COMPARE_IMAGES(QImage(at("chart.png")), original);
     }
 
+    void runCalledDirectlyWritesAtOnce()
+    {
+        SaveImageThread thread(m_image, at("chart.png"));
+        const QSignalSpy spy(&thread, &SaveImageThread::saveFinished);
+        thread.run();
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(spy.first().first().toBool());
+        QVERIFY(!thread.isRunning());
+        QCOMPARE(contents(at("chart.png")), encoded(m_image, "PNG"));
+    }
+
     void nothingIsWrittenBeforeTheStart()
     {
         {

@@ -23,12 +23,13 @@ public:
     SaveImageThread(const QImage& image, const QString& path, QObject* parent = nullptr);
     ~SaveImageThread() override;
 
-Q_SIGNALS:
-    /// Sent once, from the thread.
-    void saveFinished(bool success);
-
-protected:
+    /// What the thread does. Called directly it writes, and reports, in the caller's thread before it
+    /// returns.
     void run() override;
+
+Q_SIGNALS:
+    /// Sent once by every run, from where it runs.
+    void saveFinished(bool success);
 
 private:
     QImage m_image;
