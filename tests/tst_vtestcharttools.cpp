@@ -4,6 +4,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QMetaMethod>
 #include <QMetaType>
 #include <QPainter>
 #include <QPointer>
@@ -158,6 +159,25 @@ private Q_SLOTS:
     {
         qApp->setStyleSheet(QString());
         TestCase::cleanup();
+    }
+
+    void signalsAndSlotsStandInOrder()
+    {
+        const QMetaObject& meta = VTestChartTools::staticMetaObject;
+        QStringList signatures;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+            signatures.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        QCOMPARE(signatures.mid(0, 3),
+                 QStringList({"sigSave(TestChartToolsData&)",
+                              "sigTestToolEditDone(TestChartToolsData,QString,EditType)", "sigFail()"}));
+        QCOMPARE(signatures.mid(3),
+                 QStringList({"slotGetHeightWidth()", "slotSaveImage()", "slotCancleButtonClicked()",
+                              "slotAddConfirmButtonClicked()", "slotReplaceConfirmButtonClicked()",
+                              "slotReplaceApplyButtonClicked()", "slotUpdateRow(int)", "slotUpdateCol(int)",
+                              "slotUpdateResolution()", "slotSaveBtnLight()",
+                              "slotMainWindowMove(QRect,QPoint)", "slotShowColorDialog(QPushButton*)",
+                              "slotColorSelected(QColor)", "slotColorDialogRejected()",
+                              "slotDialogAccepted(QColor)", "slotUpdatePaintEventStatus(QString)"}));
     }
 
     void fixedSizes_data()
