@@ -332,6 +332,18 @@ private Q_SLOTS:
         QVERIFY(host.tool->getTestChartToolsData().basicData.oddColor == colorfulRecord().basicData.oddColor);
     }
 
+    void minimisedPickerIsBroughtBack()
+    {
+        Host host;
+        QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
+        QTest::mouseClick(host.picker()->findChild<QPushButton*>(QStringLiteral("btnMinSize")),
+                          Qt::LeftButton);
+        QVERIFY(host.picker()->isMinimized());
+        QVERIFY(host.click(host.button(roleNamed(QStringLiteral("even")))));
+        QVERIFY(host.picker()->isVisible());
+        QVERIFY(!host.picker()->isMinimized());
+    }
+
     void openingIsNoChange_data() { addRoleRows(true); }
 
     void openingIsNoChange()

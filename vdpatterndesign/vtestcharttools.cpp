@@ -769,6 +769,7 @@ void VTestChartTools::slotShowColorDialog(QPushButton* button)
         d->colorDialog->setWindowFlags(d->colorDialog->windowFlags() | Qt::Window | Qt::WindowStaysOnTopHint);
         d->centreColorDialog();
     }
+    d->colorDialog->setWindowState(d->colorDialog->windowState() & ~Qt::WindowMinimized);
     d->colorDialog->show();
     d->colorDialog->raise();
     d->colorDialog->activateWindow();
