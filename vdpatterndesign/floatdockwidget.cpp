@@ -36,6 +36,7 @@ FloatDockWidget::FloatDockWidget(const QString& id, QWidget* parent)
     : QDockWidget(parent)
     , d(new Impl)
 {
+    qRegisterMetaType<Qt::Key>("Qt::Key"); // by its name, as moc has it in sigSendShortcut
     setObjectName(QStringLiteral("floatdockwidget"));
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint); // its title bar is its own
     d->id = id;
