@@ -23,8 +23,18 @@ class TestChartFolder : public TestCase
 {
     Q_OBJECT
 
+public:
+    explicit TestChartFolder(QChar zeroDigit)
+        : m_zeroDigit(zeroDigit)
+    {
+    }
+
 private Q_SLOTS:
-    void initTestCase() { m_home = qgetenv("HOME"); }
+    void initTestCase()
+    {
+        m_home = qgetenv("HOME");
+        QVERIFY(m_zeroDigit != QLatin1Char('0'));
+    }
 
     void init()
     {
@@ -363,9 +373,21 @@ private:
         QVERIFY2(line.contains(QLatin1String("removeChartFolder(")) && line.endsWith(end), qPrintable(line));
     }
 
+    QChar m_zeroDigit; ///< of the system
     QByteArray m_home;
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-VD_TEST_MAIN(TestChartFolder)
+int main(int argc, char** argv)
+{
+    // A system with digits of its own, which no folder's name has; the toolkit asks for it once.
+    qputenv("LC_ALL", "fa_IR.UTF-8");
+    const QChar zero = QLocale::system().zeroDigit();
+    prepareTestProcess();
+    QApplication application(argc, argv);
+    prepareTestApplication();
+    TestChartFolder testCase(zero);
+    return QTest::qExec(&testCase, argc, argv);
+}
+
 #include "tst_chartfolder.moc"

@@ -4,6 +4,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QStorageInfo>
 
 namespace vardeno::testcharttools {
@@ -26,7 +27,8 @@ bool holds(const QString& folder, const QString& path)
 
 QString chartFolder(const QString& root, const QDateTime& time)
 {
-    return root + QLatin1Char('/') + time.toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    // The system's locale may have digits of its own.
+    return root + QLatin1Char('/') + QLocale::c().toString(time, QStringLiteral("yyyyMMdd_HHmmss"));
 }
 
 std::vector<QString> allFilePaths(const QString& dir)
