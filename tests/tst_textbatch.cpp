@@ -3,6 +3,7 @@
 #include "testcase.h"
 
 #include <QPainter>
+#include <QtMath>
 
 using namespace vardeno::testcharttools;
 
@@ -84,6 +85,37 @@ private Q_SLOTS:
             batch.draw();
         });
         VD_COMPARE_IMAGES(batched, expected);
+    }
+
+    void inkBesideItsBoxIsClipped_data()
+    {
+        QTest::addColumn<QString>("head");
+        QTest::addColumn<QString>("tail");
+        QTest::newRow("one text") << QStringLiteral("J") << QString();
+        QTest::newRow("two parts") << QStringLiteral("A-") << QStringLiteral("f");
+    }
+
+    /// Glyphs reach beyond the width that the text takes.
+    void inkBesideItsBoxIsClipped()
+    {
+        QFETCH(QString, head);
+        QFETCH(QString, tail);
+        const int alignment = Qt::AlignLeft | Qt::AlignTop;
+        for (int pixelSize = 1; pixelSize < 64; ++pixelSize) {
+            QFont font = QApplication::font();
+            font.setPixelSize(pixelSize);
+            const int width = qCeil(QFontMetricsF(font).horizontalAdvance(head + tail));
+            const QRect box(10, 5, width, 90);
+            const QImage expected = drawn({200, 100}, pixelSize, [&](QPainter& painter) {
+                painter.drawText(box, alignment, head + tail);
+            });
+            const QImage batched = drawn({200, 100}, pixelSize, [&](QPainter& painter) {
+                TextBatch batch(painter);
+                batch.add(box, alignment, head, tail);
+                batch.draw();
+            });
+            VD_COMPARE_IMAGES(batched, expected);
+        }
     }
 
     void anyText_data()

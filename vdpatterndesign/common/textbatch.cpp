@@ -44,17 +44,18 @@ void TextBatch::add(const QRect& box, int alignment, const QString& head, const 
     const qreal gap = joined && !head.isEmpty() ? kerning(head.back(), tail.front()) : 0;
     const qreal width = first.width + gap + second.width;
     const qreal height = first.height;
-    const QRectF bounds(box.x() + shift(alignment, Qt::AlignRight, Qt::AlignHCenter, box.width(), width),
-                        box.y() + shift(alignment, Qt::AlignBottom, Qt::AlignVCenter, box.height(), height),
-                        width, height);
+    const QPointF at(box.x() + shift(alignment, Qt::AlignRight, Qt::AlignHCenter, box.width(), width),
+                     box.y() + shift(alignment, Qt::AlignBottom, Qt::AlignVCenter, box.height(), height));
+    const qreal inkWidth = width + (joined ? second : first).overhang;
+    const bool fits = !box.isEmpty() && inkWidth <= box.width() && height <= box.height();
     const bool plain = first.plain && (!joined || second.plain);
-    if (!plain || !QRectF(box).contains(bounds)) {
+    if (!plain || !fits) {
         draw();                                          // what was added first lies below
         m_painter.drawText(box, alignment, head + tail); // clips what sticks out of the box
         return;
     }
-    append(first, bounds.topLeft());
-    append(second, bounds.topLeft() + QPointF(first.width + gap, 0));
+    append(first, at);
+    append(second, at + QPointF(first.width + gap, 0));
 }
 
 void TextBatch::draw()
@@ -94,6 +95,7 @@ TextBatch::LaidOut TextBatch::measured(const QString& text)
         line.setLineWidth(0x01000000);
         line.setPosition(QPointF());
         result.width = line.horizontalAdvance();
+        result.overhang = line.naturalTextWidth() - result.width;
         result.height = line.ascent() + line.descent();
     }
     layout.endLayout();

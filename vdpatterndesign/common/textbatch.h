@@ -32,6 +32,7 @@ private:
         QVector<quint32> glyphs;
         QVector<QPointF> positions;
         qreal width = 0;
+        qreal overhang = 0; ///< of the last glyph beyond the width
         qreal height = 0;
         bool plain = false; ///< one line of glyphs of the batch's one font
     };
