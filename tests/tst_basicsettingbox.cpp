@@ -614,6 +614,28 @@ private Q_SLOTS:
         QCOMPARE(requested, QVector<QPushButton*>{button});
     }
 
+    void colorSignalsCarryTheirButtonAnywhere_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("signal");
+        QTest::newRow("odd") << "oddColorPushButton" << QByteArray(SIGNAL(oddSignal(QPushButton*)));
+        QTest::newRow("even") << "evenColorPushButton" << QByteArray(SIGNAL(evenSignal(QPushButton*)));
+        QTest::newRow("add") << "ADDButton" << QByteArray(SIGNAL(addSignal(QPushButton*)));
+        QTest::newRow("any") << "ADDButton" << QByteArray(SIGNAL(colorRequested(QPushButton*)));
+    }
+
+    void colorSignalsCarryTheirButtonAnywhere()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, signal);
+        Desk d;
+        auto* const button = d.panel->findChild<QPushButton*>(name);
+        const QSignalSpy requests(d.panel, signal.constData());
+        button->click();
+        QCOMPARE(requests.count(), 1);
+        QCOMPARE(requests.first().first().value<QPushButton*>(), button);
+    }
+
     void everyChangeReachesTheShell()
     {
         Desk d;
