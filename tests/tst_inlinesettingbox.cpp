@@ -12,6 +12,7 @@
 #include <QFocusEvent>
 #include <QFrame>
 #include <QHelpEvent>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolTip>
@@ -442,6 +443,16 @@ private Q_SLOTS:
         QCOMPARE(shown.radius()->value(), 540.0);
         shown.circleWidth()->setFocus();
         QCOMPARE(shown.radius()->value(), 16.0);
+    }
+
+    void radiusPutIntoTheTextIsRaised()
+    {
+        ShownPanel shown;
+        shown.radius()->findChild<QLineEdit*>()->setText(QStringLiteral("10"));
+        QTest::keyClick(shown.radius(), Qt::Key_Return);
+        QCOMPARE(shown.radius()->value(), 16.0);
+        VD_COMPARE_IMAGES(layerImage(shown.layer),
+                          drawnAfter([](PaintInLineWidget& layer) { layer.setCircleRadius(16); }));
     }
 
     void radiusOfOneKeyOrOneRecordIsLeftAlone()

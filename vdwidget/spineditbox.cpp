@@ -13,7 +13,9 @@ SpinEditBox::SpinEditBox(QWidget* parent)
     // A cleared box keeps its suffix alone when Enter ends the edit.
     connect(this, &QAbstractSpinBox::editingFinished, this, [this] { setValue(value()); });
     connect(this, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &SpinEditBox::valueChanged);
-    connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
+    // Not `textEdited`: a text that a program puts into the entry is an edit as well. The box itself changes
+    // its text without a signal.
+    connect(lineEdit(), &QLineEdit::textChanged, this, [this] {
         if (m_textBeforeEdit.isNull())
             m_textBeforeEdit = textFromValue(value());
     });

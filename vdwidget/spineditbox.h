@@ -28,8 +28,9 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 Q_SIGNALS:
-    /// A typed entry has ended, after `valueChanged` if it changed the value. `previousText` is what the box
-    /// showed before, without prefix and suffix. Values that were set, stepped or turned to do not come here.
+    /// A typed entry, or one put into its text, has ended, after `valueChanged` if it changed the value.
+    /// `previousText` is what the box showed before, without prefix and suffix. Values that were set, stepped
+    /// or turned to do not come here.
     void editFinished(const QString& previousText);
     /// The committed value. Declared again because Qt 5's base carries a deprecated overload for texts:
     /// here `&SpinEditBox::valueChanged` names one signal.
