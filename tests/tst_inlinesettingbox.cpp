@@ -153,7 +153,7 @@ int enabledCount(const QList<QWidget*>& controls)
 /// A text at least `least` and at most `most` pixels wide.
 QString textOfWidth(const QFontMetrics& metrics, int least, int most)
 {
-    for (int wide = 0; wide < 12; ++wide) {
+    for (int wide = 0; wide < 24; ++wide) {
         for (int narrow = 0; narrow < 30; ++narrow) {
             QString text = QString(wide, QLatin1Char('m')) + QString(narrow, QLatin1Char('i'));
             const int bounds = metrics.boundingRect(text).width();
@@ -1230,6 +1230,30 @@ private Q_SLOTS:
         QCOMPARE(toolTip(shown.position()), QString());
         QCOMPARE(toolTip(shown.sort()), sort);
         QCOMPARE(shown.sort()->width(), 200);
+    }
+
+    void wideItemIsTheToolTipOfItsList()
+    {
+        ShownPanel shown;
+        const QString source = QStringLiteral("Left Up Right Down");
+        const QFontMetrics metrics = shown.position()->fontMetrics();
+        const QString fitting = textOfWidth(metrics, 175, 180);
+        const QString wide = textOfWidth(metrics, 181, 184);
+        QVERIFY(!fitting.isEmpty() && !wide.isEmpty());
+
+        loadText(QStringLiteral("wide"), source, wide);
+        shown.panel.retranslate();
+        QCOMPARE(shown.position()->toolTip(), QString());
+        shown.position()->setCurrentIndex(1);
+        QCOMPARE(shown.position()->toolTip(), wide);
+        shown.position()->setCurrentIndex(2);
+        QCOMPARE(shown.position()->toolTip(), QString());
+        shown.position()->setCurrentIndex(1);
+        loadText(QStringLiteral("fitting"), source, fitting);
+        shown.panel.retranslate();
+        QCOMPARE(shown.position()->toolTip(), QString());
+        QCOMPARE(shown.sort()->toolTip(),
+                 QStringLiteral("From up to down increase Frome left to right increase"));
     }
 
     void retranslationKeepsTheState()

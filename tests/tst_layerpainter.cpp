@@ -140,6 +140,25 @@ private Q_SLOTS:
         QCOMPARE(layer.drawn.size(), renders);
     }
 
+    /// The texts of the chart are drawn in the application's font.
+    void thePaintEventRendersInTheFontOfTheApplication()
+    {
+        PlainLayer layer;
+        layer.resize(30, 20);
+        layer.grab();
+        layer.drawn.clear();
+        const QFont before = QApplication::font();
+        QFont other = before;
+        other.setItalic(true);
+        QApplication::setFont(other);
+        layer.grab();
+        QApplication::setFont(before);
+        QCOMPARE(layer.drawn.size(), 1);
+        layer.grab();
+        layer.grab();
+        QCOMPARE(layer.drawn.size(), 2);
+    }
+
     void everyPaintReportsOnce()
     {
         PlainLayer layer;

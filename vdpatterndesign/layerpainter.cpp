@@ -2,6 +2,8 @@
 
 #include "common/layerpicture.h"
 
+#include <QFont>
+#include <QGuiApplication>
 #include <QPainter>
 
 namespace vardeno::testcharttools {
@@ -11,6 +13,7 @@ class LayerPainter::Impl
 public:
     LayerPicture picture;
     QSize renderedSize;
+    QFont renderedFont;     ///< the application's, which every text is drawn in
     qint64 renderedKey = 0; ///< identifies the picture of the last render
     bool held = false;
     bool changed = false; ///< while held
@@ -94,6 +97,7 @@ void LayerPainter::render()
 {
     d->changed = false;
     d->renderedSize = size();
+    d->renderedFont = QGuiApplication::font();
     renderPicture();
     d->renderedKey = pixmap(Qt::ReturnByValue).cacheKey();
 }
@@ -109,7 +113,7 @@ void LayerPainter::layerChanged()
 void LayerPainter::refresh()
 {
     if (d->changed || d->renderedSize != size() || d->renderedKey != pixmap(Qt::ReturnByValue).cacheKey() ||
-        sourceChanged())
+        d->renderedFont != QGuiApplication::font() || sourceChanged())
         render();
 }
 
