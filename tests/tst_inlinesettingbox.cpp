@@ -1241,7 +1241,7 @@ private Q_SLOTS:
         const QString wide = textOfWidth(metrics, 181, 184);
         QVERIFY(!fitting.isEmpty() && !wide.isEmpty());
 
-        loadText(QStringLiteral("wide"), source, wide);
+        QVERIFY(speak({{source, wide}}));
         shown.panel.retranslate();
         QCOMPARE(shown.position()->toolTip(), QString());
         shown.position()->setCurrentIndex(1);
@@ -1249,7 +1249,7 @@ private Q_SLOTS:
         shown.position()->setCurrentIndex(2);
         QCOMPARE(shown.position()->toolTip(), QString());
         shown.position()->setCurrentIndex(1);
-        loadText(QStringLiteral("fitting"), source, fitting);
+        QVERIFY(speak({{source, fitting}}));
         shown.panel.retranslate();
         QCOMPARE(shown.position()->toolTip(), QString());
         QCOMPARE(shown.sort()->toolTip(),

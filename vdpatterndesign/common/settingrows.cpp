@@ -36,6 +36,14 @@ int captionMargin(const QPushButton* button)
     return button->property("btnProperty") == QLatin1String("uplogo") ? 68 : 2;
 }
 
+/// A current item too wide for its box, which the box shows elided, is told whole.
+void tellWideItem(ComboBox* box)
+{
+    const QString text = box->currentText();
+    const bool fits = box->fontMetrics().boundingRect(text).width() <= box->width() - indicatorMargin;
+    box->setToolTip(fits ? QString() : text);
+}
+
 } // namespace
 
 SettingRow::SettingRow(QWidget* panel, PanelControls& controls, QHBoxLayout* layout)
@@ -124,9 +132,13 @@ SettingRow& SettingRow::combo(ComboBox*& box, const QStringList& sources, const 
     ComboBox* const shown = box;
     for (int row = 0; row < sources.size(); ++row) {
         box->addItem(sources.at(row), row);
-        m_controls->captions.add(sources.at(row),
-                                 [shown, row](const QString& text) { shown->setItemText(row, text); });
+        m_controls->captions.add(sources.at(row), [shown, row](const QString& text) {
+            shown->setItemText(row, text);
+            tellWideItem(shown);
+        });
     }
+    QObject::connect(box, QOverload<int>::of(&ComboBox::currentIndexChanged), box,
+                     [shown] { tellWideItem(shown); });
     return *this;
 }
 
