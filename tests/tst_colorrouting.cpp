@@ -625,6 +625,14 @@ private Q_SLOTS:
             QVERIFY(!each->isVisible() || each == tool->window());
     }
 
+    void pickerGoesWithTheEditor()
+    {
+        Host host;
+        QVERIFY(host.open(roleNamed(QStringLiteral("diagonal"))));
+        host.tool->hide();
+        QVERIFY(!host.picker()->isVisible());
+    }
+
     void buttonlessSignalDoesNothing()
     {
         Host host;

@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSlider>
 #include <QWheelEvent>
 
@@ -180,6 +181,44 @@ private Q_SLOTS:
         turn(control, 9);
         QVERIFY(shown.idle());
         QCOMPARE(control->property("value").toDouble(), before - 10 * step);
+    }
+
+    void clickThatEndsAnEditArrives_data()
+    {
+        QTest::addColumn<int>("held");
+        QTest::addColumn<QPoint>("released");
+        QTest::addColumn<int>("clicks");
+        QTest::newRow("quickly") << 0 << QPoint(10, 10) << 1;
+        QTest::newRow("into the lock") << 50 << QPoint(10, 10) << 1;
+        QTest::newRow("beyond the lock") << 600 << QPoint(10, 10) << 1;
+        QTest::newRow("released elsewhere") << 50 << QPoint(-30, 10) << 0;
+        QTest::newRow("released elsewhere, late") << 600 << QPoint(-30, 10) << 0;
+    }
+
+    void clickThatEndsAnEditArrives()
+    {
+        QFETCH(int, held);
+        QFETCH(QPoint, released);
+        QFETCH(int, clicks);
+        Shown shown;
+        SpinEditBox* width = shown.entry(4320);
+        width->setFocus();
+        width->selectAll();
+        QTest::keyClicks(width, QStringLiteral("1600"));
+        const auto* cancel = shown.tool.findChild<QWidget*>(QStringLiteral("saveWidget"))
+                                 ->findChild<QPushButton*>(QStringLiteral("CancleButton"));
+        QSignalSpy ended(&shown.tool, &VTestChartTools::sigTestToolEditDone);
+        QWindow* window = shown.tool.windowHandle();
+        const QPoint origin = cancel->mapTo(&shown.tool, QPoint());
+        QTest::mousePress(window, Qt::LeftButton, {}, origin + QPoint(10, 10));
+        QTest::qWait(held);
+        QTest::mouseMove(window, origin + released);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, origin + released);
+        QVERIFY(shown.idle());
+        QCOMPARE(ended.count(), clicks);
+        QCOMPARE(shown.tool.getTestChartToolsData().publicData.resolutionWidth, 1600);
+        QTest::mouseClick(window, Qt::LeftButton, {}, origin + QPoint(10, 10));
+        QCOMPARE(ended.count(), clicks + 1);
     }
 
     void focusElsewhereInTheWindowIsLeftThere()

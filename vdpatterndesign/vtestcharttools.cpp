@@ -31,6 +31,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -831,6 +832,14 @@ void VTestChartTools::closeEvent(QCloseEvent* event)
 {
     closeColorDialog();
     QWidget::closeEvent(event);
+}
+
+/// A host may put another page of its window in the editor's place.
+void VTestChartTools::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous())
+        closeColorDialog();
+    QWidget::hideEvent(event);
 }
 
 } // namespace vardeno::testcharttools

@@ -1,11 +1,13 @@
 #include "common/inputkeeper.h"
 
+#include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QWheelEvent>
 
 namespace vardeno::testcharttools {
@@ -82,13 +84,43 @@ void InputKeeper::giveBack()
 
 bool InputKeeper::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if ((!key && event->type() != QEvent::Wheel) || m_replaying || !watched->isWidgetType())
+    if (m_replaying || !watched->isWidgetType())
         return false;
     auto* target = static_cast<QWidget*>(watched);
     if (target != m_tool && !m_tool->isAncestorOf(target))
         return false;
-    return key ? holdKey(target, event) : holdWheel(target, event);
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return holdKey(target, event);
+    case QEvent::Wheel:
+        return holdWheel(target, event);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+        watchMouse(target, event);
+        return false;
+    default:
+        return false;
+    }
+}
+
+/// A press on a button that ends an edit elsewhere begins a repaint, whose lock lets go of the button before
+/// the mouse does.
+void InputKeeper::watchMouse(QWidget* target, const QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        m_pressed = qobject_cast<QAbstractButton*>(target);
+        return;
+    }
+    const QPointer<QAbstractButton> button = m_pressed;
+    m_pressed = nullptr;
+    const QPoint place = static_cast<const QMouseEvent*>(event)->globalPos();
+    if (!button || button->isDown() || !button->rect().contains(button->mapFromGlobal(place)))
+        return;
+    m_held.push_back({QPointer<QWidget>(button), nullptr});
+    if (!m_active)
+        QMetaObject::invokeMethod(
+            this, [this] { replay(); }, Qt::QueuedConnection);
 }
 
 bool InputKeeper::holdKey(QWidget*, QEvent* event)
@@ -151,8 +183,12 @@ void InputKeeper::replay()
     held.swap(m_held);
     m_replaying = true;
     for (const Held& each : held) {
-        if (each.target && each.target->isEnabled())
+        if (!each.target || !each.target->isEnabled())
+            continue;
+        if (each.event)
             QCoreApplication::sendEvent(each.target, each.event.get());
+        else
+            static_cast<QAbstractButton*>(each.target.data())->click();
     }
     m_replaying = false;
 }

@@ -7,14 +7,15 @@
 #include <memory>
 #include <vector>
 
+class QAbstractButton;
 class QEvent;
 
 namespace vardeno::testcharttools {
 
 /// Keeps a person's input through the moments in which the panels are locked: remembers the control that had
-/// the focus, with its cursor and selection, holds the keys that arrive meanwhile and the turns of the wheel
-/// on the control that was being turned, and gives all of it back at the end. So typing, a held arrow key and
-/// a turning wheel go on as if there were no lock.
+/// the focus, with its cursor and selection, holds the keys that arrive meanwhile, the turns of the wheel on
+/// the control that was being turned and the click whose press began before, and gives all of it back at the
+/// end. So typing, a held arrow key, a turning wheel and the mouse go on as if there were no lock.
 class InputKeeper : public QObject
 {
 public:
@@ -45,11 +46,12 @@ private:
     struct Held
     {
         QPointer<QWidget> target;
-        std::unique_ptr<QEvent> event;
+        std::unique_ptr<QEvent> event; ///< none for the click on a button
     };
 
     bool holdKey(QWidget* target, QEvent* event);
     bool holdWheel(QWidget* target, QEvent* event);
+    void watchMouse(QWidget* target, const QEvent* event);
     void rememberFocus();
     void giveBack();
     void giveFocusBack();
@@ -63,6 +65,7 @@ private:
     QPointer<QWidget> m_focus;
     Cursor m_cursor;
     QPointer<QWidget> m_turned; ///< the control that last got a turn of the wheel
+    QPointer<QAbstractButton> m_pressed;
     std::vector<Held> m_held;
 };
 
