@@ -39,8 +39,7 @@ void LayerPainter::setHeld(bool held)
 bool LayerPainter::coversItsArea()
 {
     refresh();
-    return d->renderedKey == pixmap(Qt::ReturnByValue).cacheKey() && d->picture.ink().opaque &&
-           pixmap(Qt::ReturnByValue).size() == size();
+    return showsOwnPicture() && d->picture.ink().opaque && pixmap(Qt::ReturnByValue).size() == size();
 }
 
 void LayerPainter::paintEvent(QPaintEvent* event)
@@ -78,14 +77,16 @@ void LayerPainter::renderPicture()
 /// the chart.
 void LayerPainter::paintStored(QPaintEvent*)
 {
-    const QPixmap stored = pixmap(Qt::ReturnByValue);
     QPainter painter(this);
-    if (stored.cacheKey() != d->renderedKey) {
-        painter.drawPixmap(0, 0, stored);
-        return;
-    }
-    for (const QRect& place : d->picture.ink().places)
-        painter.drawPixmap(place.topLeft(), stored, place);
+    if (showsOwnPicture())
+        d->picture.paint(painter);
+    else
+        painter.drawPixmap(0, 0, pixmap(Qt::ReturnByValue));
+}
+
+bool LayerPainter::showsOwnPicture() const
+{
+    return d->renderedKey == pixmap(Qt::ReturnByValue).cacheKey();
 }
 
 bool LayerPainter::sourceChanged() const
@@ -112,7 +113,7 @@ void LayerPainter::layerChanged()
 
 void LayerPainter::refresh()
 {
-    if (d->changed || d->renderedSize != size() || d->renderedKey != pixmap(Qt::ReturnByValue).cacheKey() ||
+    if (d->changed || d->renderedSize != size() || !showsOwnPicture() ||
         d->renderedFont != QGuiApplication::font() || sourceChanged())
         render();
 }

@@ -62,6 +62,9 @@ protected:
     /// Paints the stored picture; the base paints it at the top left.
     virtual void paintStored(QPaintEvent* event);
 
+    /// Whether the label's picture is the one that was rendered last, not one that someone else gave it.
+    bool showsOwnPicture() const;
+
     /// Whether anything that the layer is drawn from besides its own fields and its size has changed since it
     /// was last drawn. Asked at every paint.
     virtual bool sourceChanged() const;

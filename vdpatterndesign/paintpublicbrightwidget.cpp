@@ -38,4 +38,14 @@ void PaintPublicBrightWidget::draw(QPainter& painter, const QSize& size)
     painter.fillRect(QRect(QPoint(), size), QColor(0, 0, 0, d->alpha()));
 }
 
+/// One colour all over needs no picture to be read.
+void PaintPublicBrightWidget::paintStored(QPaintEvent* event)
+{
+    if (!showsOwnPicture())
+        LayerPainter::paintStored(event);
+    else if (d->alpha() > 0)
+        QPainter(this).fillRect(QRect(QPoint(), pixmap(Qt::ReturnByValue).size()),
+                                QColor(0, 0, 0, d->alpha()));
+}
+
 } // namespace vardeno::testcharttools

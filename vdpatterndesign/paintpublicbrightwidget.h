@@ -22,6 +22,7 @@ public:
 protected:
     Coverage coverage() const override;
     void draw(QPainter& painter, const QSize& size) override;
+    void paintStored(QPaintEvent* event) override;
 
 private:
     class Impl;

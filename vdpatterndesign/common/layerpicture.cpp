@@ -1,5 +1,7 @@
 #include "common/layerpicture.h"
 
+#include <QPainter>
+
 #include <cstdlib>
 
 namespace vardeno::testcharttools {
@@ -35,6 +37,19 @@ QPixmap LayerPicture::finish()
     m_ink = m_coverage == Coverage::Unknown ? inkOf(m_image)
                                             : Ink{{m_image.rect()}, m_coverage == Coverage::Opaque};
     return QPixmap::fromImage(m_image, Qt::NoOpaqueDetection);
+}
+
+void LayerPicture::paint(QPainter& painter) const
+{
+    if (m_ink.opaque) {
+        // Without its alpha channel it is copied, not blended.
+        painter.drawImage(0, 0,
+                          QImage(m_image.constBits(), m_image.width(), m_image.height(),
+                                 m_image.bytesPerLine(), QImage::Format_RGB32));
+        return;
+    }
+    for (const QRect& place : m_ink.places)
+        painter.drawImage(place.topLeft(), m_image, place);
 }
 
 } // namespace vardeno::testcharttools

@@ -5,6 +5,8 @@
 
 #include <QPixmap>
 
+class QPainter;
+
 namespace vardeno::testcharttools {
 
 /// A picture that something is drawn on again and again, and that knows where its ink is.
@@ -19,6 +21,9 @@ public:
 
     /// Call after drawing: the picture, without a copy.
     QPixmap finish();
+
+    /// Paints the picture at the origin: only its ink, and that as it is where nothing shines through.
+    void paint(QPainter& painter) const;
 
     const Ink& ink() const { return m_ink; }
 
