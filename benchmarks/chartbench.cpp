@@ -1,10 +1,12 @@
-// What a change of the chart costs: one layer's render, and the composition of the whole view.
+// What a change of the chart costs: one layer's render, and the snapshot of the whole chart; in the editor,
+// and in the straightforward reference.
 
 #include "common/cabinetpainter.h"
 #include "paintbasicwidget.h"
 #include "paintinlinewidget.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
+#include "referencechart.h"
 #include "vtestcharttools.h"
 
 #include <benchmark/benchmark.h>
@@ -14,6 +16,7 @@
 #include <QPainter>
 
 #include <cstring>
+#include <string>
 #include <utility>
 
 using namespace vardeno::testcharttools;
@@ -29,6 +32,13 @@ void chartSizes(benchmark::internal::Benchmark* benchmark)
 {
     benchmark->ArgNames({"width", "height"});
     benchmark->Args({1920, 1080})->Args({3840, 2160})->Args({4320, 4320});
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
+void largeCharts(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgNames({"width", "height"});
+    benchmark->Args({3840, 2160})->Args({4320, 4320});
     benchmark->Unit(benchmark::kMillisecond);
 }
 
@@ -111,7 +121,7 @@ void drawLabels(benchmark::State& state, Draw draw)
     const LabelStyle numbers{1, 0, 0};
     for (auto _ : state)
         draw(painter, grid, numbers, font);
-    state.counters["labels"] = grid.rows * grid.columns;
+    state.SetLabel(std::to_string(int(grid.rows * grid.columns)) + " labels");
 }
 
 void labelsTogether(benchmark::State& state)
@@ -138,77 +148,109 @@ void labelsWithDrawText(benchmark::State& state)
 }
 BENCHMARK(labelsWithDrawText)->Apply(labelSizes);
 
-/// An editor that is not shown takes its snapshot at once.
+TestChartToolsData recordOf(const QSize& chart)
+{
+    TestChartToolsData record;
+    record.publicData.resolutionWidth = ushort(chart.width());
+    record.publicData.resolutionHeight = ushort(chart.height());
+    return record;
+}
+
+/// The editor, which takes its snapshot at once as long as it is not shown.
 class Editor
 {
 public:
-    explicit Editor(const QSize& chart)
-    {
-        TestChartToolsData record;
-        record.publicData.resolutionWidth = ushort(chart.width());
-        record.publicData.resolutionHeight = ushort(chart.height());
-        tool.setTestChartToolsData(record);
-    }
+    explicit Editor(const QSize& chart) { push(recordOf(chart)); }
 
-    template <typename Painter>
-    Painter* find() const
-    {
-        return tool.findChild<Painter*>();
-    }
+    void push(const TestChartToolsData& record) { m_tool.setTestChartToolsData(record); }
+    void setOddColor(const QColor& color) { m_basic->setOddColor(color); }
+    void setDiagonalWidth(ushort width) { m_inLine->setDiagonalLineWidth(width); }
+    void setBrightness(ushort percent) { m_veil->setBrightness(percent); }
+    void takeSnapshot() { m_tool.slotGetHeightWidth(); }
 
-    void takeSnapshot() { tool.slotGetHeightWidth(); }
-
-    VTestChartTools tool;
+private:
+    VTestChartTools m_tool;
+    PaintBasicWidget* m_basic = m_tool.findChild<PaintBasicWidget*>();
+    PaintInLineWidget* m_inLine = m_tool.findChild<PaintInLineWidget*>();
+    PaintPublicBrightWidget* m_veil = m_tool.findChild<PaintPublicBrightWidget*>();
 };
 
+/// The same chart, with every layer rendered afresh at each change and at each paint.
+class Reference
+{
+public:
+    explicit Reference(const QSize& chart) { push(recordOf(chart)); }
+
+    void push(const TestChartToolsData& record)
+    {
+        m_chart.apply(record);
+        takeSnapshot();
+    }
+    void setOddColor(const QColor& color) { m_chart.basic->setOddColor(color); }
+    void setDiagonalWidth(ushort width) { m_chart.inLine->setDiagonalLineWidth(width); }
+    void setBrightness(ushort percent) { m_chart.veil->setBrightness(percent); }
+    void takeSnapshot() { m_snapshot = QPixmap::fromImage(m_chart.snapshot()); }
+
+private:
+    ReferenceChart m_chart;
+    QPixmap m_snapshot;
+};
+
+template <typename Chart>
 void snapshot(benchmark::State& state)
 {
-    Editor editor(chartSize(state));
+    Chart chart(chartSize(state));
     for (auto _ : state)
-        editor.takeSnapshot();
+        chart.takeSnapshot();
 }
-BENCHMARK(snapshot)->Apply(chartSizes);
+BENCHMARK_TEMPLATE(snapshot, Editor)->Apply(largeCharts);
+BENCHMARK_TEMPLATE(snapshot, Reference)->Apply(largeCharts);
 
-/// `change` gets the editor and whether this change is an odd one.
-template <typename Change>
-void changeAndSnapshot(benchmark::State& state, Change change)
-{
-    Editor editor(chartSize(state));
-    bool odd = false;
-    for (auto _ : state) {
-        change(editor, odd = !odd);
-        editor.takeSnapshot();
-    }
-}
-
+template <typename Chart>
 void changeColor(benchmark::State& state)
 {
-    changeAndSnapshot(state, [](const Editor& editor, bool odd) {
-        editor.find<PaintBasicWidget>()->setOddColor(odd ? Qt::red : Qt::green);
-    });
+    Chart chart(chartSize(state));
+    bool odd = false;
+    for (auto _ : state) {
+        chart.setOddColor((odd = !odd) ? Qt::red : Qt::green);
+        chart.takeSnapshot();
+    }
 }
-BENCHMARK(changeColor)->Apply(chartSizes);
+BENCHMARK_TEMPLATE(changeColor, Editor)->Apply(largeCharts);
+BENCHMARK_TEMPLATE(changeColor, Reference)->Apply(largeCharts);
 
+template <typename Chart>
 void changeLineWidth(benchmark::State& state)
 {
-    changeAndSnapshot(state, [](const Editor& editor, bool odd) {
-        editor.find<PaintInLineWidget>()->setDiagonalLineWidth(odd ? 3 : 5);
-    });
+    Chart chart(chartSize(state));
+    bool odd = false;
+    for (auto _ : state) {
+        chart.setDiagonalWidth((odd = !odd) ? 3 : 5);
+        chart.takeSnapshot();
+    }
 }
-BENCHMARK(changeLineWidth)->Apply(chartSizes);
+BENCHMARK_TEMPLATE(changeLineWidth, Editor)->Apply(largeCharts);
+BENCHMARK_TEMPLATE(changeLineWidth, Reference)->Apply(largeCharts);
 
+template <typename Chart>
 void changeBrightness(benchmark::State& state)
 {
-    changeAndSnapshot(state, [](const Editor& editor, bool odd) {
-        editor.find<PaintPublicBrightWidget>()->setBrightness(odd ? 60 : 80);
-    });
+    Chart chart(chartSize(state));
+    bool odd = false;
+    for (auto _ : state) {
+        chart.setBrightness((odd = !odd) ? 60 : 80);
+        chart.takeSnapshot();
+    }
 }
-BENCHMARK(changeBrightness)->Apply(chartSizes);
+BENCHMARK_TEMPLATE(changeBrightness, Editor)->Apply(largeCharts);
+BENCHMARK_TEMPLATE(changeBrightness, Reference)->Apply(largeCharts);
 
+/// A record that changes something in every layer, up to the snapshot.
+template <typename Chart>
 void pushRecord(benchmark::State& state)
 {
-    Editor editor(chartSize(state));
-    TestChartToolsData record = editor.tool.getTestChartToolsData();
+    Chart chart(chartSize(state));
+    TestChartToolsData record = recordOf(chartSize(state));
     TestChartToolsData other = record;
     other.basicData.oddColor = {255, 0, 0, 255};
     other.publicData.brightness = 80;
@@ -217,16 +259,19 @@ void pushRecord(benchmark::State& state)
     other.inLineData.circleWidth = 7;
     other.selfData.selfTextSize = 30;
     for (auto _ : state) {
-        editor.tool.setTestChartToolsData(other);
+        chart.push(other);
         std::swap(record, other);
     }
 }
-BENCHMARK(pushRecord)->Apply(chartSizes);
+BENCHMARK_TEMPLATE(pushRecord, Editor)->Apply(largeCharts);
+BENCHMARK_TEMPLATE(pushRecord, Reference)->Apply(largeCharts);
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
