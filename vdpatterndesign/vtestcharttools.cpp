@@ -6,6 +6,7 @@
 #include "common/inputkeeper.h"
 #include "common/layerstack.h"
 #include "common/previewfit.h"
+#include "common/recordlayers.h"
 #include "common/resources.h"
 #include "common/swatch.h"
 #include "common/translation.h"
@@ -562,6 +563,20 @@ void VTestChartTools::setTestChartToolsData(TestChartToolsData data)
     d->pushing = false;
     if (d->captureWanted)
         d->captureAndDisplay();
+}
+
+void VTestChartTools::applyRecord(const TestChartToolsData& record)
+{
+    setTestChartToolsData(record);
+    d->layers.setHeld(true);
+    showRecord(getTestChartToolsData(), d->layers);
+    d->layers.setHeld(false);
+    d->captureAndDisplay();
+}
+
+QImage VTestChartTools::chartImage()
+{
+    return d->imageForSaving();
 }
 
 void VTestChartTools::setSavePath(const QString& root, const QString& name)

@@ -3,6 +3,7 @@
 #include "testcharttoolsdata.h"
 #include "vdpatterndesign_export.h"
 
+#include <QImage>
 #include <QWidget>
 
 #include <memory>
@@ -31,6 +32,13 @@ public:
     /// Shows `data`. Values outside a control's range are cut to it. While `isShowForAdd()`, the colour bar
     /// gets its default colours instead of the record's.
     void setTestChartToolsData(TestChartToolsData data);
+
+    /// Shows `record` as `setTestChartToolsData` does, and then gives every layer every value that the
+    /// controls show. The picture is decided by the record alone, whatever was shown before.
+    void applyRecord(const TestChartToolsData& record);
+
+    /// The composed chart in the size of its resolution, opaque, as it is saved.
+    QImage chartImage();
 
     /// `root`: the folder below which every saved chart gets a folder of its own. `name`: for
     /// `slotSaveImage`.

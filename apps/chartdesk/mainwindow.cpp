@@ -243,7 +243,7 @@ void MainWindow::addChart()
     m_editedImage.clear();
     m_editor->setShowForAdd(true);
     m_editor->setTestImageNum(ChartFolderList::nextNumber(m_folder));
-    m_editor->setTestChartToolsData(TestChartToolsData());
+    m_editor->applyRecord(TestChartToolsData());
     m_editor->updateShowSaveBtnStatus(true);
     openEditor();
 }
@@ -266,7 +266,7 @@ void MainWindow::editChart(const QString& imagePath)
     m_editor->setShowForAdd(false);
     m_editor->setCurrentEditNum(QFileInfo(imagePath).fileName());
     m_editor->setLastSavePath(imagePath);
-    m_editor->setTestChartToolsData(reading.record);
+    m_editor->applyRecord(reading.record);
     openEditor();
 }
 
