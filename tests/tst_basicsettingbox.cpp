@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -869,6 +870,29 @@ private Q_SLOTS:
         QCOMPARE(d.heard, basicOnce);
         VD_COMPARE_IMAGES(d.picture(), stripes(left));
         QTRY_VERIFY(!dialog);
+    }
+
+    void theConfirmationStaysOnTheScreen()
+    {
+        Desk d;
+        QVERIFY(d.show());
+        d.useColors(defaults);
+        auto* const button = d.named("CancleButton");
+        const QRect screen = d.window.screen()->availableGeometry();
+        const QPoint corner = button->mapTo(&d.window, button->rect().bottomRight());
+        const QPoint frame = d.window.geometry().topLeft() - d.window.pos();
+        d.window.move(screen.bottomRight() - corner - frame);
+        QTRY_COMPARE(button->mapToGlobal(button->rect().bottomRight()), screen.bottomRight());
+
+        d.clickItem(1);
+        d.click(button);
+        const QPointer<CustomDialog> dialog = Desk::confirmation();
+        QVERIFY(dialog);
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        QCOMPARE(dialog->geometry().bottomRight(), screen.bottomRight());
+        Desk::answer(dialog, "confirmBtn");
+        QTRY_VERIFY(!dialog);
+        QCOMPARE(d.list()->count(), defaults.size() - 1);
     }
 
     void withoutConfirmationNothingIsDeleted_data()

@@ -1,6 +1,7 @@
 #include "basicsettingbox.h"
 
 #include "common/colorlist.h"
+#include "common/moverange.h"
 #include "common/settingrows.h"
 #include "common/swatch.h"
 #include "customdialog.h"
@@ -11,12 +12,14 @@
 #include <QColorDialog>
 #include <QEvent>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStackedWidget>
 
 namespace vardeno::testcharttools {
@@ -78,6 +81,14 @@ void frameCurrentItem(QListWidget* list, const QString& style)
         list->item(row)->setBackground(list->item(row)->background());
     if (const QListWidgetItem* current = list->currentItem())
         list->setStyleSheet(style.arg(current->background().color().name()));
+}
+
+/// Where a window of `size` opens beside `button`: on its right, and no farther than the screen goes.
+QPoint placeBeside(const QWidget* button, const QSize& size)
+{
+    const QScreen* screen = QGuiApplication::screenAt(button->mapToGlobal(button->rect().center()));
+    const QRect range = (screen ? screen : button->screen())->availableGeometry();
+    return keptInRange(button->mapToGlobal(QPoint(button->width(), 0)), size, range);
 }
 
 } // namespace
@@ -465,7 +476,7 @@ void BasicSettingBox::Impl::showConfigDialog()
     auto* dialog = new CustomDialog;
     dialog->setDialogStyleSheet(dialogStyleSheet);
     connect(dialog, &CustomDialog::configDelete, this, &Impl::slotColorStripeRemoveColor);
-    dialog->move(removeButton->mapToGlobal(QPoint(removeButton->width(), 0)));
+    dialog->move(placeBeside(removeButton, dialog->size()));
     dialog->show();
     dialog->raise();
 }
