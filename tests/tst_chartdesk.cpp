@@ -101,6 +101,29 @@ private Q_SLOTS:
         QCOMPARE(int(reading.record.basicData.colorStripeColors.size()), 5);
     }
 
+    void aListedChartShowsItsOwnColors()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(addChart(window));
+        auto* list = window.findChild<QListWidget*>(QStringLiteral("chartList"));
+        QTRY_VERIFY(!list->item(0)->icon().isNull());
+        const QRect cell = list->visualItemRect(list->item(0));
+        QVERIFY(cell.left() < 10);
+        const QRect picture(cell.left() + 12, cell.top() + 12, 240, 135);
+        const QImage calm = list->viewport()->grab(picture).toImage();
+        const QPixmap thumbnail = list->item(0)->icon().pixmap(picture.size());
+        VD_COMPARE_IMAGES(calm, thumbnail.toImage().convertToFormat(calm.format()));
+
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
+        QVERIFY(list->item(0)->isSelected());
+        VD_COMPARE_IMAGES(list->viewport()->grab(picture).toImage(), calm);
+        const QPoint frame = cell.topLeft() + QPoint(cell.width() / 2, 4);
+        QCOMPARE(list->viewport()->grab().toImage().pixelColor(frame),
+                 list->palette().color(QPalette::Highlight));
+    }
+
     void numbersGoOn()
     {
         QTemporaryDir folder;

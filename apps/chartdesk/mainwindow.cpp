@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "chartdelegate.h"
 #include "chartfolderlist.h"
 #include "hosttext.h"
 #include "languages.h"
@@ -35,7 +36,6 @@ enum Page
     EditorPage
 };
 
-constexpr QSize thumbnailSize(240, 135);
 constexpr int imagePathRole = Qt::UserRole;
 constexpr int thumbnailWantedRole = Qt::UserRole + 1;
 
@@ -51,9 +51,9 @@ QString chartTitle(const QFileInfo& chart)
 QIcon thumbnail(const QString& imagePath)
 {
     QImageReader reader(imagePath);
-    const QSize size = reader.size().scaled(thumbnailSize, Qt::KeepAspectRatio);
+    const QSize size = reader.size().scaled(ChartDelegate::pictureSize, Qt::KeepAspectRatio);
     reader.setScaledSize(size.expandedTo(QSize(1, 1)));
-    QPixmap canvas(thumbnailSize);
+    QPixmap canvas(ChartDelegate::pictureSize);
     canvas.fill(Qt::black);
     QPainter painter(&canvas);
     painter.drawImage((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2,
@@ -77,6 +77,7 @@ MainWindow::MainWindow(const QString& folder)
     m_pages->addWidget(createListPage());
     m_pages->addWidget(createEditorPage());
     setCentralWidget(m_pages);
+    statusBar(); // made later, it would push the editor aside
     createActions();
     loadLanguages();
 
@@ -152,9 +153,9 @@ QWidget* MainWindow::createListPage()
     m_list->setViewMode(QListView::IconMode);
     m_list->setResizeMode(QListView::Adjust);
     m_list->setMovement(QListView::Static);
-    m_list->setIconSize(thumbnailSize);
-    m_list->setGridSize(thumbnailSize + QSize(24, 56));
-    m_list->setWordWrap(true);
+    m_list->setItemDelegate(new ChartDelegate(m_list));
+    m_list->setMouseTracking(true); // a chart under the pointer shows itself
+    m_list->setFrameShape(QFrame::NoFrame);
     layout->addWidget(m_list, 1);
     return page;
 }
@@ -215,7 +216,6 @@ void MainWindow::listCharts()
         auto* item = new QListWidgetItem(chartTitle(chart), m_list);
         item->setData(imagePathRole, chart.filePath());
         item->setData(thumbnailWantedRole, true);
-        item->setTextAlignment(Qt::AlignHCenter);
         if (chart.filePath() == selectedPath)
             m_list->setCurrentItem(item);
     }

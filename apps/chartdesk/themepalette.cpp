@@ -33,5 +33,6 @@ QPalette themePalette()
     palette.setColor(QPalette::PlaceholderText, fadedText);
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, fadedText);
+    palette.setColor(QPalette::Disabled, QPalette::Light, Qt::transparent); // no shadow below faded texts
     return palette;
 }

@@ -1,0 +1,47 @@
+#include "chartdelegate.h"
+
+#include <QIcon>
+#include <QPainter>
+
+namespace {
+
+constexpr int gap = 4;     ///< around a chart's frame
+constexpr int padding = 8; ///< inside it
+constexpr int titleLines = 2;
+
+/// The frame that tells a selected chart, and one under the pointer.
+void drawFrame(QPainter* painter, const QStyleOptionViewItem& option, const QRect& frame)
+{
+    const bool selected = option.state & QStyle::State_Selected;
+    if (!selected && !(option.state & QStyle::State_MouseOver))
+        return;
+    painter->setPen(selected ? QPen(option.palette.highlight(), 2) : QPen(Qt::NoPen));
+    painter->setBrush(selected ? option.palette.button() : option.palette.window());
+    painter->drawRoundedRect(frame, 4, 4);
+}
+
+} // namespace
+
+void ChartDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const
+{
+    const QRect frame = option.rect.adjusted(gap, gap, -gap, -gap);
+    QRect place(QPoint(), pictureSize);
+    place.moveCenter(frame.center());
+    place.moveTop(frame.top() + padding);
+    const QRect title = frame.adjusted(0, pictureSize.height() + 2 * padding, 0, 0);
+
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    drawFrame(painter, option, frame);
+    painter->drawPixmap(place, index.data(Qt::DecorationRole).value<QIcon>().pixmap(pictureSize));
+    painter->setPen(option.palette.color(QPalette::Text));
+    painter->drawText(title, Qt::AlignHCenter | Qt::AlignTop, index.data().toString());
+    painter->restore();
+}
+
+QSize ChartDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
+{
+    const int margin = gap + padding;
+    return pictureSize + QSize(2 * margin, 2 * margin + padding + titleLines * option.fontMetrics.height());
+}
