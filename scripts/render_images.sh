@@ -22,9 +22,13 @@ looks() {
     icon_zuo | icon_you) echo "_nor=$calm _dis=$dimmed _hov=$hover _pre=$pressed" ;;
     radioBtn_selected) echo "_normal=$accent _hover=$hover _disabled=$dimmed _pressed=$pressed" ;;
     radioBtn_unselected) echo "_normal=$calm _hover=$hover _disabled=$dimmed _pressed=$pressed" ;;
-    radioBtn_checked | Switch_on | icon_ask) echo "=$accent" ;;
+    Switch_on) echo "=$accent _dis=$accent;opacity:.45" ;;
+    Switch_off) echo "=$track _dis=$track;opacity:.45" ;;
+    Switch_off_focus) echo "=$track" ;;
+    radioBtn_checked | Switch_on_focus | icon_ask) echo "=$accent" ;;
     icon_checked) echo "=$hover" ;;
-    Switch_off) echo "=$track" ;;
+    icon_input_clear) echo "_normal=$calm _dis=$dimmed" ;;
+    icon_reset | icon_spin_* | icon_combo_down) echo "=$calm _dis=$dimmed" ;;
     *) echo "=$calm" ;;
   esac
 }

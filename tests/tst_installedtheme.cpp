@@ -4,13 +4,16 @@
 #include <customcolordialog.h>
 #include <customdialog.h>
 #include <floatdockwidget.h>
+#include <searchedit.h>
 #include <theme.h>
 #include <theming.h>
 #include <titlewidget.h>
+#include <vlineedit.h>
 #include <vtestcharttools.h>
 
 #include <QDir>
 #include <QListWidget>
+#include <QPainter>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -36,6 +39,14 @@ struct Host
     VTestChartTools* tool = new VTestChartTools(&page);
 };
 
+/// The colour of the frame that is seen at the left edge of the first panel.
+QColor panelFrame(VTestChartTools* tool)
+{
+    tool->grab(); // lays out
+    const QImage section = tool->findChild<BasicSettingBox*>()->parentWidget()->grab().toImage();
+    return section.pixelColor(0, section.height() / 2);
+}
+
 /// What an editor in an installation of its own looks like, line by line.
 int reportTheme()
 {
@@ -45,6 +56,7 @@ int reportTheme()
     out << "text " << Theming::themeValues().value(QStringLiteral("Text01")).value<QColor>().name() << '\n';
     out << "sheet " << host.tool->styleSheet().section(QLatin1Char('\n'), 0, 0) << '\n';
     out << "length " << host.tool->styleSheet().size() << '\n';
+    out << "frame " << panelFrame(host.tool).name() << '\n';
     out << "picker " << (host.tool->findChild<CustomColorDialog*>()->styleSheet() == host.tool->styleSheet())
         << '\n';
     return 0;
@@ -110,9 +122,8 @@ private Q_SLOTS:
         QVERIFY(writeFile(themeFolder() + QLatin1String("/b.qss"), "QLabel{color:red;}"));
         QVERIFY(writeFile(themeFolder() + QLatin1String("/a.qss"),
                           "QLabel{color:testcharttools.theme.color.Text01;}"));
-        QCOMPARE(report(),
-                 QStringLiteral(
-                     "name unnamed\ntext #010203\nsheet QLabel{color:#010203;}\nlength 22\npicker 1\n"));
+        QCOMPARE(report(), QStringLiteral("name unnamed\ntext #010203\nsheet QLabel{color:#010203;}\nlength "
+                                          "22\nframe #535465\npicker 1\n"));
     }
 
     void theLightExampleWins()
@@ -123,6 +134,7 @@ private Q_SLOTS:
             QFile::copy(QLatin1String(VD_SOURCE_DIR "/examples/themes/light") + name, themeFolder() + name));
         const QString told = report();
         QVERIFY2(told.startsWith(QLatin1String("name Light\ntext #26262c\n")), qPrintable(told));
+        QVERIFY2(told.contains(QLatin1String("\nframe #b9bac6\n")), qPrintable(told));
     }
 
     void everyPlaceholderIsReplaced()
@@ -181,6 +193,26 @@ private Q_SLOTS:
         const FloatDockWidget dock(QStringLiteral("any"));
         QVERIFY(dock.styleSheet().startsWith(QLatin1String("/* The look of")));
         QCOMPARE(dock.findChild<TitleWidget*>()->styleSheet(), dock.styleSheet());
+    }
+
+    void clearButtonsShowTheThemesPicture()
+    {
+        const FloatDockWidget dock(QStringLiteral("any"));
+        QWidget window;
+        window.setStyleSheet(dock.styleSheet());
+        auto* number = new VLineEdit(&window);
+        auto* search = new SearchEdit(&window);
+        const QPixmap picture(QStringLiteral(":/resources/images/icon_input_clear_normal.png"));
+        for (QWidget* entry : {static_cast<QWidget*>(number), static_cast<QWidget*>(search)}) {
+            auto* button = entry->findChild<QPushButton*>();
+            const QImage shown = button->grab().toImage();
+            QImage expected(shown.size(), shown.format());
+            expected.fill(shown.pixelColor(0, 0));
+            QRect place(QPoint(), picture.size());
+            place.moveCenter(expected.rect().center());
+            QPainter(&expected).drawPixmap(place, picture);
+            VD_COMPARE_IMAGES(shown, expected);
+        }
     }
 
     void aThemeOutlivesItsWindows()
