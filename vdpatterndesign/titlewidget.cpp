@@ -22,6 +22,7 @@ TitleWidget::TitleWidget(QWidget* parent)
 {
     ensureResources();
     setObjectName(QStringLiteral("titleWidget"));
+    setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QStringLiteral("#titleWidget { background-color: FF16161B;}"));
     m_minimise = createButton("btnMinSize", QStringLiteral("small"), QStringLiteral("icon_pop_min_nor"));
     m_lock = createButton("btnShow", QStringLiteral("fixed"), QStringLiteral("icon_pop_pin_nor"));
