@@ -118,6 +118,49 @@ private Q_SLOTS:
         }
     }
 
+    void tinyBoxes_data()
+    {
+        QTest::addColumn<int>("alignment");
+        QTest::newRow("left, top") << int(Qt::AlignLeft | Qt::AlignTop);
+        QTest::newRow("centre") << int(Qt::AlignCenter);
+        QTest::newRow("right, bottom") << int(Qt::AlignRight | Qt::AlignBottom);
+        QTest::newRow("left, centre") << int(Qt::AlignLeft | Qt::AlignVCenter);
+        QTest::newRow("right, centre") << int(Qt::AlignRight | Qt::AlignVCenter);
+    }
+
+    /// Where a text takes about as much room as its box has.
+    void tinyBoxes()
+    {
+        QFETCH(int, alignment);
+        const QStringList texts = {QStringLiteral("1"), QStringLiteral("J-"), QStringLiteral("W7"),
+                                   QStringLiteral("f-12"), QStringLiteral("24-A")};
+        for (int pixelSize = 1; pixelSize <= 16; ++pixelSize) {
+            std::vector<QRect> boxes;
+            for (int width = 0; width <= 30; ++width) {
+                for (int height = 0; height <= 20; ++height)
+                    boxes.emplace_back(width * 32, height * 32, width, height);
+            }
+            const auto drawBoxes = [&](auto drawText) {
+                for (std::size_t i = 0; i < boxes.size(); ++i)
+                    drawText(boxes[i], texts.at(int(i) % texts.size()));
+            };
+            const QImage expected = drawn({1000, 700}, pixelSize, [&](QPainter& painter) {
+                drawBoxes(
+                    [&](const QRect& box, const QString& text) { painter.drawText(box, alignment, text); });
+            });
+            const QImage batched = drawn({1000, 700}, pixelSize, [&](QPainter& painter) {
+                TextBatch batch(painter);
+                drawBoxes([&](const QRect& box, const QString& text) {
+                    batch.add(box, alignment, text.left(2), text.mid(2));
+                });
+                batch.draw();
+            });
+            const QString difference = imageDifference(batched, expected);
+            QVERIFY2(difference.isEmpty(),
+                     qPrintable(QStringLiteral("%1 pixels: %2").arg(pixelSize).arg(difference)));
+        }
+    }
+
     void anyText_data()
     {
         QTest::addColumn<QString>("text");
