@@ -51,6 +51,7 @@ public:
         record.inLineData.circleWidth = 3;
         record.inLineData.diagonalWidth = 11;
         record.selfData.selfTextSize = record.selfData.resolutionTextSize = 20;
+        record.logoData.textSize = 20;
         apply(record);
     }
 
@@ -189,15 +190,16 @@ private:
     template <typename Pair>
     void grid(Pair pair)
     {
-        number("rows", pair, 1, 40, [](auto& layer, int rows) { layer.setRows(ushort(rows)); });
-        number("columns", pair, 1, 40, [](auto& layer, int columns) { layer.setColumns(ushort(columns)); });
+        const auto count = [this] { return random.cabinets(); };
+        add("rows", pair, count, [](auto& layer, int rows) { layer.setRows(ushort(rows)); });
+        add("columns", pair, count, [](auto& layer, int columns) { layer.setColumns(ushort(columns)); });
     }
     template <typename Pair>
     void placement(Pair pair)
     {
         choice("logo anchor", pair, 5, [](auto& layer, int index) { layer.setPosition(index); });
-        number("logo x", pair, -100, 400, [](auto& layer, int x) { layer.setMoveX(x); });
-        number("logo y", pair, -100, 400, [](auto& layer, int y) { layer.setMoveY(y); });
+        number("logo x", pair, -40, 100, [](auto& layer, int x) { layer.setMoveX(x); });
+        number("logo y", pair, -40, 100, [](auto& layer, int y) { layer.setMoveY(y); });
         number("logo opacity", pair, 0, 100, [](auto& layer, int percent) { layer.setOpacity(percent); });
     }
 
@@ -257,7 +259,7 @@ void Changes::addInLine()
     flag("circles", inLine, [](auto& layer, bool on) { layer.setCircleVisible(on); });
     color("circle colour", inLine, [](auto& layer, const QColor& color) { layer.setCircleColor(color); });
     number("circle width", inLine, 0, 100, [](auto& layer, int w) { layer.setCircleLineWidth(ushort(w)); });
-    number("radius", inLine, 0, 400, [](auto& layer, int radius) { layer.setCircleRadius(ushort(radius)); });
+    number("radius", inLine, 0, 100, [](auto& layer, int radius) { layer.setCircleRadius(ushort(radius)); });
     number("large radius", inLine, 12000, 65535,
            [](auto& layer, int radius) { layer.setCircleRadius(ushort(radius)); });
     flag("diagonals", inLine, [](auto& layer, bool on) { layer.setDiagonalVisible(on); });
@@ -266,8 +268,7 @@ void Changes::addInLine()
            [](auto& layer, int width) { layer.setDiagonalLineWidth(ushort(width)); });
     flag("labels", inLine, [](auto& layer, bool on) { layer.setSerialVisible(on); });
     color("label colour", inLine, [](auto& layer, const QColor& color) { layer.setSerialColor(color); });
-    number("label size", inLine, 0, largestText,
-           [](auto& layer, int size) { layer.setSerialSize(ushort(size)); });
+    number("label size", inLine, 0, 24, [](auto& layer, int size) { layer.setSerialSize(ushort(size)); });
     choice("label mode", inLine, 3, [](auto& layer, int mode) { layer.setSerialMode(uint(mode)); });
     choice("label sort", inLine, 4, [](auto& layer, int sort) { layer.setSerialSort(uint(sort)); });
     choice("label position", inLine, 3,
@@ -282,8 +283,7 @@ void Changes::addSequence()
     color("grid colour", sequence, [](auto& layer, const QColor& color) { layer.setRowColColor(color); });
     flag("sequence", sequence, [](auto& layer, bool on) { layer.setSequeVisible(on); });
     color("sequence colour", sequence, [](auto& layer, const QColor& color) { layer.setSequeColor(color); });
-    number("sequence size", sequence, 0, largestText,
-           [](auto& layer, int size) { layer.setSequeSize(ushort(size)); });
+    number("sequence size", sequence, 0, 24, [](auto& layer, int size) { layer.setSequeSize(ushort(size)); });
     choice("sequence mode", sequence, 3, [](auto& layer, int mode) { layer.setShowModel(mode); });
     choice("sequence sort", sequence, 4, [](auto& layer, int sort) { layer.setSortType(sort); });
     choice("sequence place", sequence, 3, [](auto& layer, int place) { layer.setLocation(place); });
@@ -314,14 +314,14 @@ void Changes::addLogos()
 {
     const auto ofPicture = both<PaintPicLogoWidget>(charts.reference.pictureLogo);
     placement(ofPicture);
-    number("logo scale", ofPicture, 0, 200, [](auto& layer, int percent) { layer.setScale(percent); });
+    number("logo scale", ofPicture, 0, 120, [](auto& layer, int percent) { layer.setScale(percent); });
     add(
         "logo picture", ofPicture, [this] { return random.picture(); },
         [](auto& layer, const std::string& path) { layer.setPicPath(path); });
     const auto ofText = both<PaintTextLogoWidget>(charts.reference.textLogo);
     placement(ofText);
     add(
-        "logo text", ofText, [this] { return random.text(30); },
+        "logo text", ofText, [this] { return random.text(8); },
         [](auto& layer, const QString& text) { layer.setText(text); });
     color("logo colour", ofText, [](auto& layer, const QColor& color) { layer.setTextColor(color); });
     number("logo text size", ofText, 0, largestText,
@@ -433,7 +433,7 @@ private Q_SLOTS:
         charts.leaveDefaults();
         RandomRecords random(20241108, pictures(), limits);
         Changes changes(charts, random, changingPicture());
-        for (int i = 0; i < 1200; ++i) {
+        for (int i = 0; i < 1500; ++i) {
             const QString change = changes.makeOne();
             charts.tool.slotGetHeightWidth();
             const QString difference = charts.difference();
