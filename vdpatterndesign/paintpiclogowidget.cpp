@@ -1,10 +1,10 @@
 #include "paintpiclogowidget.h"
 
+#include "common/defaultlogo.h"
 #include "common/imagefile.h"
 #include "common/logoplacement.h"
 #include "common/translation.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QFileDialog>
@@ -16,12 +16,6 @@
 namespace vardeno::testcharttools {
 
 namespace {
-
-QString defaultPicture()
-{
-    return QCoreApplication::applicationDirPath() +
-           QLatin1String("/../share/themes/images/default/testcharttools/logo_1025.png");
-}
 
 /// The folder of the uploaded pictures; created if need be.
 QString uploadFolder()
@@ -70,7 +64,7 @@ std::string PaintPicLogoWidget::picPath() const
 
 bool PaintPicLogoWidget::showsDefaultPicLogo() const
 {
-    return d->path() == defaultPicture();
+    return d->path() == defaultLogo();
 }
 
 void PaintPicLogoWidget::setPosition(int index)
@@ -117,7 +111,7 @@ void PaintPicLogoWidget::setScale(int percent)
 
 void PaintPicLogoWidget::setDefaultPicLogo()
 {
-    d->picPath = defaultPicture().toStdString();
+    d->picPath = defaultLogo().toStdString();
     const QPixmap whole = QPixmap::fromImage(d->picture.load(d->path()));
     qDebug() << Q_FUNC_INFO << "picPixmap isNull:" << whole.isNull();
     qDebug() << Q_FUNC_INFO << "picPixmap isNull:" << width();
@@ -158,7 +152,7 @@ void PaintPicLogoWidget::translateTitle()
 void PaintPicLogoWidget::renderPicture()
 {
     const QImage& image = d->picture.load(d->path());
-    const QSize scaled(int(float(image.width()) * d->scale), int(float(image.height()) * d->scale));
+    const QSize scaled = scaledPicture(image.size(), d->scale);
     QPixmap logo;
     if (!image.isNull()) // scaling none would warn
         logo = QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));

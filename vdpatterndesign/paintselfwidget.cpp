@@ -1,6 +1,6 @@
 #include "paintselfwidget.h"
 
-#include "common/fittedtext.h"
+#include "common/chartlines.h"
 #include "common/translation.h"
 #include "testcharttoolsdata.h"
 
@@ -12,8 +12,7 @@ class PaintSelfWidget::Impl : public QObject
 {
 public:
     QString infoText(const QSize& size) const;
-    int drawLine(QPainter& painter, const QSize& size, const QString& text, int requested,
-                 const QColor& color, int below) const;
+    static int drawLine(QPainter& painter, const ChartLine& line, const QString& text, const QColor& color);
 
     bool selfTextVisible = true;
     bool boxNumVisible = true;
@@ -34,23 +33,19 @@ public:
 
 QString PaintSelfWidget::Impl::infoText(const QSize& size) const
 {
-    const QString resolution =
-        resolutionCaption + QStringLiteral(":%1*%2").arg(size.width()).arg(size.height());
     if (!boxNumVisible)
-        return resolution;
-    return resolution + QLatin1Char(' ') + boxNumCaption + QLatin1Char(':') +
-           QString::number(quint32(rows) * columns);
+        return informationText(size, resolutionCaption);
+    return informationText(size, resolutionCaption, boxNumCaption, quint32(rows) * columns);
 }
 
-/// Draws `text` with its baseline half its height and `below` under the origin, and returns its fitted size.
-int PaintSelfWidget::Impl::drawLine(QPainter& painter, const QSize& size, const QString& text, int requested,
-                                    const QColor& color, int below) const
+/// Draws `text` from the origin, and returns its fitted size.
+int PaintSelfWidget::Impl::drawLine(QPainter& painter, const ChartLine& line, const QString& text,
+                                    const QColor& color)
 {
-    const FittedText fitted = fitText(text, requested, size.width(), size.height());
     painter.setPen(color);
-    painter.setFont(fitted.font);
-    painter.drawText(-(fitted.advance / 2), below + fitted.height / 2, text);
-    return fitted.pixelSize;
+    painter.setFont(line.fitted.font);
+    painter.drawText(line.at, text);
+    return line.fitted.pixelSize;
 }
 
 PaintSelfWidget::PaintSelfWidget(QWidget* parent)
@@ -134,13 +129,15 @@ void PaintSelfWidget::retranslate()
 
 void PaintSelfWidget::draw(QPainter& painter, const QSize& size)
 {
-    const int middle = size.width() / 2;
-    painter.translate(middle, size.height() / 1.5);
+    painter.translate(chartLinesOrigin(size));
     if (d->selfTextVisible)
-        d->fittedSelfTextSize = d->drawLine(painter, size, d->selfText, d->selfTextSize, d->selfTextColor, 0);
-    if (d->resolutionVisible)
-        d->fittedResolutionSize = d->drawLine(painter, size, d->infoText(size), d->resolutionSize,
-                                              d->resolutionColor, size.height() / 6);
+        d->fittedSelfTextSize = Impl::drawLine(painter, customTextLine(size, d->selfText, d->selfTextSize),
+                                               d->selfText, d->selfTextColor);
+    if (d->resolutionVisible) {
+        const QString text = d->infoText(size);
+        d->fittedResolutionSize =
+            Impl::drawLine(painter, informationLine(size, text, d->resolutionSize), text, d->resolutionColor);
+    }
 }
 
 void PaintSelfWidget::showEvent(QShowEvent* event)

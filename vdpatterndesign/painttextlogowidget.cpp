@@ -1,9 +1,7 @@
 #include "painttextlogowidget.h"
 
-#include "common/fittedtext.h"
 #include "common/logoplacement.h"
 
-#include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
@@ -86,16 +84,14 @@ void PaintTextLogoWidget::draw(QPainter& painter, const QSize& size)
 {
     // Not rounded: full opacity gives 254. It is meant.
     d->color.setAlpha(std::clamp(int(d->opacity * 2.55), 0, 255));
-    const FittedText fitted = fitText(d->text, d->textSize, size.width() * 0.8, size.height() * 0.8);
-    d->fittedSize = fitted.pixelSize;
-    const TextExtent extent{fitted.advance, fitted.height, QFontMetrics(fitted.font).lineWidth()};
-    const LogoPlacement placement = placedText(size, extent, d->position, {d->moveX, d->moveY});
-    d->applied = placement.applied;
+    const TextLogo logo = placedTextLogo(size, d->text, d->textSize, d->position, {d->moveX, d->moveY});
+    d->fittedSize = logo.fitted.pixelSize;
+    d->applied = logo.placement.applied;
 
     painter.translate(QPoint(size.width() / 2, size.height() / 2));
     painter.setPen(d->color);
-    painter.setFont(fitted.font);
-    painter.drawText(placement.at, d->text);
+    painter.setFont(logo.fitted.font);
+    painter.drawText(logo.placement.at, d->text);
 }
 
 void PaintTextLogoWidget::showEvent(QShowEvent* event)

@@ -1,5 +1,7 @@
 #include "common/logoplacement.h"
 
+#include <QFontMetrics>
+
 #include <cstdint>
 
 namespace vardeno::testcharttools {
@@ -56,6 +58,11 @@ int keptPicture(int side, float length, int origin, int adjustment)
 
 } // namespace
 
+QSize scaledPicture(const QSize& size, float scale)
+{
+    return {int(float(size.width()) * scale), int(float(size.height()) * scale)};
+}
+
 LogoPlacement placedPicture(const QSize& chart, const QSize& picture, int anchor, const QPoint& adjustment)
 {
     const auto w = float(picture.width());
@@ -92,6 +99,14 @@ LogoPlacement placedText(const QSize& chart, const TextExtent& text, int anchor,
     const int y0 = anchor == Center ? text.height / 2 : isUp(anchor) ? int(top) : isDown(anchor) ? bottom : 0;
     const QPoint at(kept(x0, adjustment.x(), left, right), kept(y0, adjustment.y(), top, bottom));
     return {at, at - QPoint(x0, y0)};
+}
+
+TextLogo placedTextLogo(const QSize& chart, const QString& text, int requested, int anchor,
+                        const QPoint& adjustment)
+{
+    const FittedText fitted = fitText(text, requested, chart.width() * 0.8, chart.height() * 0.8);
+    const TextExtent extent{fitted.advance, fitted.height, QFontMetrics(fitted.font).lineWidth()};
+    return {fitted, placedText(chart, extent, anchor, adjustment)};
 }
 
 } // namespace vardeno::testcharttools

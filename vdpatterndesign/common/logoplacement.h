@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/fittedtext.h"
+
 #include <QPoint>
 #include <QSize>
 
@@ -12,6 +14,9 @@ struct LogoPlacement
     QPoint at;      ///< a picture's top left corner, a text's baseline start
     QPoint applied; ///< what is left of the user's adjustment after the logo was kept on the chart
 };
+
+/// The size in which a picture of `size` is drawn at `scale`, truncated to whole pixels.
+QSize scaledPicture(const QSize& size, float scale);
 
 /// How far a text reaches, as its font metrics tell it.
 struct TextExtent
@@ -29,5 +34,16 @@ LogoPlacement placedPicture(const QSize& chart, const QSize& picture, int anchor
 
 /// The same for a line of text, which keeps its line width from the edges.
 LogoPlacement placedText(const QSize& chart, const TextExtent& text, int anchor, const QPoint& adjustment);
+
+/// A text logo: what is drawn, and where.
+struct TextLogo
+{
+    FittedText fitted;
+    LogoPlacement placement;
+};
+
+/// Fits `text` into 80 % of the chart's width and height, from `requested` pixels downwards, and places it.
+TextLogo placedTextLogo(const QSize& chart, const QString& text, int requested, int anchor,
+                        const QPoint& adjustment);
 
 } // namespace vardeno::testcharttools
