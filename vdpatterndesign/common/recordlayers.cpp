@@ -1,6 +1,7 @@
 #include "common/recordlayers.h"
 
 #include "common/layerstack.h"
+#include "common/recordcabinets.h"
 #include "paintbasicwidget.h"
 #include "paintinlinewidget.h"
 #include "paintpiclogowidget.h"
@@ -40,9 +41,10 @@ void show(const InLineChartData& data, PaintInLineWidget& layer)
     layer.setSerialVisible(data.showSerialNumber);
     layer.setSerialSize(ushort(data.serialSize));
     layer.setSerialColor(toQColor(data.serialColor));
-    layer.setSerialMode(data.letterMode ? 0 : data.numMode ? 1 : 2);
-    layer.setSerialPosition(uint(data.serialPosition));
-    layer.setSerialSort(uint(data.serialSort));
+    const LabelStyle labels = labelStyle(data);
+    layer.setSerialMode(labels.mode);
+    layer.setSerialPosition(labels.position);
+    layer.setSerialSort(labels.sort);
 }
 
 template <typename Layer>
