@@ -1,0 +1,26 @@
+#pragma once
+
+#include "testcharttoolsdata.h"
+#include "vdpatterndesign_export.h"
+
+#include <QStringList>
+
+namespace vardeno::testcharttools {
+
+/// What a technician should know about a chart record that is valid, but may not show what was meant.
+/// Functions without state and without widgets. They measure texts, so that they need a QGuiApplication with
+/// the fonts that the chart is drawn with, and its thread; the picture of a logo is looked at, not decoded.
+namespace ChartCheck {
+
+/// The smallest font, in chart pixels, whose texts count as readable: a capital letter is seven tenths of its
+/// font high, and below seven rows of pixels letters and digits are no longer told apart. Only texts that had
+/// to be made smaller than they were asked for are told of.
+constexpr int readableTextSize = 10;
+
+/// Each warning names the field, its value and the reason: "publicData.boxCol: 1920 pixels / 7 cabinets leave
+/// a remainder of 2". In the order of the record's groups; none for a chart as it should be.
+VDPATTERNDESIGN_EXPORT QStringList warnings(const TestChartToolsData& record);
+
+} // namespace ChartCheck
+
+} // namespace vardeno::testcharttools
