@@ -294,14 +294,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QJsonValue>("value");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("three components") << QJsonValue(numbers({1, 2, 3})) << "[1,2,3]";
-        QTest::newRow("five components") << QJsonValue(numbers({1, 2, 3, 4, 5})) << "[1,2,3,4,5]";
+        QTest::newRow("three components") << QJsonValue(numbers({1, 2, 3})) << "[1, 2, 3]";
+        QTest::newRow("five components") << QJsonValue(numbers({1, 2, 3, 4, 5})) << "[1, 2, 3, 4, 5]";
         QTest::newRow("no components") << QJsonValue(QJsonArray()) << "[]";
-        QTest::newRow("red below 0") << QJsonValue(numbers({-1, 2, 3, 4})) << "[-1,2,3,4]";
-        QTest::newRow("alpha above 255") << QJsonValue(numbers({1, 2, 3, 256})) << "[1,2,3,256]";
-        QTest::newRow("half a step") << QJsonValue(numbers({1, 2.5, 3, 4})) << "[1,2.5,3,4]";
+        QTest::newRow("red below 0") << QJsonValue(numbers({-1, 2, 3, 4})) << "[-1, 2, 3, 4]";
+        QTest::newRow("alpha above 255") << QJsonValue(numbers({1, 2, 3, 256})) << "[1, 2, 3, 256]";
+        QTest::newRow("half a step") << QJsonValue(numbers({1, 2.5, 3, 4})) << "[1, 2.5, 3, 4]";
         QTest::newRow("a text among them")
-            << QJsonValue(QJsonArray{1, 2, QStringLiteral("3"), 4}) << "[1,2,\"3\",4]";
+            << QJsonValue(QJsonArray{1, 2, QStringLiteral("3"), 4}) << "[1, 2, \"3\", 4]";
         QTest::newRow("a name") << QJsonValue(QStringLiteral("red")) << "\"red\"";
     }
 
@@ -316,7 +316,8 @@ private Q_SLOTS:
         const QJsonArray good = numbers({1, 2, 3, 4});
         const QJsonObject document = with(asObject(fullRecord()), list, QJsonArray{good, value, good});
         QCOMPARE(ChartRecordFile::fromJson(asJson(document)).problems,
-                 QStringList(QStringLiteral("basicData.gradientColors: ") + problem));
+                 QStringList(QStringLiteral("basicData.gradientColors: ") + shown +
+                             QStringLiteral(" (color 2) ") + notColor));
     }
 
     void allProblemsAreReported()
@@ -338,20 +339,40 @@ private Q_SLOTS:
         const QByteArray full = ChartRecordFile::toJson(fullRecord());
         const QString otherFormat = QStringLiteral("^format: testchart expected$");
         const QString otherVersion = QStringLiteral("^version: 1 expected$");
+        const QString newer = QStringLiteral("^version: %1 is newer than 1, the newest that is known$");
         const QString notJson = QStringLiteral("^not JSON: .+ at byte \\d+$");
-        QTest::newRow("empty") << QByteArray() << notJson;
+        const QString notUtf8 = QStringLiteral("^not JSON: not UTF-8$");
+        QTest::newRow("empty") << QByteArray() << "^not JSON: empty$";
         QTest::newRow("cut at the first quarter") << full.left(full.size() / 4) << notJson;
         QTest::newRow("cut in the middle") << full.left(full.size() / 2) << notJson;
         QTest::newRow("cut before the last brace") << full.left(full.lastIndexOf('}')) << notJson;
         QTest::newRow("something after it") << full + "{}" << notJson;
         QTest::newRow("not JSON") << QByteArray("brightness = 100") << notJson;
-        QTest::newRow("an array") << QByteArray("[1, 2]") << otherFormat;
+        QTest::newRow("a BOM alone") << QByteArray("\xef\xbb\xbf") << notJson;
+        QTest::newRow("UTF-16") << QByteArray("\xff\xfe{\0}\0", 6) << notUtf8;
+        for (const char* broken :
+             {"\xc3\x28", "\xff", "\xc0\x80", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\x80"})
+            QTest::newRow(QByteArray("invalid UTF-8 ") + QByteArray(broken).toHex())
+                << QByteArray(full).replace("标志", broken) << notUtf8;
+        QTest::newRow("UTF-8 that breaks off") << full + "\xe6\xa0" << notUtf8;
+        QTest::newRow("a number beyond all numbers") << QByteArray(full).replace("199", "1e999") << notJson;
+        QTest::newRow("not a number") << QByteArray(full).replace("199", "NaN") << notJson;
+        QTest::newRow("a NUL byte") << full + QByteArray(1, '\0') << notJson;
+        QTest::newRow("very deep") << QByteArray(500000, '[') << notJson;
+        QTest::newRow("very deep and closed") << QByteArray(5000, '[') + QByteArray(5000, ']') << notJson;
+        QTest::newRow("an array") << QByteArray("[1, 2]") << "^not an object$";
+        QTest::newRow("more than 1 MiB") << QByteArray(full) + QByteArray((1 << 20) + 1 - full.size(), ' ')
+                                         << "^1048577 bytes are more than 1048576$";
         QTest::newRow("no format") << QByteArray("{\"version\": 1}") << otherFormat;
         QTest::newRow("another format")
             << QByteArray("{\"format\": \"chart\", \"version\": 1}") << otherFormat;
         QTest::newRow("no version") << QByteArray("{\"format\": \"testchart\"}") << otherVersion;
         QTest::newRow("newer version")
-            << QByteArray(full).replace("\"version\": 1", "\"version\": 2") << otherVersion;
+            << QByteArray(full).replace("\"version\": 1", "\"version\": 2") << newer.arg(2);
+        QTest::newRow("much newer version")
+            << QByteArray(full).replace("\"version\": 1", "\"version\": 4294967297") << newer.arg(4294967297);
+        QTest::newRow("version with a fraction")
+            << QByteArray(full).replace("\"version\": 1", "\"version\": 1.5") << otherVersion;
         QTest::newRow("older version")
             << QByteArray(full).replace("\"version\": 1", "\"version\": 0") << otherVersion;
         QTest::newRow("version as a text")
@@ -380,6 +401,157 @@ private Q_SLOTS:
         QVERIFY(reading.record == fullRecord());
         QCOMPARE(contents(path), ChartRecordFile::toJson(fullRecord()));
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void largestDocument()
+    {
+        const QByteArray full = ChartRecordFile::toJson(fullRecord());
+        const QByteArray json = full + QByteArray((1 << 20) - full.size(), ' ');
+        QCOMPARE(ChartRecordFile::fromJson(json).problems, QStringList());
+    }
+
+    void byteOrderMarkIsPassedOver()
+    {
+        const auto reading =
+            ChartRecordFile::fromJson("\xef\xbb\xbf" + ChartRecordFile::toJson(fullRecord()));
+        QCOMPARE(reading.problems, QStringList());
+        QVERIFY(reading.record == fullRecord());
+    }
+
+    void membersThatStandTwice()
+    {
+        const QByteArray json =
+            R"({"format": "testchart", "version": 1, "version": 1, "x": [{"y": 1, "y": 2}],
+            "publicData": {"boxRow": 3, "boxCol": 4, "box\u0052ow": 5}, "logoData": {"boxRow": 6}})";
+        QCOMPARE(ChartRecordFile::fromJson(json).problems,
+                 QStringList({QStringLiteral("version: stands twice"), QStringLiteral("x.y: stands twice"),
+                              QStringLiteral("publicData.boxRow: stands twice")}));
+    }
+
+    void numbersInOtherNotations_data()
+    {
+        QTest::addColumn<QByteArray>("number");
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("a fraction of nothing") << QByteArray("12.0") << "";
+        QTest::newRow("an exponent") << QByteArray("1.2e1") << "";
+        QTest::newRow("the least above it") << QByteArray("12.000000000000002") << "is not a whole number";
+        QTest::newRow("beyond 64 bits") << QByteArray("18446744073709551628") << "is not in 1..100";
+        QTest::newRow("huge") << QByteArray("1e308") << "is not in 1..100";
+        QTest::newRow("minus nothing") << QByteArray("-0") << "is not in 1..100";
+    }
+
+    void numbersInOtherNotations()
+    {
+        QFETCH(QByteArray, number);
+        QFETCH(QString, problem);
+        const auto reading = ChartRecordFile::fromJson(
+            R"({"format": "testchart", "version": 1, "publicData": {"boxRow": )" + number + "}}");
+        QCOMPARE(reading.problems.isEmpty(), problem.isEmpty());
+        QVERIFY(problem.isEmpty() || reading.problems.first().endsWith(problem));
+        QCOMPARE(reading.record.publicData.boxRow, problem.isEmpty() ? 12 : 9);
+    }
+
+    void texts_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("problem");
+        const QString custom = QStringLiteral("selfData.selfText");
+        const QString fifty(50, QLatin1Char('x'));
+        QTest::newRow("as long as the entry") << custom << fifty << "";
+        QTest::newRow("longer than the entry")
+            << custom << fifty + "x" << '"' + fifty + "x\" is longer than 50 characters";
+        QTest::newRow("pairs count as two") << custom << QStringLiteral("🙂").repeated(25) << "";
+        QTest::newRow("longest logo") << "logoData.logoText" << QString(32767, 'x') << "";
+        QTest::newRow("longer, and elided")
+            << "logoData.logoText" << QString(32768, 'x')
+            << '"' + QString(59, 'x') + QStringLiteral("… is longer than 32767 characters");
+        QTest::newRow("longest path") << "logoData.picturePath" << QString(4095, '/') << "";
+        QTest::newRow("longer path") << "logoData.picturePath" << QString(4096, '/')
+                                     << '"' + QString(59, '/') +
+                                            QStringLiteral("… is longer than 4095 characters");
+        QTest::newRow("NUL") << custom << QString(1, QChar()) << "\"\\u0000\" has a character of value 0";
+        QTest::newRow("NUL in a path") << "logoData.picturePath" << QStringLiteral("/a") + QChar() + "b"
+                                       << "\"/a\\u0000b\" has a character of value 0";
+        QTest::newRow("other control characters") << custom << QStringLiteral("\a\t\n\x7f") << "";
+    }
+
+    void texts()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, text);
+        QFETCH(QString, problem);
+        const QJsonObject document = with(asObject(fullRecord()), field, text);
+        const auto reading = ChartRecordFile::fromJson(asJson(document));
+        QCOMPARE(reading.problems, problem.isEmpty() ? QStringList() : QStringList(field + ": " + problem));
+        if (problem.isEmpty())
+            QCOMPARE(asObject(reading.record), document);
+    }
+
+    void halfOfASurrogatePair()
+    {
+        const auto reading = ChartRecordFile::fromJson(
+            R"({"format": "testchart", "version": 1, "selfData": {"selfText": "a\ud83d"}})");
+        QCOMPARE(reading.problems.size(), 1);
+        QVERIFY(reading.problems.first().startsWith(QStringLiteral("selfData.selfText: ")));
+        QVERIFY(reading.problems.first().endsWith(QStringLiteral(" is not Unicode text")));
+    }
+
+    void lengthOfColorLists()
+    {
+        QJsonArray colors;
+        for (int i = 0; i < 4320; ++i)
+            colors.append(numbers({double(i % 256), 1, 2, 3}));
+        const QString field = QStringLiteral("basicData.colorStripeColors");
+        QJsonObject document = with(asObject(fullRecord()), field, colors);
+        const auto reading = ChartRecordFile::fromJson(asJson(document));
+        QCOMPARE(reading.problems, QStringList());
+        QCOMPARE(int(reading.record.basicData.colorStripeColors.size()), 4320);
+        colors.append(numbers({1, 2, 3, 4}));
+        verifyRefused(field, colors, QStringLiteral("4321 colors are more than 4320"));
+    }
+
+    void schemaMemberIsAText()
+    {
+        QJsonObject document = asObject(fullRecord());
+        QCOMPARE(document.value("$schema").toString(), QStringLiteral("chart-record.schema.json"));
+        document.insert(QStringLiteral("$schema"), 3);
+        QCOMPARE(ChartRecordFile::fromJson(asJson(document)).problems,
+                 QStringList(QStringLiteral("$schema: 3 is not a text")));
+        document.remove(QStringLiteral("$schema"));
+        QCOMPARE(ChartRecordFile::fromJson(asJson(document)).problems, QStringList());
+    }
+
+    void documentIsWrittenForPeople()
+    {
+        TestChartToolsData record;
+        record.basicData.gradientColors = {{0, Qt::red}, {1, Qt::blue}};
+        for (int row = 0; row < 5; ++row)
+            record.basicData.colorStripeColors[row] = Qt::white;
+        const QByteArray json = ChartRecordFile::toJson(record);
+        QVERIFY2(json.startsWith(R"({
+  "$schema": "chart-record.schema.json",
+  "format": "testchart",
+  "version": 1,
+  "basicData": {
+    "colorStripeColors": [
+      [255, 255, 255, 255],
+      [255, 255, 255, 255],
+      [255, 255, 255, 255],
+      [255, 255, 255, 255],
+      [255, 255, 255, 255]
+    ],
+    "gradientColors": [[255, 0, 0, 255], [0, 0, 255, 255]],
+    "oddColor": [255, 170, 255, 255],
+    "evenColor": [85, 170, 255, 255],
+    "chessChecked": true,
+)"),
+                 json);
+        QVERIFY2(json.endsWith(R"(    "resolutionTextColor": [0, 0, 100, 255]
+  }
+}
+)"),
+                 json);
     }
 
     void unreadableFiles_data()

@@ -1,127 +1,69 @@
 #include "chartrecordfile.h"
 
+#include "common/jsontext.h"
+#include "common/nearestname.h"
+#include "common/recordfields.h"
+#include "common/recordschema.h"
+#include "common/recordvalues.h"
+
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QSaveFile>
+#include <QTextCodec>
 
-#include <cmath>
+#include <algorithm>
 
 namespace vardeno::testcharttools::ChartRecordFile {
 
 namespace {
 
-constexpr char formatName[] = "testchart";
-constexpr int formatVersion = 1;
-
-/// The fields of each group, with the range of every number: the one table that reader and writer go by.
-template <typename Visitor, typename Data>
-void visitFields(Visitor& visit, Data& record)
-{
-    visit.group("basicData", [&, &data = record.basicData] {
-        visit.field("colorStripeColors", data.colorStripeColors);
-        visit.field("gradientColors", data.gradientColors);
-        visit.field("oddColor", data.oddColor);
-        visit.field("evenColor", data.evenColor);
-        visit.field("chessChecked", data.chessChecked);
-        visit.field("colorBarChecked", data.colorBarChecked);
-        visit.field("gradientChecked", data.gradientChecked);
-    });
-    visit.group("publicData", [&, &data = record.publicData] {
-        visit.field("brightness", data.brightness, 0, 100);
-        visit.field("resolutionWidth", data.resolutionWidth, 16, 4320);
-        visit.field("resolutionHeight", data.resolutionHeight, 16, 4320);
-        visit.field("boxRow", data.boxRow, 1, 100);
-        visit.field("boxCol", data.boxCol, 1, 100);
-        visit.field("showOutBorder", data.showOutBorder);
-        visit.field("outBorderWidth", data.outBorderWidth, 1, 100);
-        visit.field("outBorderColor", data.outBorderColor);
-    });
-    visit.group("inLineData", [&, &data = record.inLineData] {
-        visit.field("showCircle", data.showCircle);
-        visit.field("circleSize", data.circleSize, 1, 16384);
-        visit.field("circleWidth", data.circleWidth, 1, 100);
-        visit.field("circleColor", data.circleColor);
-        visit.field("showDiagonal", data.showDiagonal);
-        visit.field("diagonalWidth", data.diagonalWidth, 1, 100);
-        visit.field("diagonalColor", data.diagonalColor);
-        visit.field("showSerialNumber", data.showSerialNumber);
-        visit.field("serialSize", data.serialSize, 1, 100);
-        visit.field("serialColor", data.serialColor);
-        visit.field("letterMode", data.letterMode);
-        visit.field("numMode", data.numMode);
-        visit.field("combinationMode", data.combinationMode);
-        visit.field("serialPosition", data.serialPosition, 0, 2);
-        visit.field("serialSort", data.serialSort, 0, 3);
-    });
-    visit.group("logoData", [&, &data = record.logoData] {
-        visit.field("showLogo", data.showLogo);
-        visit.field("pictureLogo", data.pictureLogo);
-        visit.field("textLogo", data.textLogo);
-        visit.field("logoText", data.logoText);
-        visit.field("textSize", data.textSize, 0, 100);
-        visit.field("textColor", data.textColor);
-        visit.field("scale", data.scale, 0, 200);
-        visit.field("picturePath", data.picturePath);
-        visit.field("displayPosition", data.displayPosition, 0, 4);
-        visit.field("offsetX", data.offsetX, 0, 16384);
-        visit.field("offsetY", data.offsetY, 0, 16384);
-        visit.field("opacity", data.opacity, 0, 100);
-    });
-    visit.group("selfData", [&, &data = record.selfData] {
-        visit.field("showSelfText", data.showSelfText);
-        visit.field("selfText", data.selfText);
-        visit.field("selfTextSize", data.selfTextSize, 1, 200);
-        visit.field("selfTextColor", data.selfTextColor);
-        visit.field("showResolution", data.showResolution);
-        visit.field("resolutionTextSize", data.resolutionTextSize, 1, 200);
-        visit.field("resolutionTextColor", data.resolutionTextColor);
-    });
-}
+constexpr int largestDocument = 1 << 20; // bytes
+const auto schemaMember = QStringLiteral("$schema");
+const auto formatMember = QStringLiteral("format");
+const auto versionMember = QStringLiteral("version");
 
 class Writer
 {
 public:
-    QJsonObject document{{QStringLiteral("format"), QLatin1String(formatName)},
-                         {QStringLiteral("version"), formatVersion}};
+    explicit Writer(const QJsonObject& original)
+        : document(original)
+    {
+        if (!document.value(schemaMember).isString())
+            document.insert(schemaMember, QLatin1String(recordSchemaName));
+        document.insert(formatMember, QLatin1String(recordFormat));
+        document.insert(versionMember, recordVersion);
+    }
 
     template <typename Fields>
-    void group(const char* name, Fields fields)
+    void group(const char* name, const char*, Fields fields)
     {
-        m_group = QJsonObject();
+        m_group = document.value(QLatin1String(name)).toObject();
         fields();
         document.insert(QLatin1String(name), m_group);
     }
 
-    void field(const char* name, bool value) { insert(name, value); }
-    void field(const char* name, int value, int, int) { insert(name, value); }
-    void field(const char* name, const std::string& value) { insert(name, QString::fromStdString(value)); }
-    void field(const char* name, const RgbaColor& value) { insert(name, array(value)); }
-    void field(const char* name, const std::map<int, QColor>& colors)
+    void field(const char* name, bool value, const char*) { insert(name, value); }
+    void field(const char* name, int value, recordfields::Range, const char*) { insert(name, value); }
+    void field(const char* name, const std::string& value, recordfields::Length, const char*)
     {
-        QJsonArray list;
-        for (const auto& [row, color] : colors)
-            list.append(array(toRgbaColor(color)));
-        insert(name, list);
+        insert(name, QString::fromStdString(value));
+    }
+    template <typename Colors>
+    void field(const char* name, const Colors& value, const char*)
+    {
+        insert(name, recordvalues::toJson(value));
     }
 
+    QJsonObject document;
+
 private:
-    static QJsonArray array(const RgbaColor& color)
-    {
-        return {color.red, color.green, color.blue, color.alpha};
-    }
     void insert(const char* name, const QJsonValue& value) { m_group.insert(QLatin1String(name), value); }
 
     QJsonObject m_group;
 };
-
-/// Shows a value of a document in a message.
-QString shown(const QJsonValue& value)
-{
-    const QByteArray inArray = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(inArray.mid(1, inArray.size() - 2));
-}
 
 class Reader
 {
@@ -133,101 +75,40 @@ public:
     }
 
     template <typename Fields>
-    void group(const char* name, Fields fields)
+    void group(const char* name, const char*, Fields fields)
     {
         m_groupName = QLatin1String(name);
         const QJsonValue value = m_document.value(m_groupName);
         if (!value.isUndefined() && !value.isObject())
-            m_problems.append(QStringLiteral("%1: %2 is not an object").arg(m_groupName, shown(value)));
+            m_problems.append(m_groupName + QLatin1String(": ") + recordvalues::shown(value) +
+                              QLatin1String(" is not an object"));
         m_group = value.toObject();
         fields();
     }
 
-    void field(const char* name, bool& target)
+    template <typename Value>
+    void field(const char* name, Value& target, const char*)
     {
-        const QJsonValue value = find(name);
-        if (value.isBool())
-            target = value.toBool();
-        else
-            refuse(name, value, QStringLiteral("is not true or false"));
+        take(name, target);
     }
 
-    void field(const char* name, int& target, int least, int most)
+    template <typename Value, typename Limit>
+    void field(const char* name, Value& target, Limit limit, const char*)
     {
-        const QJsonValue value = find(name);
-        if (!isWhole(value))
-            refuse(name, value, QStringLiteral("is not a whole number"));
-        else if (value.toDouble() < least || value.toDouble() > most)
-            refuse(name, value, QStringLiteral("is not in %1..%2").arg(least).arg(most));
-        else
-            target = value.toInt();
-    }
-
-    void field(const char* name, std::string& target)
-    {
-        const QJsonValue value = find(name);
-        if (value.isString())
-            target = value.toString().toStdString();
-        else
-            refuse(name, value, QStringLiteral("is not a text"));
-    }
-
-    void field(const char* name, RgbaColor& target)
-    {
-        const QJsonValue value = find(name);
-        if (!readColor(value, target))
-            refuse(name, value, colorExpected());
-    }
-
-    void field(const char* name, std::map<int, QColor>& target)
-    {
-        const QJsonValue value = find(name);
-        if (!value.isArray()) {
-            refuse(name, value, QStringLiteral("is not a list of colors"));
-            return;
-        }
-        const QJsonArray list = value.toArray();
-        for (int row = 0; row < list.size(); ++row) {
-            RgbaColor color;
-            if (readColor(list.at(row), color))
-                target[row] = toQColor(color);
-            else
-                refuse(name, list.at(row), colorExpected());
-        }
+        take(name, target, limit);
     }
 
 private:
-    static QString colorExpected()
-    {
-        return QStringLiteral("is not a color [r, g, b, a] of numbers in 0..255");
-    }
-
-    static bool isWhole(const QJsonValue& value)
-    {
-        return value.isDouble() && std::trunc(value.toDouble()) == value.toDouble();
-    }
-
-    static bool readColor(const QJsonValue& value, RgbaColor& color)
-    {
-        const QJsonArray parts = value.toArray();
-        if (parts.size() != 4)
-            return false;
-        for (const QJsonValue& part : parts) {
-            if (!isWhole(part) || part.toDouble() < 0 || part.toDouble() > 255)
-                return false;
-        }
-        color = {parts.at(0).toInt(), parts.at(1).toInt(), parts.at(2).toInt(), parts.at(3).toInt()};
-        return true;
-    }
-
-    QJsonValue find(const char* name) const { return m_group.value(QLatin1String(name)); }
-
     /// A missing field keeps its default.
-    void refuse(const char* name, const QJsonValue& value, const QString& why)
+    template <typename... Target>
+    void take(const char* name, Target&&... target)
     {
-        if (!value.isUndefined())
-            m_problems.append(
-                QStringLiteral("%1.%2: %3 %4").arg(m_groupName, QLatin1String(name), shown(value), why));
+        const QJsonValue value = m_group.value(QLatin1String(name));
+        if (value.isUndefined())
+            return;
+        for (const QString& reason : recordvalues::take(value, target...))
+            m_problems.append(m_groupName + QLatin1Char('.') + QLatin1String(name) + QLatin1String(": ") +
+                              reason);
     }
 
     const QJsonObject m_document;
@@ -236,53 +117,245 @@ private:
     QJsonObject m_group;
 };
 
-Reading failed(const QString& problem)
+/// Gives one field a value.
+class Setter
 {
-    return {TestChartToolsData(), {problem}};
+public:
+    Setter(const QString& field, const QString& text)
+        : m_field(field)
+        , m_text(text)
+    {
+    }
+
+    template <typename Fields>
+    void group(const char* name, const char*, Fields fields)
+    {
+        m_groupName = QLatin1String(name);
+        fields();
+    }
+
+    void field(const char* name, std::string& target, recordfields::Length longest, const char*)
+    {
+        if (!isMeant(name))
+            return;
+        const QJsonValue json = parsed();
+        reasons = recordvalues::take(json.isString() ? json : m_text, target, longest);
+    }
+
+    void field(const char* name, int& target, recordfields::Range range, const char*)
+    {
+        if (isMeant(name))
+            reasons = recordvalues::take(parsed(), target, range);
+    }
+
+    template <typename Value>
+    void field(const char* name, Value& target, const char*)
+    {
+        if (isMeant(name))
+            reasons = recordvalues::take(parsed(), target);
+    }
+
+    bool found = false;
+    QStringList reasons;
+
+private:
+    bool isMeant(const char* name)
+    {
+        const bool meant = m_field == m_groupName + QLatin1Char('.') + QLatin1String(name);
+        found = found || meant;
+        return meant;
+    }
+
+    /// What is no JSON is taken as a text.
+    QJsonValue parsed() const
+    {
+        const QJsonArray values = QJsonDocument::fromJson('[' + m_text.toUtf8() + ']').array();
+        return values.size() == 1 ? values.first() : QJsonValue(m_text);
+    }
+
+    const QString m_field;
+    const QString m_text;
+    QString m_groupName;
+};
+
+Reading failed(const QString& problem, const QJsonObject& document = {})
+{
+    return {TestChartToolsData(), {problem}, document};
+}
+
+QString tooLarge(qint64 bytes)
+{
+    return QStringLiteral("%1 bytes are more than %2").arg(bytes).arg(largestDocument);
+}
+
+/// Qt's parser takes some broken sequences for characters.
+bool isUtf8(const QByteArray& text)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+/// What forbids to look at the fields.
+QString headProblem(const QJsonObject& document)
+{
+    if (document.value(formatMember) != QJsonValue(QLatin1String(recordFormat)))
+        return QStringLiteral("format: %1 expected").arg(QLatin1String(recordFormat));
+    const QJsonValue version = document.value(versionMember);
+    if (recordvalues::isWhole(version) && version.toDouble() > recordVersion)
+        return QStringLiteral("version: %1 is newer than %2, the newest that is known")
+            .arg(recordvalues::shown(version))
+            .arg(recordVersion);
+    if (version != QJsonValue(recordVersion))
+        return QStringLiteral("version: %1 expected").arg(recordVersion);
+    return {};
+}
+
+QString pictureText(const QJsonObject& document)
+{
+    return document.value(QStringLiteral("logoData"))
+        .toObject()
+        .value(QStringLiteral("picturePath"))
+        .toString();
+}
+
+QString absolutePath(const QString& text, const QString& folder)
+{
+    return QDir::cleanPath(QDir(folder).absoluteFilePath(text));
+}
+
+bool isRelativePath(const QString& text)
+{
+    return !text.isEmpty() && QDir::isRelativePath(text);
+}
+
+bool isSameFile(const QString& a, const QString& b)
+{
+    const QString canonical = QFileInfo(a).canonicalFilePath();
+    return QDir::cleanPath(a) == QDir::cleanPath(b) ||
+           (!canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath());
+}
+
+/// The record as it is stored in `folder`.
+TestChartToolsData storedRecord(TestChartToolsData record, const QString& folder, const QJsonObject& original)
+{
+    const QString text = pictureText(original);
+    const QString path = QString::fromStdString(record.logoData.picturePath);
+    if (isRelativePath(text) && !path.isEmpty() && isSameFile(absolutePath(text, folder), path))
+        record.logoData.picturePath = text.toStdString();
+    return record;
+}
+
+bool isSpecial(const QFileInfo& file)
+{
+    return file.exists() && !file.isFile();
+}
+
+QString saved(const QString& path, const QByteArray& json)
+{
+    if (isSpecial(QFileInfo(path)))
+        return QStringLiteral("not a regular file"); // which a new file would replace
+    QSaveFile file(path);
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.flush() && file.commit();
+    return written ? QString() : file.errorString();
+}
+
+QString unknownField(const QString& field)
+{
+    const QString nearest = nearestName(field, recordFieldNames());
+    return recordvalues::elided(field) + QLatin1String(": unknown field") +
+           (nearest.isEmpty() ? QString() : QStringLiteral(", did you mean %1?").arg(nearest));
 }
 
 } // namespace
 
-QByteArray toJson(const TestChartToolsData& record)
+QByteArray toJson(const TestChartToolsData& record, const QJsonObject& original)
 {
-    Writer writer;
-    visitFields(writer, record);
-    return QJsonDocument(writer.document).toJson();
+    Writer writer(original);
+    recordfields::visit(writer, record);
+    return jsonText(writer.document, recordOrder());
 }
 
-Reading fromJson(const QByteArray& json)
+Reading fromJson(const QByteArray& json, const QString& folder)
 {
+    if (json.size() > largestDocument)
+        return failed(tooLarge(json.size()));
+    if (json.isEmpty())
+        return failed(QStringLiteral("not JSON: empty"));
+    if (!isUtf8(json))
+        return failed(QStringLiteral("not JSON: not UTF-8"));
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
         return failed(QStringLiteral("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset));
+    if (!document.isObject())
+        return failed(QStringLiteral("not an object"));
     const QJsonObject root = document.object();
-    if (root.value(QStringLiteral("format")) != QJsonValue(QLatin1String(formatName)))
-        return failed(QStringLiteral("format: %1 expected").arg(QLatin1String(formatName)));
-    if (root.value(QStringLiteral("version")) != QJsonValue(formatVersion))
-        return failed(QStringLiteral("version: %1 expected").arg(formatVersion));
+    const QString problem = headProblem(root);
+    if (!problem.isEmpty())
+        return failed(problem, root);
 
-    Reading reading;
+    Reading reading = {TestChartToolsData(), {}, root};
+    for (const QString& member : repeatedMembers(json))
+        reading.problems.append(member + QLatin1String(": stands twice"));
+    const QJsonValue schema = root.value(schemaMember);
+    if (!schema.isUndefined() && !schema.isString())
+        reading.problems.append(schemaMember + QLatin1String(": ") + recordvalues::shown(schema) +
+                                QLatin1String(" is not a text"));
     Reader reader(root, reading.problems);
-    visitFields(reader, reading.record);
+    recordfields::visit(reader, reading.record);
+    std::string& picture = reading.record.logoData.picturePath;
+    if (!folder.isEmpty() && isRelativePath(QString::fromStdString(picture)))
+        picture = absolutePath(QString::fromStdString(picture), folder).toStdString();
     return reading;
 }
 
 Reading read(const QString& path)
 {
+    const QFileInfo info(path);
     QFile file(path);
+    if (isSpecial(info))
+        return failed(path + QLatin1String(": not a regular file")); // which could be endless
     if (!file.open(QIODevice::ReadOnly))
-        return failed(QStringLiteral("%1: %2").arg(path, file.errorString()));
-    return fromJson(file.readAll());
+        return failed(path + QLatin1String(": ") + file.errorString());
+    const QByteArray json = file.read(largestDocument + 1);
+    if (json.size() > largestDocument)
+        return failed(path + QLatin1String(": ") + tooLarge(std::max<qint64>(file.size(), json.size())));
+    if (file.error() != QFileDevice::NoError)
+        return failed(path + QLatin1String(": ") + file.errorString());
+    return fromJson(json, info.absolutePath());
 }
 
-QString write(const QString& path, const TestChartToolsData& record)
+QString write(const QString& path, const TestChartToolsData& record, const QJsonObject& original)
 {
-    const QByteArray json = toJson(record);
-    QSaveFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.flush() && file.commit();
-    return written ? QString() : QStringLiteral("%1: %2").arg(path, file.errorString());
+    const QString folder = QFileInfo(path).absolutePath();
+    const QByteArray json = toJson(storedRecord(record, folder, original), original);
+    const QStringList problems = fromJson(json).problems;
+    const QString problem = problems.isEmpty() ? saved(path, json) : problems.join(QLatin1String("; "));
+    return problem.isEmpty() ? QString() : path + QLatin1String(": ") + problem;
+}
+
+QString setField(TestChartToolsData& record, const QString& assignment)
+{
+    const int equals = assignment.indexOf(QLatin1Char('='));
+    const QString field = assignment.left(equals).trimmed();
+    if (equals < 0)
+        return recordvalues::elided(field) + QLatin1String(": \"=\" and a value expected");
+    if (assignment.size() > largestDocument)
+        return recordvalues::elided(field) + QLatin1String(": ") + tooLarge(assignment.size());
+
+    Setter setter(field, assignment.mid(equals + 1));
+    recordfields::visit(setter, record);
+    if (!setter.found)
+        return unknownField(field);
+    return setter.reasons.isEmpty() ? QString()
+                                    : field + QLatin1String(": ") + setter.reasons.join(QLatin1String("; "));
+}
+
+QByteArray schema()
+{
+    return jsonText(recordSchema(), recordSchemaOrder());
 }
 
 } // namespace vardeno::testcharttools::ChartRecordFile

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QStringList>
+
+namespace vardeno::testcharttools {
+
+extern const char recordFormat[];
+extern const char recordSchemaName[];
+constexpr int recordVersion = 1;
+
+/// The JSON Schema (draft 2020-12) of chart records, made from the table of fields.
+QJsonObject recordSchema();
+
+/// The members of the schema in the order in which they are written.
+QStringList recordSchemaOrder();
+
+/// The members of a record's document in the order in which they are written: "$schema", "format", "version",
+/// the groups and their fields.
+QStringList recordOrder();
+
+/// The fields: "basicData.colorStripeColors" and the others.
+QStringList recordFieldNames();
+
+} // namespace vardeno::testcharttools
