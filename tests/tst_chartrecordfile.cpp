@@ -9,10 +9,6 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-#include <csignal>
-
-#include <sys/resource.h>
-
 using namespace vardeno::testcharttools;
 
 namespace {
@@ -604,26 +600,6 @@ private Q_SLOTS:
         QVERIFY(problem.size() > path.size() + 2);
         QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList(QStringLiteral("folder")));
-    }
-
-    void fullDiskKeepsTheEarlierFile()
-    {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("record.json"));
-        QCOMPARE(ChartRecordFile::write(path, TestChartToolsData()), QString());
-
-        rlimit before{};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small = {100, before.rlim_max};
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-        const QString problem = ChartRecordFile::write(path, fullRecord());
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
-        std::signal(SIGXFSZ, handler);
-
-        QVERIFY2(problem.startsWith(path + QStringLiteral(": ")), qPrintable(problem));
-        QCOMPARE(contents(path), ChartRecordFile::toJson(TestChartToolsData()));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
 private:

@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
+#include <QVariant>
 #include <QVector>
 
 #include <algorithm>
@@ -81,7 +82,7 @@ void JsonText::appendArray(const QJsonArray& array, int depth)
 {
     const int before = text.size();
     appendLine(array);
-    if (array.isEmpty() || text.size() - text.lastIndexOf('\n') <= longestLine)
+    if (array.isEmpty() || text.size() - text.lastIndexOf('\n') - 1 <= longestLine)
         return;
     text.truncate(before);
     text.append('[');
@@ -124,6 +125,11 @@ void JsonText::appendLine(const QJsonValue& value)
 
 void JsonText::appendScalar(const QJsonValue& value)
 {
+    const QVariant variant = value.isDouble() ? value.toVariant() : QVariant();
+    if (variant.type() == QVariant::LongLong) { // of which Qt writes 53 bits
+        text.append(QByteArray::number(variant.toLongLong()));
+        return;
+    }
     const QByteArray inArray = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     text.append(inArray.constData() + 1, inArray.size() - 2);
 }

@@ -35,7 +35,7 @@ QString nearestName(const QString& name, const QStringList& names)
         return {};
     const bool isWhole = name.contains(QLatin1Char('.'));
     QString nearest;
-    int least = 1 + std::min(4, name.size() / 3);
+    int least = 2 + std::min(3, name.size() / 3);
     for (const QString& candidate : names) {
         const QString compared = isWhole ? candidate : candidate.section(QLatin1Char('.'), -1);
         const int letters = distance(name.toLower(), compared.toLower());
