@@ -7,11 +7,31 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace vardeno::testcharttools;
 
 namespace {
 
 constexpr char defaultTheme[] = VD_SOURCE_DIR "/vdpatterndesign/resources/default.testcharttoolstheme";
+constexpr char lightTheme[] = VD_SOURCE_DIR "/examples/themes/light/default.testcharttoolstheme";
+
+double linear(double channel)
+{
+    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color)
+{
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
 
 QMetaEnum colorKeys()
 {
@@ -160,6 +180,53 @@ private Q_SLOTS:
         Theme theme((QString()));
         read(theme, QLatin1String(defaultTheme));
         QCOMPARE(theme.values().value(QLatin1String(QTest::currentDataTag())).value<QColor>(), color);
+    }
+
+    void textsStandOut_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("ground");
+        const std::initializer_list<std::pair<const char*, const char*>> texts = {
+            {"Text01", "LayerSettingBackgroundColor"},
+            {"Text03", "LayerSettingBackgroundColor"},
+            {"LayerSettingFontColor", "LayerSettingBarColor"},
+            {"ShowPersonalizationFontColor", "ShowPersonalizationBarBackgroundColor"},
+            {"ModelSelectFontColor", "LayerSettingBackgroundColor"},
+            {"ChessRadioButtonFontColor", "LayerSettingBackgroundColor"},
+            {"ColorStripeRadioButtonFontColor", "LayerSettingBackgroundColor"},
+            {"Text01", "EditBackgroundColor"},
+            {"Text02", "EditBackgroundColor"},
+            {"Text03", "EditBackgroundColor"},
+            {"SelfTextInputFontColor", "SelfTextInputLineEditBackgroundColor"},
+            {"Text01", "AssistButtonBackgroundNormal"},
+            {"Text01", "AssistButtonBackgroundHover"},
+            {"Text01", "AssistButtonBackgroundPressed"},
+            {"Text01", "BtnColor"},
+            {"TextOnPrimary", "GeneralButtonBackgroundNormal"},
+            {"TextOnPrimary", "GeneralButtonBackgroundHover"},
+            {"Color_W100", "GeneralButtonBackgroundPressed"},
+            {"AddFontColor", "AddButtonColor"},
+            {"Text02", "Surface05"},
+            {"Text01", "CustomDialog"},
+            {"Text02", "colorTitleWidgetColor"}};
+        for (const char* path : {defaultTheme, lightTheme}) {
+            for (const auto& [text, ground] : texts)
+                QTest::addRow("%s on %s, %s", text, ground, path == defaultTheme ? "dark" : "light")
+                    << QString::fromUtf8(path) << QString::fromUtf8(text) << QString::fromUtf8(ground);
+        }
+    }
+    void textsStandOut()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, text);
+        QFETCH(QString, ground);
+        Theme theme((QString()));
+        read(theme, path);
+        const QVariantMap values = theme.values();
+        const double reached =
+            contrast(values.value(text).value<QColor>(), values.value(ground).value<QColor>());
+        QVERIFY2(reached >= 4.5, qPrintable(QString::number(reached)));
     }
 
     void theDefaultThemesOtherSections()

@@ -18,7 +18,6 @@ QColor themeColor(const char* key)
 QPalette themePalette()
 {
     const QColor text = themeColor("Text01");
-    const QColor fadedText = themeColor("Text03");
     QPalette palette(themeColor("Surface01"), themeColor("GlobalWidgetBackgroundColor"));
     palette.setColor(QPalette::WindowText, text);
     palette.setColor(QPalette::Text, text);
@@ -30,9 +29,9 @@ QPalette themePalette()
     palette.setColor(QPalette::Highlight, themeColor("GeneralButtonBackgroundNormal"));
     palette.setColor(QPalette::HighlightedText, themeColor("TextOnPrimary"));
     palette.setColor(QPalette::Link, themeColor("TextLink"));
-    palette.setColor(QPalette::PlaceholderText, fadedText);
+    palette.setColor(QPalette::PlaceholderText, themeColor("Text03"));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, fadedText);
+        palette.setColor(QPalette::Disabled, role, themeColor("Text04"));
     palette.setColor(QPalette::Disabled, QPalette::Light, Qt::transparent); // no shadow below faded texts
     return palette;
 }
