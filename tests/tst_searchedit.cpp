@@ -225,6 +225,18 @@ private Q_SLOTS:
         QCOMPARE(QColor(picture.pixel(picture.width() - 1, 0)), QColor(0x40, 0x50, 0x60));
     }
 
+    void theHintIsFainterThanAText()
+    {
+        m_line->setPlaceholderText(QStringLiteral("Cabinet"));
+        for (const char* color : {"#eeeef9", "#26262c"}) {
+            m_window->setStyleSheet(QStringLiteral("QLineEdit { color: %1; }").arg(QLatin1String(color)));
+            const auto hint = [this] { return m_line->palette().color(QPalette::PlaceholderText); };
+            QTRY_COMPARE(hint().alpha(), 170);
+            QCOMPARE(hint().rgb(), QColor(QLatin1String(color)).rgb());
+            QCOMPARE(m_line->palette().color(QPalette::Text), QColor(QLatin1String(color)));
+        }
+    }
+
     void goesAwayWithTheFocus()
     {
         search(QStringLiteral("a"));

@@ -11,6 +11,18 @@ namespace vardeno::testcharttools {
 namespace {
 
 constexpr int extent = 20;
+constexpr int hintAlpha = 170;
+
+QPalette withFadedHint(QPalette palette)
+{
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        QColor hint = palette.color(group, QPalette::Text);
+        if (group != QPalette::Disabled)
+            hint.setAlpha(hintAlpha);
+        palette.setColor(group, QPalette::PlaceholderText, hint);
+    }
+    return palette;
+}
 
 } // namespace
 
@@ -22,6 +34,7 @@ public:
     void onEditingFinished();
     void onTextChanged(const QString& text);
     void onClearBtnClicked();
+    void fadeHint();
 
     SearchEdit* box;
     QPointer<QWidget> leading;
@@ -71,6 +84,14 @@ void SearchEdit::Impl::onClearBtnClicked()
     line->clear();
 }
 
+/// A style sheet gives the hint the colour of a text.
+void SearchEdit::Impl::fadeHint()
+{
+    const QPalette palette = withFadedHint(line->palette());
+    if (palette != line->palette())
+        line->setPalette(palette);
+}
+
 SearchEdit::SearchEdit(QWidget* parent)
     : QPushButton(parent)
 {
@@ -115,6 +136,8 @@ bool SearchEdit::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == d->line && d->line->hasFocus())
         d->clear->show();
+    if (watched == d->line && (event->type() == QEvent::StyleChange || event->type() == QEvent::Polish))
+        QMetaObject::invokeMethod(d.get(), &Impl::fadeHint, Qt::QueuedConnection);
     return QPushButton::eventFilter(watched, event);
 }
 
