@@ -164,8 +164,10 @@ void CustomColorDialog::tagChildren()
     for (QSpinBox* spinBox : spinBoxes)
         spinBox->setObjectName(QStringLiteral("spinBox"));
     const auto lineEdits = m_dialog->findChildren<QLineEdit*>();
-    for (QLineEdit* lineEdit : lineEdits)
+    for (QLineEdit* lineEdit : lineEdits) {
         lineEdit->setObjectName(QStringLiteral("HTMLLineEdit"));
+        lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); // as wide as the numbers above
+    }
 }
 
 } // namespace vardeno::testcharttools

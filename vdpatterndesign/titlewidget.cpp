@@ -44,6 +44,7 @@ TitleWidget::TitleWidget(QWidget* parent)
     row->addWidget(m_close);
     auto* line = new QFrame(this);
     line->setFrameShape(QFrame::HLine);
+    line->setFixedHeight(1); // leaves the row the height of the title, so that all in it is centred alike
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
