@@ -173,6 +173,7 @@ VLineEdit::VLineEdit(QWidget* parent)
     d->row->setObjectName(QStringLiteral("VEditWidget"));
     d->caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     d->caption->setMinimumSize(16, 16);
+    d->caption->setContentsMargins(3, 0, 0, 0); // off the edge of the entry
     d->caption->hide();
     d->editor->setObjectName(QStringLiteral("VLineEdit"));
     d->editor->setAlignment(Qt::AlignLeft);
