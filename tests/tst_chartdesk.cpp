@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 
 using namespace vardeno::testcharttools;
@@ -122,6 +123,18 @@ private Q_SLOTS:
         const QPoint frame = cell.topLeft() + QPoint(cell.width() / 2, 4);
         QCOMPARE(list->viewport()->grab().toImage().pixelColor(frame),
                  list->palette().color(QPalette::Highlight));
+    }
+
+    void theWindowShowsTheEditorOrFillsTheScreen()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QSize room = window.screen()->availableSize();
+        const QSize needed = window.editor()->size() + QSize(30, 30);
+        QTRY_COMPARE(window.size().boundedTo(room), window.size());
+        QVERIFY(window.isMaximized() || window.centralWidget()->size().boundedTo(needed) == needed);
     }
 
     void numbersGoOn()

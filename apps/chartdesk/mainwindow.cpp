@@ -19,7 +19,9 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPainter>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
@@ -36,6 +38,7 @@ enum Page
     EditorPage
 };
 
+constexpr int margin = 15; ///< around the editor
 constexpr int imagePathRole = Qt::UserRole;
 constexpr int thumbnailWantedRole = Qt::UserRole + 1;
 
@@ -61,6 +64,12 @@ QIcon thumbnail(const QString& imagePath)
     return QIcon(canvas);
 }
 
+void giveLook(const QAbstractScrollArea* area, const QString& sheet)
+{
+    area->verticalScrollBar()->setStyleSheet(sheet);
+    area->horizontalScrollBar()->setStyleSheet(sheet);
+}
+
 } // namespace
 
 MainWindow::MainWindow(const QString& folder)
@@ -77,7 +86,8 @@ MainWindow::MainWindow(const QString& folder)
     m_pages->addWidget(createListPage());
     m_pages->addWidget(createEditorPage());
     setCentralWidget(m_pages);
-    statusBar(); // made later, it would push the editor aside
+    statusBar()->setSizeGripEnabled(false); // made later, the bar would push the editor aside
+    statusBar()->setContentsMargins(margin - 5, 0, margin, 0);
     createActions();
     loadLanguages();
 
@@ -94,7 +104,7 @@ MainWindow::MainWindow(const QString& folder)
 
     setFolder(folder);
     retranslate();
-    resize(1640, 900);
+    fitToEditor();
 }
 
 void MainWindow::switchLanguage(const QString& language)
@@ -167,7 +177,20 @@ QWidget* MainWindow::createEditorPage()
     scroll->setAlignment(Qt::AlignCenter);
     m_editor = new VTestChartTools(scroll);
     scroll->setWidget(m_editor);
+    giveLook(scroll, m_editor->styleSheet());
+    giveLook(m_list, m_editor->styleSheet());
     return scroll;
+}
+
+/// A window with the editor and an even margin around it, or as much of it as the screen has room for.
+void MainWindow::fitToEditor()
+{
+    const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+    const QSize wanted = m_editor->size() + QSize(2 * margin, 2 * margin + bars);
+    const QSize room = screen()->availableSize();
+    resize(wanted.boundedTo(room));
+    if (wanted.boundedTo(room) != wanted)
+        setWindowState(Qt::WindowMaximized);
 }
 
 void MainWindow::retranslate()

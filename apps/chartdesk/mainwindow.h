@@ -32,6 +32,7 @@ private:
     void loadLanguages();
     QWidget* createListPage();
     QWidget* createEditorPage();
+    void fitToEditor();
     void retranslate();
 
     void setFolder(const QString& folder);
