@@ -194,7 +194,8 @@ PropertyBox* entries()
     addRow(box, QStringLiteral("Choice"), {choice(), disabled(choice())});
     addRow(box, QStringLiteral("Text"), {text(), disabled(text())});
     addRow(box, QStringLiteral("Calculation"),
-           {calculation(QString(), QString()), calculation(QStringLiteral("Width"), QStringLiteral("m"))});
+           {calculation(QString(), QStringLiteral("m")),
+            calculation(QStringLiteral("Width"), QStringLiteral("m"))});
     addRow(box, QStringLiteral("Above zero"),
            {above(0, calculation(QString(), QStringLiteral("px"))),
             disabled(above(0, calculation(QStringLiteral("Pitch"), QStringLiteral("cm"))))});
@@ -290,6 +291,14 @@ QColor themeColor(const char* key)
     return Theming::themeValues().value(QLatin1String(key)).value<QColor>();
 }
 
+/// For what the style sheet leaves to the palette: the window behind the columns and the hints in entries.
+QPalette themePalette()
+{
+    QPalette palette(themeColor("Surface01"), themeColor("GlobalWidgetBackgroundColor"));
+    palette.setColor(QPalette::PlaceholderText, themeColor("Text03"));
+    return palette;
+}
+
 /// The name of the editor's panels gives it their background.
 QWidget* column(std::initializer_list<PropertyBox*> sections)
 {
@@ -318,7 +327,7 @@ int main(int argc, char** argv)
     window.setObjectName(QStringLiteral("globalwidget"));
     window.setWindowTitle(QStringLiteral("Gallery of the controls"));
     FloatDockWidget* floating = floatingWindow(&window);
-    QApplication::setPalette({themeColor("Surface01"), themeColor("GlobalWidgetBackgroundColor")});
+    QApplication::setPalette(themePalette());
     CustomColorDialog* picker = colorPicker(&window);
     window.setStyleSheet(floating->styleSheet());
 
