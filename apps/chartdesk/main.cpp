@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QTextStream>
 
@@ -94,6 +95,8 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("chartdesk"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VDPATTERNDESIGN_VERSION));
     QApplication::setStyle(QStringLiteral("fusion"));
+
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); // QT_LOGGING_RULES can undo it
 
     const Options options = parseCommandLine(application);
     MainWindow window(options.folder);
