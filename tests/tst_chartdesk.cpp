@@ -147,6 +147,20 @@ private Q_SLOTS:
         QCOMPARE(ChartFolderList::nextNumber(folder.path()), 3);
     }
 
+    void theSavedChartIsTheSelectedOne()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        const auto* list = window.findChild<QListWidget*>(QStringLiteral("chartList"));
+        for (const char* name : {"TestImage1.png", "TestImage2.png", "TestImage3.png"}) {
+            QVERIFY(addChart(window));
+            QVERIFY(list->currentItem() && list->currentItem()->isSelected());
+            QVERIFY2(list->currentItem()->text().startsWith(QLatin1String(name)),
+                     qPrintable(list->currentItem()->text()));
+        }
+    }
+
     void editedChartReplacesTheOldOne()
     {
         QTemporaryDir folder;

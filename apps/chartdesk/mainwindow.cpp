@@ -321,6 +321,17 @@ void MainWindow::finishEdit(const TestChartToolsData& record, const QString& ima
     m_new->setEnabled(true);
     m_choose->setEnabled(true);
     listCharts();
+    m_list->setFocus();
+    selectChart(imagePath);
+}
+
+/// Nothing happens without such a chart in the list.
+void MainWindow::selectChart(const QString& imagePath)
+{
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->data(imagePathRole) == imagePath)
+            m_list->setCurrentRow(row);
+    }
 }
 
 void MainWindow::tellOfFailure(const QString& what, const QString& details)

@@ -38,6 +38,7 @@ private:
     void setFolder(const QString& folder);
     void chooseFolder();
     void listCharts();
+    void selectChart(const QString& imagePath);
     void loadNextThumbnail();
     void editChart(const QString& imagePath);
     void editSelectedChart();
