@@ -1,3 +1,4 @@
+#include "chartfont.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "themepalette.h"
@@ -95,6 +96,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("chartdesk"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VDPATTERNDESIGN_VERSION));
     QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setFont(chartFont());
 
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); // QT_LOGGING_RULES can undo it
 
