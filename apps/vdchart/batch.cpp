@@ -1,0 +1,138 @@
+#include "batch.h"
+
+#include "arguments.h"
+#include "chartrenderer.h"
+#include "imageoutput.h"
+#include "progressbar.h"
+#include "recordinput.h"
+#include "walls.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QSemaphore>
+#include <QSet>
+#include <QThread>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int mostAtOnce = 4; ///< by itself: more do not keep the one that renders waiting, and take memory
+
+int atOnce(int wanted)
+{
+    return wanted > 0 ? wanted : std::min(QThread::idealThreadCount() + 1, mostAtOnce);
+}
+
+} // namespace
+
+struct Batch::Job
+{
+    BatchPicture picture;
+    std::vector<std::string> settings; ///< of the wall
+    ExitCode code = ExitCode::Good;
+
+    void fail(const Failure& failure)
+    {
+        code = failure.code;
+        picture.problem = failure.message;
+    }
+};
+
+Batch::Batch(const Arguments& arguments, const std::vector<Wall>& walls)
+    : m_arguments(arguments)
+    , m_atOnce(atOnce(arguments.jobs))
+    , m_room(std::make_unique<QSemaphore>(m_atOnce))
+{
+    m_encoders.setMaxThreadCount(m_atOnce);
+    for (const std::string& record : arguments.records) {
+        for (const Wall& wall : walls)
+            add(QString::fromStdString(record), wall);
+    }
+    QSet<QString> names;
+    for (const auto& job : m_jobs) {
+        const QString name = job->picture.file.toCaseFolded();
+        if (names.contains(name))
+            throw Failure{ExitCode::Usage,
+                          QStringLiteral("two pictures would be called %1").arg(job->picture.file)};
+        names.insert(name);
+    }
+}
+
+Batch::~Batch()
+{
+    m_encoders.waitForDone();
+}
+
+void Batch::add(const QString& record, const Wall& wall)
+{
+    auto job = std::make_unique<Job>();
+    QStringList name;
+    if (m_arguments.records.size() > 1 || wall.name.isEmpty())
+        name.append(record == QLatin1String("-") ? QStringLiteral("chart")
+                                                 : QFileInfo(record).completeBaseName());
+    if (!wall.name.isEmpty())
+        name.append(wall.name);
+    job->picture.record = record;
+    job->picture.wall = wall.name;
+    job->picture.file =
+        name.join(QLatin1Char('-')) + QLatin1Char('.') + QString::fromStdString(m_arguments.format);
+    job->settings = wall.settings;
+    m_jobs.push_back(std::move(job));
+}
+
+ExitCode Batch::run(const std::atomic<bool>& stop)
+{
+    ChartRenderer renderer(QString::fromStdString(m_arguments.language));
+    const ProgressBar bar(int(m_jobs.size()));
+    int begun = 0;
+    for (const auto& job : m_jobs) {
+        bar.show(begun++, job->picture.file);
+        if (stop)
+            job->fail({ExitCode::Interrupted, QStringLiteral("interrupted")});
+        else
+            make(*job, renderer);
+    }
+    m_encoders.waitForDone();
+    ExitCode worst = ExitCode::Good;
+    for (const auto& job : m_jobs)
+        worst = std::max(worst, job->code);
+    return worst;
+}
+
+void Batch::make(Job& job, ChartRenderer& renderer)
+{
+    try {
+        auto record = requireRecord(job.picture.record, m_arguments.settings);
+        applySettings(record, job.settings,
+                      {ExitCode::Unreadable, QStringLiteral("wall \"%1\"").arg(job.picture.wall)});
+        m_room->acquire();
+        m_encoders.start([this, &job, image = renderer.render(record)] { finish(job, image); });
+    } catch (const Failure& failure) {
+        job.fail(failure);
+    }
+}
+
+void Batch::finish(Job& job, const QImage& image)
+{
+    try {
+        const QByteArray file =
+            encodeImage(image, QString::fromStdString(m_arguments.format), m_arguments.compression);
+        writeOutput(QDir(QString::fromStdString(m_arguments.folder)).filePath(job.picture.file), file);
+        job.picture.size = image.size();
+        job.picture.bytes = file.size();
+        job.picture.sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
+    } catch (const Failure& failure) {
+        job.fail(failure);
+    }
+    m_room->release();
+}
+
+std::vector<BatchPicture> Batch::pictures() const
+{
+    std::vector<BatchPicture> pictures;
+    for (const auto& job : m_jobs)
+        pictures.push_back(job->picture);
+    return pictures;
+}

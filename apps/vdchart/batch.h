@@ -1,0 +1,44 @@
+#pragma once
+
+#include "exitcode.h"
+#include "manifest.h"
+
+#include <QThreadPool>
+
+#include <atomic>
+#include <memory>
+#include <string>
+#include <vector>
+
+class ChartRenderer;
+class QSemaphore;
+struct Arguments;
+struct Wall;
+
+/// Makes many pictures: charts are rendered one after another, and encoded and written beside that. A picture
+/// that fails does not keep the others from being made.
+class Batch
+{
+public:
+    /// What is to be made. Throws Failure where two pictures would have the same name.
+    Batch(const Arguments& arguments, const std::vector<Wall>& walls);
+    ~Batch();
+
+    /// Makes it, until `stop`. Pictures that were not begun by then have "interrupted" as their problem.
+    ExitCode run(const std::atomic<bool>& stop);
+
+    /// In the order in which they were asked for.
+    std::vector<BatchPicture> pictures() const;
+
+private:
+    struct Job;
+    void add(const QString& record, const Wall& wall);
+    void make(Job& job, ChartRenderer& renderer);
+    void finish(Job& job, const QImage& image);
+
+    const Arguments& m_arguments;
+    std::vector<std::unique_ptr<Job>> m_jobs;
+    int m_atOnce;
+    QThreadPool m_encoders;
+    std::unique_ptr<QSemaphore> m_room; ///< for pictures that are worked on
+};

@@ -1,0 +1,67 @@
+#include "arguments.h"
+#include "batch.h"
+#include "commands.h"
+#include "imageoutput.h"
+#include "recordinput.h"
+#include "walls.h"
+
+#include <QDir>
+
+#include <csignal>
+#include <iostream>
+
+namespace {
+
+constexpr qint64 tableLimit = 16 * 1024 * 1024; ///< bytes
+
+std::atomic<bool> stopWanted{false};
+
+/// The picture that is worked on is still finished. A second signal ends the program at once.
+void askToStop(int signal)
+{
+    stopWanted = true;
+    std::signal(signal, SIG_DFL);
+}
+
+std::vector<Wall> wallsOf(const Arguments& arguments)
+{
+    const QString path = QString::fromStdString(arguments.walls);
+    if (path.isEmpty())
+        return {Wall()}; // of the records themselves
+    const std::vector<Wall> walls = readWalls(readInput(path, tableLimit), inputName(path));
+    if (walls.empty())
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: there are no walls in it").arg(inputName(path))};
+    return walls;
+}
+
+void report(const std::vector<BatchPicture>& pictures)
+{
+    std::size_t failed = 0;
+    for (const BatchPicture& picture : pictures) {
+        if (picture.problem.isEmpty())
+            continue;
+        ++failed;
+        std::cerr << "vdchart: failed: " << picture.file.toStdString() << ": "
+                  << picture.problem.toStdString() << '\n';
+    }
+    std::cout << pictures.size() - failed << " of " << pictures.size() << " pictures written\n";
+}
+
+} // namespace
+
+ExitCode runBatch(const Arguments& arguments)
+{
+    const QDir folder(QString::fromStdString(arguments.folder));
+    Batch batch(arguments, wallsOf(arguments));
+    if (!folder.mkpath(QStringLiteral(".")))
+        throw Failure{
+            ExitCode::NotWritten,
+            QStringLiteral("%1: the folder cannot be made").arg(QString::fromStdString(arguments.folder))};
+    std::signal(SIGINT, askToStop);
+    std::signal(SIGTERM, askToStop);
+    const ExitCode code = batch.run(stopWanted);
+    report(batch.pictures());
+    writeOutput(folder.filePath(QStringLiteral("manifest.json")), manifest(batch.pictures()));
+    return code;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QApplication>
+
+/// The application that charts are drawn in, with their font. It takes no arguments: they are the program's
+/// own.
+class ChartApplication : public QApplication
+{
+public:
+    ChartApplication();
+};

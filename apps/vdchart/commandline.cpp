@@ -1,0 +1,187 @@
+#include "commandline.h"
+
+#include "commands.h"
+#include "manual.h"
+
+#include <vdpatterndesign_version.h>
+
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <iostream>
+
+namespace {
+
+constexpr char description[] =
+    "Test charts for LED screens from the command line: the same pixels as in the chart editor.";
+
+constexpr char footer[] =
+    "Exit codes: 0 good, 1 check or verify found something, 2 wrong usage, 3 unreadable input, "
+    "4 not written.";
+
+/// What `--generate` prints.
+std::string generated(const std::string& what, const CLI::App& table)
+{
+    if (what == "man")
+        return manualPage(table);
+    return what == "bash" ? bashCompletion(table) : zshCompletion(table);
+}
+
+} // namespace
+
+CommandLine::CommandLine()
+    : m_app(description, "vdchart")
+{
+    m_app.footer(footer);
+    m_app.require_subcommand(0, 1);
+    m_app.set_version_flag("--version", "vdchart " VDPATTERNDESIGN_VERSION, "Print the version and exit");
+    m_app.set_help_flag("-h,--help", "Print this help and exit");
+    m_app.add_option("--generate", "Print the manual page or a shell completion and exit")
+        ->type_name("WHAT")
+        ->check(CLI::IsMember({"man", "bash", "zsh"}));
+    addNew();
+    addPresets();
+    addCheck();
+    addRender();
+    addBatch();
+    addVerify();
+}
+
+ExitCode CommandLine::run(int argc, const char* const* argv)
+{
+    try {
+        m_app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return m_app.exit(error) == 0 ? ExitCode::Good : ExitCode::Usage;
+    }
+    if (const CLI::Option* generate = m_app.get_option("--generate"); generate->count() > 0) {
+        std::cout << generated(generate->as<std::string>(), m_app);
+        return ExitCode::Good;
+    }
+    if (!m_run) {
+        std::cerr << m_app.help();
+        return ExitCode::Usage;
+    }
+    return m_run(m_arguments);
+}
+
+CLI::App* CommandLine::addCommand(const char* name, const char* text, Run run)
+{
+    CLI::App* command = m_app.add_subcommand(name, text);
+    command->callback([this, run] { m_run = run; });
+    return command;
+}
+
+void CommandLine::addNew()
+{
+    CLI::App* command = addCommand("new", "Print a new record", &runNew);
+    command
+        ->add_option("-p,--preset", m_arguments.presets, "Start from this preset; several follow one another")
+        ->type_name("PRESET")
+        ->allow_extra_args(false);
+    addSettings(command);
+}
+
+void CommandLine::addPresets()
+{
+    CLI::App* command = addCommand("presets", "List the presets for new records", &runPresets);
+    command->add_flag("--names", m_arguments.namesOnly, "Print the names only");
+}
+
+void CommandLine::addCheck()
+{
+    CLI::App* command =
+        addCommand("check", "Look for errors in records, and for what a technician should know", &runCheck);
+    command->add_option("record", m_arguments.records, "The records; - for the standard input")
+        ->type_name("RECORD")
+        ->required();
+    command->add_flag("--errors", m_arguments.errorsOnly, "Look for errors only");
+    addSettings(command);
+}
+
+void CommandLine::addRender()
+{
+    CLI::App* command = addCommand("render", "Write the picture of a record", &runRender);
+    command->add_option("record", m_arguments.record, "The record; - for the standard input")
+        ->type_name("RECORD")
+        ->required();
+    command
+        ->add_option("-o,--output", m_arguments.output,
+                     "The picture, .png, .jpg or .bmp; - for PNG on the standard output")
+        ->type_name("FILE")
+        ->required();
+    addSettings(command);
+    addLanguage(command);
+    addCompression(command);
+}
+
+void CommandLine::addBatch()
+{
+    CLI::App* command =
+        addCommand("batch", "Write the pictures of many records, of many walls, or of both", &runBatch);
+    command->add_option("record", m_arguments.records, "The records")->type_name("RECORD")->required();
+    command
+        ->add_option(
+            "-w,--walls", m_arguments.walls,
+            "A table of walls: the columns are name, width, height, rows, columns or any field of a record")
+        ->type_name("FILE");
+    command->add_option("-o,--output", m_arguments.folder, "The folder of the pictures and of manifest.json")
+        ->type_name("FOLDER")
+        ->required();
+    command->add_option("-f,--format", m_arguments.format, "The pictures' format")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"png", "jpg", "bmp"}))
+        ->capture_default_str();
+    command
+        ->add_option("-j,--jobs", m_arguments.jobs,
+                     "How many pictures are worked on at once; 0 to choose by the machine")
+        ->type_name("NUMBER")
+        ->check(CLI::Range(0, 64))
+        ->capture_default_str();
+    addSettings(command);
+    addLanguage(command);
+    addCompression(command);
+}
+
+void CommandLine::addVerify()
+{
+    CLI::App* command =
+        addCommand("verify", "Tell whether a picture is the chart of a record, pixel for pixel", &runVerify);
+    command->add_option("image", m_arguments.image, "The picture; - for the standard input")
+        ->type_name("FILE")
+        ->required();
+    command->add_option("record", m_arguments.record, "The record; - for the standard input")
+        ->type_name("RECORD")
+        ->required();
+    command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
+        ->type_name("FILE");
+    addSettings(command);
+    addLanguage(command);
+}
+
+void CommandLine::addSettings(CLI::App* command)
+{
+    command
+        ->add_option("-s,--set", m_arguments.settings,
+                     "Change a field, such as publicData.boxRow=12; repeatable")
+        ->type_name("FIELD=VALUE")
+        ->allow_extra_args(false);
+}
+
+void CommandLine::addLanguage(CLI::App* command)
+{
+    command->add_option("-l,--lang", m_arguments.language, "The language of the resolution line")
+        ->type_name("LANGUAGE")
+        ->check(CLI::IsMember({"de", "en", "es", "ja", "zh_CN"}))
+        ->capture_default_str();
+}
+
+void CommandLine::addCompression(CLI::App* command)
+{
+    command
+        ->add_option("-c,--compression", m_arguments.compression,
+                     "PNG compression from 0 (stored) to 9 (smallest)")
+        ->type_name("LEVEL")
+        ->check(CLI::Range(0, 9))
+        ->capture_default_str();
+}

@@ -1,0 +1,87 @@
+#include "recordinput.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <cstdio>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+constexpr qint64 recordLimit = 1024 * 1024; ///< bytes: records have a few thousand
+
+bool openInput(QFile& file, const QString& path)
+{
+    return path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                      : file.open(QIODevice::ReadOnly);
+}
+
+/// Without it the chart would be another one.
+void requirePicture(const LogoChartData& logo)
+{
+    const QString path = QString::fromStdString(logo.picturePath);
+    if (!logo.showLogo || !logo.pictureLogo || path.isEmpty())
+        return;
+    QImageReader reader(path);
+    if (!reader.canRead())
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("logoData.picturePath: %1: %2").arg(path, reader.errorString())};
+}
+
+} // namespace
+
+QString inputName(const QString& path)
+{
+    return path == QLatin1String("-") ? QStringLiteral("standard input") : path;
+}
+
+QByteArray readInput(const QString& path, qint64 limit)
+{
+    QFile file(path);
+    if (QFileInfo(path).isDir())
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: it is a folder").arg(path)};
+    if (!openInput(file, path))
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: %2").arg(inputName(path), file.errorString())};
+    const QByteArray bytes = file.read(limit + 1);
+    if (bytes.size() > limit)
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: more than %2 bytes").arg(inputName(path)).arg(limit)};
+    if (file.error() != QFileDevice::NoError)
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: %2").arg(inputName(path), file.errorString())};
+    return bytes;
+}
+
+ChartRecordFile::Reading readRecord(const QString& path, const std::vector<std::string>& settings)
+{
+    const QByteArray json = readInput(path, recordLimit);
+    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
+    ChartRecordFile::Reading reading = ChartRecordFile::fromJson(json, folder);
+    applySettings(reading.record, settings);
+    return reading;
+}
+
+TestChartToolsData requireRecord(const QString& path, const std::vector<std::string>& settings)
+{
+    const ChartRecordFile::Reading reading = readRecord(path, settings);
+    if (reading.problems.isEmpty()) {
+        requirePicture(reading.record.logoData);
+        return reading.record;
+    }
+    QStringList lines;
+    for (const QString& problem : reading.problems)
+        lines.append(QStringLiteral("%1: %2").arg(inputName(path), problem));
+    throw Failure{ExitCode::Unreadable, lines.join(QStringLiteral("\nvdchart: "))};
+}
+
+void applySettings(TestChartToolsData& record, const std::vector<std::string>& settings, const Failure& blame)
+{
+    for (const std::string& setting : settings) {
+        const QString problem = ChartRecordFile::setField(record, QString::fromStdString(setting));
+        if (!problem.isEmpty())
+            throw Failure{blame.code, QStringLiteral("%1: %2").arg(blame.message, problem)};
+    }
+}

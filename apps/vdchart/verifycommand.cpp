@@ -1,0 +1,5 @@
+#include "commands.h"
+ExitCode runVerify(const Arguments&)
+{
+    return ExitCode::Good;
+}

@@ -1,0 +1,149 @@
+#include "walls.h"
+
+#include "exitcode.h"
+
+#include <chartrecordfile.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+
+#include <csv.h>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+using Table = std::vector<QStringList>;
+
+/// Collects what libcsv reads; its functions are called from C and do not throw.
+struct Collector
+{
+    Table table;
+    QStringList row;
+};
+
+void addCell(void* bytes, std::size_t count, void* collector)
+{
+    static_cast<Collector*>(collector)->row.append(
+        QString::fromUtf8(static_cast<const char*>(bytes), int(count)));
+}
+
+void addRow(int, void* collector)
+{
+    auto& [table, row] = *static_cast<Collector*>(collector);
+    table.push_back(row);
+    row.clear();
+}
+
+Table parsed(const QByteArray& csv, const QString& source)
+{
+    csv_parser parser{};
+    if (csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI) != 0)
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: not enough memory").arg(source)};
+    Collector collector;
+    const auto length = std::size_t(csv.size());
+    const bool read = csv_parse(&parser, csv.constData(), length, addCell, addRow, &collector) == length &&
+                      csv_fini(&parser, addCell, addRow, &collector) == 0;
+    const QString reason = QString::fromLatin1(csv_strerror(csv_error(&parser)));
+    csv_free(&parser);
+    if (!read)
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: row %2: not CSV: %3")
+                                                .arg(source)
+                                                .arg(collector.table.size() + 1)
+                                                .arg(reason)};
+    return collector.table;
+}
+
+/// The field that a column is about.
+QString fieldOf(const QString& column)
+{
+    if (column == QLatin1String("width"))
+        return QStringLiteral("publicData.resolutionWidth");
+    if (column == QLatin1String("height"))
+        return QStringLiteral("publicData.resolutionHeight");
+    if (column == QLatin1String("rows"))
+        return QStringLiteral("publicData.boxRow");
+    return column == QLatin1String("columns") ? QStringLiteral("publicData.boxCol") : column;
+}
+
+bool isField(const QString& path)
+{
+    static const QJsonObject fields = QJsonDocument::fromJson(ChartRecordFile::toJson({})).object();
+    return fields.value(path.section(QLatin1Char('.'), 0, 0))
+        .toObject()
+        .contains(path.section(QLatin1Char('.'), 1));
+}
+
+QString problemOfColumns(const QStringList& columns)
+{
+    if (!columns.contains(QStringLiteral("name")))
+        return QStringLiteral("the first row has no column \"name\"");
+    for (const QString& column : columns) {
+        if (columns.count(column) > 1)
+            return QStringLiteral("there are several columns \"%1\"").arg(column);
+        if (column != QLatin1String("name") && !isField(fieldOf(column)))
+            return QStringLiteral(
+                       "the column \"%1\" is neither name, width, height, rows, columns nor a field of a "
+                       "record")
+                .arg(column);
+    }
+    return QString();
+}
+
+/// Names become names of files, in one folder, on any file system.
+QString problemOfName(const QString& name)
+{
+    if (name.isEmpty())
+        return QStringLiteral("the name is missing");
+    for (const QChar c : name) {
+        if (c.unicode() < 0x20 || QStringLiteral("/\\:*?\"<>|").contains(c))
+            return QStringLiteral("the name \"%1\" has characters that no file name has").arg(name);
+    }
+    return name.startsWith(QLatin1Char('.')) ? QStringLiteral("the name \"%1\" begins with a dot").arg(name)
+                                             : QString();
+}
+
+QString problemOfRow(const QStringList& row, const QStringList& columns)
+{
+    if (row.size() != columns.size())
+        return QStringLiteral("%1 cells for %2 columns").arg(row.size()).arg(columns.size());
+    return problemOfName(row.at(columns.indexOf(QStringLiteral("name"))).trimmed());
+}
+
+Wall wallOf(const QStringList& row, const QStringList& columns)
+{
+    Wall wall;
+    for (int i = 0; i < columns.size(); ++i) {
+        const QString cell = row.at(i).trimmed();
+        if (columns.at(i) == QLatin1String("name"))
+            wall.name = cell;
+        else if (!cell.isEmpty())
+            wall.settings.push_back((fieldOf(columns.at(i)) + QLatin1Char('=') + cell).toStdString());
+    }
+    return wall;
+}
+
+} // namespace
+
+std::vector<Wall> readWalls(const QByteArray& csv, const QString& source)
+{
+    const Table table = parsed(csv.startsWith("\xef\xbb\xbf") ? csv.mid(3) : csv, source);
+    const auto refuse = [&source](std::size_t row, const QString& problem) {
+        if (!problem.isEmpty())
+            throw Failure{ExitCode::Unreadable,
+                          QStringLiteral("%1: row %2: %3").arg(source).arg(row).arg(problem)};
+    };
+    if (table.empty())
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: there is nothing in it").arg(source)};
+    QStringList columns;
+    for (const QString& column : table.front())
+        columns.append(column.trimmed());
+    refuse(1, problemOfColumns(columns));
+    std::vector<Wall> walls;
+    for (std::size_t row = 1; row < table.size(); ++row) {
+        refuse(row + 1, problemOfRow(table[row], columns));
+        walls.push_back(wallOf(table[row], columns));
+    }
+    return walls;
+}

@@ -1,0 +1,456 @@
+#include "testcase.h"
+
+#include <chartrecordfile.h>
+#include <vdpatterndesign_version.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+struct Outcome
+{
+    int code;
+    QByteArray output;
+    QString errors;
+};
+
+} // namespace
+
+/// The program as its user runs it, in a process of its own.
+class TestVdchart : public TestCase
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    Outcome run(const QStringList& arguments, const QByteArray& input = QByteArray()) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(m_folder.path());
+        process.start(QStringLiteral(VDCHART_PROGRAM), arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+            return {-1, QByteArray(), process.errorString()};
+        return {process.exitCode(), process.readAllStandardOutput(),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    /// In a shell, `$vdchart` being the program.
+    Outcome runInShell(const QString& script) const
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("vdchart"), QStringLiteral(VDCHART_PROGRAM));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(m_folder.path());
+        process.start(QStringLiteral("bash"), {QStringLiteral("-c"), script});
+        process.waitForFinished(60000);
+        return {process.exitCode(), process.readAllStandardOutput(),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    void write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QByteArray read(const QString& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QStringList files(const QString& folder = QString()) const
+    {
+        return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+
+    static TestChartToolsData smallRecord()
+    {
+        TestChartToolsData record;
+        record.publicData.resolutionWidth = 320;
+        record.publicData.resolutionHeight = 180;
+        return record;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        write(QStringLiteral("small.json"), ChartRecordFile::toJson(smallRecord()));
+        TestChartToolsData other = smallRecord();
+        other.basicData.oddColor = {255, 0, 0, 255};
+        write(QStringLiteral("other.json"), ChartRecordFile::toJson(other));
+        write(QStringLiteral("wrong.json"), ChartRecordFile::toJson(smallRecord()).replace("320", "5000"));
+        write(QStringLiteral("broken.json"), "{\"format\": ");
+    }
+
+    void help()
+    {
+        const Outcome outcome = run({QStringLiteral("--help")});
+        QCOMPARE(outcome.code, 0);
+        for (const char* command : {"new", "presets", "check", "render", "batch", "verify"}) {
+            QVERIFY(outcome.output.contains(command));
+            QCOMPARE(run({QLatin1String(command), QStringLiteral("--help")}).code, 0);
+        }
+        QCOMPARE(run({QStringLiteral("--version")}).output,
+                 QByteArray("vdchart " VDPATTERNDESIGN_VERSION "\n"));
+    }
+
+    void wrongUsage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("nothing") << QStringList() << "Usage";
+        QTest::newRow("unknown command") << QStringList{"draw"} << "draw";
+        QTest::newRow("unknown option") << QStringList{"new", "--loud"} << "--loud";
+        QTest::newRow("unknown preset") << QStringList{"new", "--preset", "mauve"} << "there is no \"mauve\"";
+        QTest::newRow("no output") << QStringList{"render", "small.json"} << "--output";
+        QTest::newRow("unknown ending") << QStringList{"render", "small.json", "-o", "a.gif"} << "a.gif";
+        QTest::newRow("unknown field")
+            << QStringList{"new", "--set", "publicData.rows=1"} << "publicData.rows";
+        QTest::newRow("out of range") << QStringList{"new", "--set", "publicData.boxRow=101"}
+                                      << "publicData.boxRow: 101 is not in 1..100";
+        QTest::newRow("no value") << QStringList{"new", "--set", "publicData.boxRow"} << "publicData.boxRow";
+        QTest::newRow("compression") << QStringList{"render", "small.json", "-o", "a.png", "-c", "10"}
+                                     << "--compression";
+        QTest::newRow("language") << QStringList{"render", "small.json", "-o", "a.png", "--lang", "tlh"}
+                                  << "--lang";
+        QTest::newRow("jobs") << QStringList{"batch", "small.json", "-o", "out", "-j", "-1"} << "--jobs";
+        QTest::newRow("the same name twice")
+            << QStringList{"batch", "small.json", "./small.json", "-o", "out"}
+            << "two pictures would be called small.png";
+    }
+
+    void wrongUsage()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, message);
+        const QStringList before = files();
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.code, 2);
+        QVERIFY2(outcome.errors.contains(message), qPrintable(outcome.errors));
+        QCOMPARE(outcome.output, QByteArray());
+        QCOMPARE(files(), before);
+    }
+
+    void newRecords()
+    {
+        const Outcome plain = run({QStringLiteral("new")});
+        QCOMPARE(plain.code, 0);
+        QVERIFY(ChartRecordFile::fromJson(plain.output).record == TestChartToolsData());
+        const Outcome made = run({"new", "-p", "uhd", "--preset", "chess", "-s", "publicData.boxRow=12",
+                                  "--set", "selfData.selfText=left, \"up\""});
+        QCOMPARE(made.code, 0);
+        const TestChartToolsData record = ChartRecordFile::fromJson(made.output).record;
+        QCOMPARE(record.publicData.resolutionWidth, 3840);
+        QCOMPARE(record.publicData.boxRow, 12);
+        QCOMPARE(record.selfData.selfText, std::string("left, \"up\""));
+        QVERIFY(!record.inLineData.showCircle);
+    }
+
+    void presetsAreListed()
+    {
+        const QByteArray names = run({QStringLiteral("presets"), QStringLiteral("--names")}).output;
+        const QByteArray list = run({QStringLiteral("presets")}).output;
+        QVERIFY(names.contains("numbering-bottom-right\n"));
+        QCOMPARE(list.count('\n'), names.count('\n'));
+        QVERIFY(list.contains("1920 x 1080, 16 x 9 cabinets of 120 x 120"));
+    }
+
+    void unreadableInput_data()
+    {
+        QTest::addColumn<QString>("record");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("missing") << "missing.json"
+                                 << "missing.json: No such file";
+        QTest::newRow("a folder") << "."
+                                  << ".: it is a folder";
+        QTest::newRow("not JSON") << "broken.json"
+                                  << "broken.json: not JSON";
+        QTest::newRow("a wrong field") << "wrong.json"
+                                       << "wrong.json: publicData.resolutionWidth: 5000 is not in 16..4320";
+        QTest::newRow("endless") << "/dev/zero"
+                                 << "/dev/zero: more than 1048576 bytes";
+    }
+
+    void unreadableInput()
+    {
+        QFETCH(QString, record);
+        QFETCH(QString, message);
+        const Outcome outcome =
+            run({QStringLiteral("render"), record, QStringLiteral("-o"), QStringLiteral("no.png")});
+        QCOMPARE(outcome.code, 3);
+        QVERIFY2(outcome.errors.contains(message), qPrintable(outcome.errors));
+        QVERIFY(!files().contains(QStringLiteral("no.png")));
+    }
+
+    void check_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("good") << QStringList{"check", "good.json"} << 0 << "";
+        QTest::newRow("an error") << QStringList{"check", "wrong.json"} << 1
+                                  << "wrong.json: error: publicData.resolutionWidth: 5000 is not in 16..4320";
+        QTest::newRow("a warning") << QStringList{"check", "good.json", "--set", "publicData.boxCol=7"} << 1
+                                   << "good.json: warning: publicData.boxCol";
+        QTest::newRow("errors only") << QStringList{"check", "good.json", "--errors", "--set",
+                                                    "publicData.boxCol=7"}
+                                     << 0 << "";
+        QTest::newRow("several") << QStringList{"check", "good.json", "wrong.json"} << 1
+                                 << "wrong.json: error";
+        QTest::newRow("one is missing")
+            << QStringList{"check", "missing.json", "wrong.json"} << 3 << "wrong.json: error";
+    }
+
+    void check()
+    {
+        write(QStringLiteral("good.json"), run({"new", "--preset", "chess"}).output);
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QString, message);
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.code, code);
+        QVERIFY2(outcome.output.startsWith(message.toUtf8()), outcome.output.constData());
+        QCOMPARE(outcome.output.isEmpty(), message.isEmpty());
+    }
+
+    void formats_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QByteArray>("begin");
+        QTest::newRow("png") << "a.png" << QByteArray("\x89PNG");
+        QTest::newRow("jpg") << "a.jpg" << QByteArray("\xff\xd8\xff");
+        QTest::newRow("jpeg") << "a.JPEG" << QByteArray("\xff\xd8\xff");
+        QTest::newRow("bmp") << "a.bmp" << QByteArray("BM");
+    }
+
+    void formats()
+    {
+        QFETCH(QString, file);
+        QFETCH(QByteArray, begin);
+        const Outcome outcome =
+            run({QStringLiteral("render"), QStringLiteral("small.json"), QStringLiteral("-o"), file});
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.errors, QString());
+        QVERIFY(read(file).startsWith(begin));
+        QCOMPARE(QImage(path(file)).size(), QSize(320, 180));
+    }
+
+    void streams()
+    {
+        QCOMPARE(run({"render", "small.json", "-o", "file.png"}).code, 0);
+        const Outcome piped = run({"render", "-", "-o", "-"}, read(QStringLiteral("small.json")));
+        QCOMPARE(piped.code, 0);
+        QVERIFY(!piped.output.isEmpty());
+        QCOMPARE(piped.output, read(QStringLiteral("file.png")));
+    }
+
+    void settings()
+    {
+        QCOMPARE(run({"render", "small.json", "-o", "wide.png", "-s", "publicData.resolutionWidth=400"}).code,
+                 0);
+        QCOMPARE(QImage(path(QStringLiteral("wide.png"))).size(), QSize(400, 180));
+    }
+
+    void language()
+    {
+        const QByteArray english = run({"render", "small.json", "-o", "-"}).output;
+        QCOMPARE(run({"render", "small.json", "-o", "-", "--lang", "en"}).output, english);
+        QVERIFY(run({"render", "small.json", "-o", "-", "--lang", "de"}).output != english);
+    }
+
+    void compression()
+    {
+        const QByteArray stored = run({"render", "small.json", "-o", "-", "-c", "0"}).output;
+        const QByteArray smallest = run({"render", "small.json", "-o", "-", "-c", "9"}).output;
+        QVERIFY(stored.size() > 320 * 180 * 3);
+        QVERIFY(smallest.size() < stored.size() / 4);
+        VD_COMPARE_IMAGES(QImage::fromData(stored), QImage::fromData(smallest));
+    }
+
+    void notWritten_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::newRow("no folder") << "$vdchart render small.json -o nowhere/a.png";
+        QTest::newRow("a folder") << "mkdir -p f.png && $vdchart render small.json -o f.png";
+        QTest::newRow("full disk") << "$vdchart render small.json -o - > /dev/full";
+        QTest::newRow("text on a full disk") << "$vdchart presets > /dev/full";
+        QTest::newRow("too large a file") << "ulimit -f 4; $vdchart render small.json -c 0 -o large.png";
+        QTest::newRow("nobody reads")
+            << "{ $vdchart render small.json -c 0 -o -; echo $? >&3; } 3> code | true; exit $(cat code)";
+        QTest::newRow("the manifest") << "mkdir -p b/manifest.json && $vdchart batch small.json -o b";
+    }
+
+    void notWritten()
+    {
+        QFETCH(QString, script);
+        const Outcome outcome = runInShell(script);
+        QCOMPARE(outcome.code, 4);
+        QVERIFY2(outcome.errors.startsWith(QLatin1String("vdchart: ")), qPrintable(outcome.errors));
+        QVERIFY(!files().contains(QStringLiteral("large.png")));
+        for (const QString& file : files())
+            QVERIFY2(!file.startsWith(QLatin1String("large.png")), qPrintable(file)); // nor a part of it
+    }
+
+    void anOldPictureStaysWhole()
+    {
+        QCOMPARE(run({"render", "small.json", "-o", "kept.png"}).code, 0);
+        const QByteArray before = read(QStringLiteral("kept.png"));
+        QCOMPARE(runInShell(QStringLiteral("ulimit -f 4; $vdchart render small.json -c 0 -o kept.png")).code,
+                 4);
+        QCOMPARE(read(QStringLiteral("kept.png")), before);
+    }
+
+    void batchOfRecords()
+    {
+        const Outcome outcome = run({"batch", "small.json", "other.json", "-o", "records"});
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.output, QByteArray("2 of 2 pictures written\n"));
+        QCOMPARE(outcome.errors, QString()); // no bar where there is no terminal
+        QCOMPARE(files(QStringLiteral("records")), QStringList({"manifest.json", "other.png", "small.png"}));
+        QCOMPARE(read(QStringLiteral("records/small.png")), run({"render", "small.json", "-o", "-"}).output);
+    }
+
+    void batchOfWalls()
+    {
+        write(QStringLiteral("walls.csv"),
+              "name,width,height,rows,columns\nleft,160,90,3,4\nright,320,200,,\n");
+        const Outcome outcome =
+            run({"batch", "small.json", "--walls", "walls.csv", "-o", "walls", "-f", "bmp"});
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(files(QStringLiteral("walls")), QStringList({"left.bmp", "manifest.json", "right.bmp"}));
+        QCOMPARE(QImage(path(QStringLiteral("walls/left.bmp"))).size(), QSize(160, 90));
+    }
+
+    void batchOfBoth()
+    {
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nright,320\n");
+        QCOMPARE(run({"batch", "small.json", "other.json", "-w", "walls.csv", "-o", "both", "-j", "1"}).code,
+                 0);
+        QCOMPARE(files(QStringLiteral("both")),
+                 QStringList({"manifest.json", "other-left.png", "other-right.png", "small-left.png",
+                              "small-right.png"}));
+    }
+
+    void aBatchGoesOn()
+    {
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,5000\nright,320\n");
+        const Outcome outcome = run({"batch", "small.json", "wrong.json", "-w", "walls.csv", "-o", "some"});
+        QCOMPARE(outcome.code, 3);
+        QCOMPARE(outcome.output, QByteArray("2 of 6 pictures written\n"));
+        QVERIFY(outcome.errors.contains(QStringLiteral(
+            "failed: small-large.png: wall \"large\": publicData.resolutionWidth: 5000 is not in 16..4320")));
+        QVERIFY(outcome.errors.contains(QStringLiteral("failed: wrong-left.png: ")));
+        QCOMPARE(files(QStringLiteral("some")),
+                 QStringList({"manifest.json", "small-left.png", "small-right.png"}));
+    }
+
+    void manifest()
+    {
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,5000\n");
+        QCOMPARE(run({"batch", "small.json", "-w", "walls.csv", "-o", "told"}).code, 3);
+        const QJsonObject told = QJsonDocument::fromJson(read(QStringLiteral("told/manifest.json"))).object();
+        QCOMPARE(told.value("version").toInt(), 1);
+        QCOMPARE(told.value("program").toString(), QStringLiteral("vdchart " VDPATTERNDESIGN_VERSION));
+        const QJsonObject left = told.value("pictures").toArray().at(0).toObject();
+        const QByteArray file = read(QStringLiteral("told/left.png"));
+        QCOMPARE(left.value("file").toString(), QStringLiteral("left.png"));
+        QCOMPARE(left.value("record").toString(), QStringLiteral("small.json"));
+        QCOMPARE(left.value("wall").toString(), QStringLiteral("left"));
+        QCOMPARE(left.value("width").toInt(), 160);
+        QCOMPARE(left.value("height").toInt(), 180);
+        QCOMPARE(left.value("size").toInt(), file.size());
+        QCOMPARE(left.value("sha256").toString().toLatin1(),
+                 QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex());
+        const QJsonObject large = told.value("failed").toArray().at(0).toObject();
+        QCOMPARE(large.value("file").toString(), QStringLiteral("large.png"));
+        QVERIFY(large.value("problem").toString().contains(QStringLiteral("5000")));
+    }
+
+    void anInterruptedBatchTellsWhatItDid()
+    {
+        QByteArray walls = "name,width,height\n";
+        for (int i = 0; i < 200; ++i)
+            walls += "w" + QByteArray::number(i) + ",1920,1080\n";
+        write(QStringLiteral("many.csv"), walls);
+        const Outcome outcome = runInShell(QStringLiteral(
+            "$vdchart batch small.json -w many.csv -o many & "
+            "until ls many/*.png >/dev/null 2>&1; do sleep 0.02; done; kill -TERM $!; wait $!"));
+        QCOMPARE(outcome.code, 130);
+        const QJsonObject told = QJsonDocument::fromJson(read(QStringLiteral("many/manifest.json"))).object();
+        const int done = told.value("pictures").toArray().size();
+        QVERIFY(done > 0 && done < 200);
+        QCOMPARE(done + told.value("failed").toArray().size(), 200);
+        QCOMPARE(files(QStringLiteral("many")).size(), done + 1);
+    }
+
+    void aBarOnATerminal()
+    {
+        const Outcome outcome =
+            runInShell(QStringLiteral("script -qec '$vdchart batch small.json other.json -o bar' /dev/null"));
+        QCOMPARE(outcome.code, 0);
+        QVERIFY2(outcome.output.contains("[........................] 0/2 small.png"),
+                 outcome.output.constData());
+        QVERIFY2(outcome.output.contains("[############............] 1/2 other.png"),
+                 outcome.output.constData());
+    }
+
+    void manualAndCompletions()
+    {
+        const QByteArray man = run({"--generate", "man"}).output;
+        QVERIFY(man.startsWith(".TH VDCHART 1"));
+        for (const char* kind : {"bash", "zsh"}) {
+            const QByteArray script = run({"--generate", QLatin1String(kind)}).output;
+            for (const char* word : {"render", "--compression", "--walls", "zh_CN", "presets --names"})
+                QVERIFY2(script.contains(word), word);
+        }
+        for (const char* option : {"\\-\\-compression", "\\-\\-walls", "vdchart verify", ".SH EXIT STATUS"})
+            QVERIFY2(man.contains(option), option);
+    }
+
+    void bashCompletes_data()
+    {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<QString>("completions");
+        QTest::newRow("command") << "vdchart ren"
+                                 << "render";
+        QTest::newRow("option") << "vdchart render --comp"
+                                << "--compression";
+        QTest::newRow("value") << "vdchart render --lang zh"
+                               << "zh_CN";
+        QTest::newRow("preset") << "vdchart new --preset ramp-1"
+                                << "ramp-16";
+        QTest::newRow("file") << "vdchart render smal"
+                              << "small.json";
+    }
+
+    void bashCompletes()
+    {
+        QFETCH(QString, words);
+        QFETCH(QString, completions);
+        const Outcome outcome = runInShell(
+            QStringLiteral(
+                "PATH=$(dirname $vdchart):$PATH; source <(vdchart --generate bash); COMP_WORDS=(%1); "
+                "COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _vdchart; echo \"${COMPREPLY[@]}\"")
+                .arg(words));
+        QCOMPARE(QString::fromUtf8(outcome.output).trimmed(), completions);
+    }
+};
+
+VD_TEST_MAIN(TestVdchart)
+#include "tst_vdchart.moc"

@@ -1,0 +1,104 @@
+#include "exitcode.h"
+#include "testcase.h"
+#include "walls.h"
+
+class TestWalls : public TestCase
+{
+    Q_OBJECT
+
+private:
+    /// One wall in a line: its name, and its settings.
+    static QStringList shown(const std::vector<Wall>& walls)
+    {
+        QStringList lines;
+        for (const Wall& wall : walls) {
+            QString line = wall.name;
+            for (const std::string& setting : wall.settings)
+                line += QLatin1Char(' ') + QString::fromStdString(setting);
+            lines.append(line);
+        }
+        return lines;
+    }
+
+private Q_SLOTS:
+    void tables_data()
+    {
+        QTest::addColumn<QByteArray>("csv");
+        QTest::addColumn<QStringList>("walls");
+        const QStringList left = {QStringLiteral("left publicData.resolutionWidth=1920")};
+        QTest::newRow("header only") << QByteArray("name,width\n") << QStringList();
+        QTest::newRow("one wall") << QByteArray("name,width\nleft,1920\n") << left;
+        QTest::newRow("no line end at the end") << QByteArray("name,width\nleft,1920") << left;
+        QTest::newRow("line ends of other systems") << QByteArray("name,width\r\nleft,1920\r\n") << left;
+        QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbfname,width\nleft,1920\n") << left;
+        QTest::newRow("blanks and quotes") << QByteArray("name , \"width\"\n \"left\",  1920 \n") << left;
+        QTest::newRow("empty lines") << QByteArray("name,width\n\nleft,1920\n\n") << left;
+        QTest::newRow("columns in another order") << QByteArray("width,name\n1920,left\n") << left;
+        QTest::newRow("an empty cell") << QByteArray("name,width\nleft,\n") << QStringList{"left"};
+        QTest::newRow("every short column")
+            << QByteArray("name,width,height,rows,columns\na,16,32,4,8\n")
+            << QStringList{"a publicData.resolutionWidth=16 publicData.resolutionHeight=32 "
+                           "publicData.boxRow=4 publicData.boxCol=8"};
+        QTest::newRow("a field, a comma and a quote in a cell")
+            << QByteArray("name,selfData.selfText\na,\"up, \"\"left\"\"\"\n")
+            << QStringList{"a selfData.selfText=up, \"left\""};
+        QTest::newRow("other letters")
+            << QByteArray("name\nBühne 屏\n") << QStringList{QString::fromUtf8("Bühne 屏")};
+    }
+
+    void tables()
+    {
+        QFETCH(QByteArray, csv);
+        QFETCH(QStringList, walls);
+        QCOMPARE(shown(readWalls(csv, QStringLiteral("walls.csv"))), walls);
+    }
+
+    void refused_data()
+    {
+        QTest::addColumn<QByteArray>("csv");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("nothing") << QByteArray() << "walls.csv: there is nothing in it";
+        QTest::newRow("no names") << QByteArray("width\n1\n")
+                                  << "walls.csv: row 1: the first row has no column \"name\"";
+        QTest::newRow("unknown column") << QByteArray("name,colour\n")
+                                        << "walls.csv: row 1: the column \"colour\" is neither name, width, "
+                                           "height, rows, columns nor a field of a record";
+        QTest::newRow("a group")
+            << QByteArray("name,publicData\n")
+            << "walls.csv: row 1: the column \"publicData\" is neither name, width, height, rows, "
+               "columns nor a field of a record";
+        QTest::newRow("twice") << QByteArray("name,width,width\n")
+                               << "walls.csv: row 1: there are several columns \"width\"";
+        QTest::newRow("too few cells")
+            << QByteArray("name,width\na,1\nb\n") << "walls.csv: row 3: 1 cells for 2 columns";
+        QTest::newRow("too many cells")
+            << QByteArray("name\na,1\n") << "walls.csv: row 2: 2 cells for 1 columns";
+        QTest::newRow("no name") << QByteArray("name,width\n,1\n") << "walls.csv: row 2: the name is missing";
+        QTest::newRow("a path") << QByteArray("name\n../a\n")
+                                << "walls.csv: row 2: the name \"../a\" has characters that no file name has";
+        QTest::newRow("a hidden file")
+            << QByteArray("name\n.a\n") << "walls.csv: row 2: the name \".a\" begins with a dot";
+        QTest::newRow("a quote that does not end")
+            << QByteArray("name\n\"a\n")
+            << "walls.csv: row 2: not CSV: error parsing data while strict checking enabled";
+        QTest::newRow("a quote within")
+            << QByteArray("name\na\"b\n")
+            << "walls.csv: row 2: not CSV: error parsing data while strict checking enabled";
+    }
+
+    void refused()
+    {
+        QFETCH(QByteArray, csv);
+        QFETCH(QString, message);
+        try {
+            readWalls(csv, QStringLiteral("walls.csv"));
+            QFAIL("it was read");
+        } catch (const Failure& failure) {
+            QCOMPARE(failure.message, message);
+            QCOMPARE(failure.code, ExitCode::Unreadable);
+        }
+    }
+};
+
+VD_TEST_MAIN(TestWalls)
+#include "tst_walls.moc"
