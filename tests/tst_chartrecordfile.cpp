@@ -336,7 +336,7 @@ private Q_SLOTS:
         const QString otherFormat = QStringLiteral("^format: testchart expected$");
         const QString otherVersion = QStringLiteral("^version: 1 expected$");
         const QString newer = QStringLiteral("^version: %1 is newer than 1, the newest that is known$");
-        const QString notJson = QStringLiteral("^not JSON: .+ at byte \\d+$");
+        const QString notJson = QStringLiteral("^not JSON: line \\d+: .+$");
         const QString notUtf8 = QStringLiteral("^not JSON: not UTF-8$");
         QTest::newRow("empty") << QByteArray() << "^not JSON: empty$";
         QTest::newRow("cut at the first quarter") << full.left(full.size() / 4) << notJson;

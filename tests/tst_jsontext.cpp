@@ -65,41 +65,6 @@ private Q_SLOTS:
         QCOMPARE(jsonLine(QJsonArray{1, QJsonObject{{"a", 2}}, QStringLiteral("x")}),
                  QByteArray("[1, {\"a\": 2}, \"x\"]"));
     }
-
-    void repeated_data()
-    {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("none") << QByteArray("{\"a\":{\"a\":\"a\",\"b\":[\"a\",\"a\"]},\"b\":{\"a\":1}}")
-                              << QStringList();
-        QTest::newRow("at the top") << QByteArray("{\"a\":1,\"b\":2,\"a\":3,\"a\":4}") << QStringList("a");
-        QTest::newRow("within") << QByteArray("{\"a\":{\"b\":1,\"b\":2}}") << QStringList("a.b");
-        QTest::newRow("after an inner object")
-            << QByteArray("{\"a\":{\"b\":[{\"c\":{}}],\"b\":2},\"a\":1}") << QStringList({"a.b", "a"});
-        QTest::newRow("written differently")
-            << QByteArray("{\"a\\\"\":1,\"\\u0061\\\"\":2}") << QStringList("a\"");
-        QTest::newRow("what texts hold")
-            << QByteArray("{\"a\":\"{\\\"a\\\":1,\\\"a\\\":2}\\\\\",\"b\":\"\\\\\"}") << QStringList();
-        QTest::newRow("in a list of objects")
-            << QByteArray("[{\"a\":1},{\"a\":1,\"a\":2}]") << QStringList("a");
-        QTest::newRow("deep down") << QByteArray("{\"a\":{\"b\":{\"c\":{\"d\":{\"e\":1,\"e\":2}}}}}")
-                                   << QStringList(QStringLiteral("a.b.….e"));
-        QTest::newRow("long name") << "{\"" + QByteArray(99, 'x') + "\":1,\"" + QByteArray(99, 'x') + "\":1}"
-                                   << QStringList(QString(40, 'x') + QStringLiteral("…"));
-        QTest::newRow("very many") << QByteArray(
-                                          "{\"a\":1,\"a\":1,\"b\":1,\"b\":1,\"c\":1,\"c\":1,\"d\":1,\"d\":1,"
-                                          "\"e\":1,\"e\":1,\"f\":1,\"f\":1,\"g\":1,\"g\":1,"
-                                          "\"h\":1,\"h\":1,\"i\":1,\"i\":1,\"j\":1,\"j\":1,\"k\":1,\"k\":1}")
-                                   << QStringList({"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"});
-    }
-
-    void repeated()
-    {
-        QFETCH(QByteArray, json);
-        QFETCH(QStringList, expected);
-        QCOMPARE(QJsonDocument::fromJson(json).isNull(), false);
-        QCOMPARE(repeatedMembers(json), expected);
-    }
 };
 
 VD_TEST_MAIN(TestJsonText)

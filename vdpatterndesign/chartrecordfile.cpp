@@ -1,5 +1,6 @@
 #include "chartrecordfile.h"
 
+#include "common/jsoncheck.h"
 #include "common/jsontext.h"
 #include "common/nearestname.h"
 #include "common/recordfields.h"
@@ -12,7 +13,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSaveFile>
-#include <QTextCodec>
 
 #include <algorithm>
 
@@ -188,14 +188,6 @@ QString tooLarge(qint64 bytes)
     return QStringLiteral("%1 bytes are more than %2").arg(bytes).arg(largestDocument);
 }
 
-/// Qt's parser takes some broken sequences for characters.
-bool isUtf8(const QByteArray& text)
-{
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
-
 /// What forbids to look at the fields.
 QString headProblem(const QJsonObject& document)
 {
@@ -283,12 +275,13 @@ Reading fromJson(const QByteArray& json, const QString& folder)
         return failed(tooLarge(json.size()));
     if (json.isEmpty())
         return failed(QStringLiteral("not JSON: empty"));
-    if (!isUtf8(json))
-        return failed(QStringLiteral("not JSON: not UTF-8"));
+    const JsonFindings findings = checkedJson(json);
+    if (!findings.error.isEmpty())
+        return failed(QStringLiteral("not JSON: ") + findings.error);
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
-        return failed(QStringLiteral("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset));
+        return failed(QStringLiteral("not JSON: ") + error.errorString());
     if (!document.isObject())
         return failed(QStringLiteral("not an object"));
     const QJsonObject root = document.object();
@@ -297,7 +290,7 @@ Reading fromJson(const QByteArray& json, const QString& folder)
         return failed(problem, root);
 
     Reading reading = {TestChartToolsData(), {}, root};
-    for (const QString& member : repeatedMembers(json))
+    for (const QString& member : findings.repeated)
         reading.problems.append(member + QLatin1String(": stands twice"));
     const QJsonValue schema = root.value(schemaMember);
     if (!schema.isUndefined() && !schema.isString())

@@ -3,9 +3,7 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSet>
 #include <QVariant>
-#include <QVector>
 
 #include <algorithm>
 
@@ -15,7 +13,6 @@ namespace {
 
 constexpr int longestLine = 100;
 constexpr int deepestBroken = 8;
-constexpr int mostRepeated = 10;
 
 class JsonText
 {
@@ -134,96 +131,6 @@ void JsonText::appendScalar(const QJsonValue& value)
     text.append(inArray.constData() + 1, inArray.size() - 2);
 }
 
-/// The members on the way through a well-formed document.
-class MemberScan
-{
-public:
-    explicit MemberScan(const QByteArray& json)
-        : m_json(json)
-    {
-    }
-
-    QStringList repeated();
-
-private:
-    struct Level
-    {
-        bool isObject = false;
-        QString member;
-        QSet<QString> members;
-    };
-
-    QString takeString();
-    void enterMember(const QString& name);
-    QString path() const;
-
-    const QByteArray& m_json;
-    int m_at = 0;
-    QVector<Level> m_levels;
-    QStringList m_repeated;
-};
-
-QStringList MemberScan::repeated()
-{
-    bool nameExpected = false;
-    for (; m_at < m_json.size() && m_repeated.size() < mostRepeated; ++m_at) {
-        const char character = m_json.at(m_at);
-        if (character == '{' || character == '[') {
-            m_levels.append({character == '{', {}, {}});
-            nameExpected = character == '{';
-        } else if (character == '}' || character == ']') {
-            m_levels.removeLast();
-        } else if (character == ',') {
-            nameExpected = m_levels.last().isObject;
-        } else if (character == '"') {
-            const QString text = takeString();
-            if (nameExpected)
-                enterMember(text);
-            nameExpected = false;
-        }
-    }
-    return m_repeated;
-}
-
-/// From the quotation mark at which it stands up to the one that ends the string.
-QString MemberScan::takeString()
-{
-    const int begin = m_at++;
-    bool escaped = false;
-    for (; m_json.at(m_at) != '"'; ++m_at) {
-        if (m_json.at(m_at) == '\\') {
-            escaped = true;
-            ++m_at;
-        }
-    }
-    const QByteArray quoted = m_json.mid(begin, m_at - begin + 1);
-    return escaped ? QJsonDocument::fromJson('[' + quoted + ']').array().at(0).toString()
-                   : QString::fromUtf8(quoted.mid(1, quoted.size() - 2));
-}
-
-void MemberScan::enterMember(const QString& name)
-{
-    Level& level = m_levels.last();
-    level.member = name;
-    const int before = level.members.size();
-    level.members.insert(name);
-    if (level.members.size() == before && !m_repeated.contains(path()))
-        m_repeated.append(path());
-}
-
-/// Of a few levels and a few letters each: a document can nest a thousand objects with names of any length.
-QString MemberScan::path() const
-{
-    QStringList names;
-    for (const Level& level : m_levels) {
-        if (level.isObject)
-            names.append(level.member.size() > 40 ? level.member.left(40) + QChar(0x2026) : level.member);
-    }
-    if (names.size() > 4)
-        names = QStringList{names.at(0), names.at(1), QString(QChar(0x2026)), names.last()};
-    return names.join(QLatin1Char('.'));
-}
-
 } // namespace
 
 QByteArray jsonText(const QJsonObject& document, const QStringList& order)
@@ -238,11 +145,6 @@ QByteArray jsonLine(const QJsonValue& value)
     JsonText json({});
     json.appendLine(value);
     return json.text;
-}
-
-QStringList repeatedMembers(const QByteArray& json)
-{
-    return MemberScan(json).repeated();
 }
 
 } // namespace vardeno::testcharttools

@@ -16,8 +16,4 @@ QByteArray jsonText(const QJsonObject& document, const QStringList& order);
 /// A value on one line.
 QByteArray jsonLine(const QJsonValue& value);
 
-/// The members that an object of the document names twice ("publicData.boxRow"), of which a parser keeps the
-/// last one only: at most ten. `json` must be well-formed.
-QStringList repeatedMembers(const QByteArray& json);
-
 } // namespace vardeno::testcharttools
