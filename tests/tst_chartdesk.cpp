@@ -9,6 +9,8 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
@@ -74,6 +76,41 @@ private:
     {
         return trigger(window, QStringLiteral("New chart")) && click(window, QStringLiteral("Confirm")) &&
                QTest::qWaitFor([&] { return listShown(window); });
+    }
+
+    /// Opens it to be edited, in a later second than the one that names its folder.
+    static bool openFirstChart(MainWindow& window)
+    {
+        QTest::qWait(1100);
+        auto* list = window.findChild<QListWidget*>(QStringLiteral("chartList"));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+        if (!trigger(window, QStringLiteral("Edit chart")))
+            return false;
+        const auto* mask = window.editor()->findChild<QWidget*>(QStringLiteral("maskWidget"));
+        if (!QTest::qWaitFor([&] { return mask->isVisible(); }) ||
+            !QTest::qWaitFor([&] { return mask->isHidden(); })) // painted, and no lock is to come
+            return false;
+        QCoreApplication::processEvents(); // the focus is given back
+        return true;
+    }
+
+    static QJsonObject document(const QString& imagePath)
+    {
+        QFile file(ChartFolderList::recordPath(imagePath));
+        return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                              : QJsonObject();
+    }
+
+    static bool store(const QString& imagePath, const QJsonObject& document)
+    {
+        QFile file(ChartFolderList::recordPath(imagePath));
+        return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+               file.write(QJsonDocument(document).toJson()) > 0;
+    }
+
+    static QString newestChart(const QTemporaryDir& folder)
+    {
+        return ChartFolderList::charts(folder.path()).first().filePath();
     }
 
 private Q_SLOTS:
@@ -168,15 +205,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(addChart(window));
         const QString first = ChartFolderList::charts(folder.path()).first().filePath();
-        QTest::qWait(1100); // the folder of the second chart is named by another second
-
-        auto* list = window.findChild<QListWidget*>(QStringLiteral("chartList"));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
-        QVERIFY(trigger(window, QStringLiteral("Edit chart")));
-        auto* mask = window.editor()->findChild<QWidget*>(QStringLiteral("maskWidget"));
-        QTRY_VERIFY(mask->isVisible());
-        QTRY_VERIFY(mask->isHidden());     // the chart has been painted, and no lock is to come
-        QCoreApplication::processEvents(); // the focus is given back
+        QVERIFY(openFirstChart(window));
         QVERIFY(button(window, QStringLiteral("Apply"))->isEnabled());
         SpinEditBox* rows = rowEntry(window);
         rows->setFocus();
@@ -185,13 +214,67 @@ private Q_SLOTS:
         QTest::keyClick(rows, Qt::Key_Return);
         QVERIFY(click(window, QStringLiteral("Confirm")));
         QTRY_VERIFY(listShown(window));
-        QCOMPARE(list->count(), 1);
+        QCOMPARE(window.findChild<QListWidget*>(QStringLiteral("chartList"))->count(), 1);
 
         QTRY_VERIFY_WITH_TIMEOUT(!QFileInfo::exists(first), 5000);
         const QFileInfoList charts = ChartFolderList::charts(folder.path());
         QCOMPARE(charts.size(), 1);
         const auto reading = ChartRecordFile::read(ChartFolderList::recordPath(charts.first().filePath()));
         QCOMPARE(reading.record.publicData.boxRow, 4);
+    }
+
+    void unknownMembersOutliveAnEdit()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(addChart(window));
+        const QString first = newestChart(folder);
+        QJsonObject record = document(first);
+        record.insert(QStringLiteral("wall"), QJsonObject{{QStringLiteral("hall"), 4}});
+        QVERIFY(store(first, record));
+
+        QVERIFY(openFirstChart(window));
+        QVERIFY(click(window, QStringLiteral("Apply")));
+        QTRY_VERIFY(newestChart(folder) != first);
+        const QString second = newestChart(folder);
+        QTRY_COMPARE(document(second).value(QStringLiteral("wall")), record.value(QStringLiteral("wall")));
+        QVERIFY(click(window, QStringLiteral("Cancel")));
+        QVERIFY(listShown(window));
+
+        QTest::qWait(1100);
+        QVERIFY(addChart(window));
+        QVERIFY(newestChart(folder) != second);
+        QVERIFY(!document(newestChart(folder)).contains(QStringLiteral("wall")));
+    }
+
+    /// The replaced chart's folder is removed, with the pictures in it.
+    void pictureOfTheReplacedChartGoesAlong()
+    {
+        QTemporaryDir folder;
+        MainWindow window(folder.path());
+        window.show();
+        QVERIFY(addChart(window));
+        const QString first = newestChart(folder);
+        QVERIFY(QFileInfo(first).dir().mkdir(QStringLiteral("pictures")));
+        QImage picture(8, 8, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QVERIFY(picture.save(QFileInfo(first).dir().filePath(QStringLiteral("pictures/logo.png"))));
+        QJsonObject record = document(first);
+        QJsonObject logo = record.value(QStringLiteral("logoData")).toObject();
+        logo.insert(QStringLiteral("picturePath"), QStringLiteral("pictures/logo.png"));
+        record.insert(QStringLiteral("logoData"), logo);
+        QVERIFY(store(first, record));
+
+        QVERIFY(openFirstChart(window));
+        QVERIFY(click(window, QStringLiteral("Apply")));
+        QTRY_VERIFY(newestChart(folder) != first);
+        const QString second = newestChart(folder);
+        QTRY_COMPARE(document(second).value(QStringLiteral("logoData")), QJsonValue(logo));
+        QTRY_VERIFY_WITH_TIMEOUT(!QFileInfo::exists(first), 5000);
+        QVERIFY(QFileInfo(second).dir().exists(QStringLiteral("pictures/logo.png")));
+        QCOMPARE(window.editor()->getTestChartToolsData().logoData.picturePath,
+                 QFileInfo(second).dir().filePath(QStringLiteral("pictures/logo.png")).toStdString());
     }
 
     void failureNamesTheFile()

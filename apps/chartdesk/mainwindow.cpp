@@ -70,6 +70,20 @@ void giveLook(const QAbstractScrollArea* area, const QString& sheet)
     area->horizontalScrollBar()->setStyleSheet(sheet);
 }
 
+/// Where the picture lies within the chart's folder, empty for one that lies elsewhere.
+QString pathWithin(const QString& chart, const QString& picture)
+{
+    const QString path = QFileInfo(chart).absoluteDir().relativeFilePath(picture);
+    const bool isWithin = !picture.isEmpty() && QDir::isRelativePath(path) && path != QLatin1String("..") &&
+                          !path.startsWith(QLatin1String("../"));
+    return isWithin ? path : QString();
+}
+
+bool copyFile(const QString& from, const QString& to)
+{
+    return QDir().mkpath(QFileInfo(to).path()) && (QFile::exists(to) || QFile::copy(from, to));
+}
+
 } // namespace
 
 MainWindow::MainWindow(const QString& folder)
@@ -264,6 +278,7 @@ void MainWindow::loadNextThumbnail()
 void MainWindow::addChart()
 {
     m_editedImage.clear();
+    m_document = QJsonObject();
     m_editor->setShowForAdd(true);
     m_editor->setTestImageNum(ChartFolderList::nextNumber(m_folder));
     m_editor->applyRecord(TestChartToolsData());
@@ -286,6 +301,7 @@ void MainWindow::editChart(const QString& imagePath)
         return;
     }
     m_editedImage = imagePath;
+    m_document = reading.document;
     m_editor->setShowForAdd(false);
     m_editor->setCurrentEditNum(QFileInfo(imagePath).fileName());
     m_editor->setLastSavePath(imagePath);
@@ -304,12 +320,7 @@ void MainWindow::openEditor()
 void MainWindow::finishEdit(const TestChartToolsData& record, const QString& imagePath, EditType type)
 {
     if (!imagePath.isEmpty()) {
-        const QString problem = ChartRecordFile::write(ChartFolderList::recordPath(imagePath), record);
-        if (!problem.isEmpty())
-            tellOfFailure(
-                hostText(QStringLiteral("The record of this chart could not be written, so it cannot be "
-                                        "edited later:")),
-                problem);
+        storeRecord(record, imagePath);
         statusBar()->showMessage(hostText(QStringLiteral("Saved:")) + QLatin1Char(' ') + imagePath, 10000);
         m_supersededImage = m_editedImage;
         m_editedImage = imagePath;
@@ -332,6 +343,35 @@ void MainWindow::selectChart(const QString& imagePath)
         if (m_list->item(row)->data(imagePathRole) == imagePath)
             m_list->setCurrentRow(row);
     }
+}
+
+void MainWindow::storeRecord(TestChartToolsData record, const QString& imagePath)
+{
+    const bool isMoved = takePictureAlong(record, imagePath);
+    const QString problem =
+        ChartRecordFile::write(ChartFolderList::recordPath(imagePath), record, m_document);
+    if (!problem.isEmpty())
+        tellOfFailure(hostText(QStringLiteral("The record of this chart could not be written, so it cannot "
+                                              "be edited later:")),
+                      problem);
+    if (isMoved)
+        m_editor->applyRecord(record);
+}
+
+/// A picture in the folder of the replaced chart, which is about to be removed, gets a copy in the new one.
+bool MainWindow::takePictureAlong(TestChartToolsData& record, const QString& imagePath)
+{
+    const QString picture = QString::fromStdString(record.logoData.picturePath);
+    const QString path = m_editedImage.isEmpty() ? QString() : pathWithin(m_editedImage, picture);
+    if (path.isEmpty() || !QFileInfo(picture).isFile())
+        return false;
+    const QString copy = QFileInfo(imagePath).absoluteDir().filePath(path);
+    if (!copyFile(picture, copy)) {
+        tellOfFailure(hostText(QStringLiteral("This chart could not be written:")), copy);
+        return false;
+    }
+    record.logoData.picturePath = copy.toStdString();
+    return true;
 }
 
 void MainWindow::tellOfFailure(const QString& what, const QString& details)

@@ -3,6 +3,7 @@
 #include <vtestcharttools.h>
 
 #include <QFileSystemWatcher>
+#include <QJsonObject>
 #include <QMainWindow>
 
 class QAction;
@@ -45,11 +46,14 @@ private:
     void openEditor();
     void finishEdit(const vardeno::testcharttools::TestChartToolsData& record, const QString& imagePath,
                     vardeno::testcharttools::EditType type);
+    void storeRecord(vardeno::testcharttools::TestChartToolsData record, const QString& imagePath);
+    bool takePictureAlong(vardeno::testcharttools::TestChartToolsData& record, const QString& imagePath);
     void tellOfFailure(const QString& what, const QString& details);
 
     QString m_folder;
     QString m_editedImage;     ///< the chart that is being replaced, empty for a new one
     QString m_supersededImage; ///< replaced, and about to disappear from the disk
+    QJsonObject m_document;    ///< the edited chart's record file as it was read, empty for a new one
     QFileSystemWatcher m_watcher;
     QStackedWidget* m_pages;
     QListWidget* m_list;
