@@ -169,7 +169,11 @@ private:
     /// What is no JSON is taken as a text.
     QJsonValue parsed() const
     {
-        const QJsonArray values = QJsonDocument::fromJson('[' + m_text.toUtf8() + ']').array();
+        const QByteArray inArray = '[' + m_text.toUtf8() + ']';
+        const JsonFindings findings = checkedJson(inArray);
+        if (!findings.error.isEmpty() || !findings.repeated.isEmpty())
+            return m_text;
+        const QJsonArray values = QJsonDocument::fromJson(inArray).array();
         return values.size() == 1 ? values.first() : QJsonValue(m_text);
     }
 
@@ -201,6 +205,13 @@ QString headProblem(const QJsonObject& document)
     if (version != QJsonValue(recordVersion))
         return QStringLiteral("version: %1 expected").arg(recordVersion);
     return {};
+}
+
+QStringList repetitions(QStringList members)
+{
+    for (QString& member : members)
+        member += QLatin1String(": stands twice");
+    return members;
 }
 
 QString pictureText(const QJsonObject& document)
@@ -278,6 +289,8 @@ Reading fromJson(const QByteArray& json, const QString& folder)
     const JsonFindings findings = checkedJson(json);
     if (!findings.error.isEmpty())
         return failed(QStringLiteral("not JSON: ") + findings.error);
+    if (!findings.repeated.isEmpty())
+        return {TestChartToolsData(), repetitions(findings.repeated), {}};
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
@@ -290,8 +303,6 @@ Reading fromJson(const QByteArray& json, const QString& folder)
         return failed(problem, root);
 
     Reading reading = {TestChartToolsData(), {}, root};
-    for (const QString& member : findings.repeated)
-        reading.problems.append(member + QLatin1String(": stands twice"));
     const QJsonValue schema = root.value(schemaMember);
     if (!schema.isUndefined() && !schema.isString())
         reading.problems.append(schemaMember + QLatin1String(": ") + recordvalues::shown(schema) +
