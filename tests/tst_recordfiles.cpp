@@ -1,3 +1,4 @@
+#include "chartfont.h"
 #include "charttool.h"
 
 #include <chartrecordfile.h>
@@ -6,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QTemporaryDir>
 
 using namespace charttool;
@@ -94,6 +96,14 @@ QImage savedAndReadBack(const TestChartToolsData& record, const QString&)
     return host.hears(2) ? QImage(host.last().path) : QImage();
 }
 
+QImage byTheCommandLine(const TestChartToolsData&, const QString& path)
+{
+    QProcess vdchart;
+    vdchart.start(QStringLiteral(VDCHART_PROGRAM),
+                  {QStringLiteral("render"), path, QStringLiteral("-o"), QStringLiteral("-")});
+    return vdchart.waitForFinished() ? QImage::fromData(vdchart.readAllStandardOutput()) : QImage();
+}
+
 /// A way from a record to the pixels of its chart. `path` is the record's file.
 struct Way
 {
@@ -102,7 +112,9 @@ struct Way
 };
 
 const Way firstWay = {"in a fresh editor", inAFreshEditor};
-const Way otherWays[] = {{"in the same editor", inTheSameEditor}, {"saved and read back", savedAndReadBack}};
+const Way otherWays[] = {{"in the same editor", inTheSameEditor},
+                         {"saved and read back", savedAndReadBack},
+                         {"by the command line", byTheCommandLine}};
 
 } // namespace
 
@@ -125,6 +137,15 @@ private:
     }
 
 private Q_SLOTS:
+    /// What the programs do.
+    void initTestCase()
+    {
+        QApplication::setFont(chartFont());
+        VTestChartTools tool;
+        tool.loadLanguageFiles({QStringLiteral(":/translations/en.ts")});
+        tool.switchLanguage(QStringLiteral("en"));
+    }
+
     void cleanupTestCase()
     {
         sameEditor.reset();
