@@ -1,5 +1,72 @@
+#include "arguments.h"
+#include "chartcomparison.h"
+#include "chartrenderer.h"
 #include "commands.h"
-ExitCode runVerify(const Arguments&)
+#include "imageoutput.h"
+#include "recordinput.h"
+
+#include <chartcabinets.h>
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include <iostream>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+constexpr qint64 fileLimit = 512 * 1024 * 1024; ///< bytes
+constexpr qint64 pixelLimit = 64 * 1024 * 1024; ///< more than three of the largest charts
+
+/// Looks at the size before the picture takes its memory.
+QImage readPicture(const QString& path)
 {
-    return ExitCode::Good;
+    QByteArray bytes = readInput(path, fileLimit);
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    const QSize size = reader.size();
+    if (qint64(size.width()) * size.height() > pixelLimit)
+        throw Failure{
+            ExitCode::Unreadable,
+            QStringLiteral("%1: %2 x %3 pixels are too many").arg(inputName(path)).arg(size.width()).arg(size.height())};
+    const QImage image = reader.read();
+    if (image.isNull())
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: %2").arg(inputName(path), reader.errorString())};
+    return image;
+}
+
+ChartComparison::CabinetGrid cabinetsOf(const TestChartToolsData& record)
+{
+    ChartComparison::CabinetGrid grid;
+    grid.columns = record.publicData.boxCol;
+    for (int row = 0; row < record.publicData.boxRow; ++row) {
+        for (int column = 0; column < record.publicData.boxCol; ++column)
+            grid.cabinets.push_back(
+                {ChartCabinets::rect(record, row, column), ChartCabinets::label(record, row, column)});
+    }
+    return grid;
+}
+
+} // namespace
+
+ExitCode runVerify(const Arguments& arguments)
+{
+    const QString path = QString::fromStdString(arguments.image);
+    const QString difference = QString::fromStdString(arguments.difference);
+    const QString format = difference.isEmpty() ? QString() : imageFormat(difference);
+    const auto record = requireRecord(QString::fromStdString(arguments.record), arguments.settings);
+    const QImage expected = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
+    const auto result = ChartComparison::compare(expected, readPicture(path), cabinetsOf(record));
+    if (result.equal) {
+        std::cout << inputName(path).toStdString() << ": this is the chart, pixel for pixel\n";
+        return ExitCode::Good;
+    }
+    for (const QString& sentence : result.sentences())
+        std::cout << inputName(path).toStdString() << ": " << sentence.toStdString() << '\n';
+    if (!difference.isEmpty())
+        writeOutput(difference, encodeImage(result.difference, format, arguments.compression));
+    return ExitCode::Found;
 }

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "finding.h"
+
+#include <QImage>
+#include <QRect>
+
+#include <vector>
+
+namespace ChartComparison {
+
+/// A cabinet of the chart, in chart pixels.
+struct Cabinet
+{
+    QRect rect;
+    QString name; ///< as it is labelled; need not be unique
+};
+
+/// All of them, row by row. Their rectangles may overlap, leave gaps and differ in size by a pixel.
+struct CabinetGrid
+{
+    int columns = 0;
+    std::vector<Cabinet> cabinets;
+};
+
+struct CabinetReport
+{
+    std::vector<Finding> findings;
+    std::vector<QRect> differing; ///< cabinets, in chart pixels
+    qint64 differingPixels = 0;
+    qint64 unexplainedPixels = 0; ///< of them, those in no cabinet that is swapped, missing or turned
+};
+
+/// What differs between two pictures of one size, cabinet by cabinet. Contents that occur more than once
+/// prove no swap.
+CabinetReport compareCabinets(const QImage& expected, const QImage& actual, const CabinetGrid& grid);
+
+} // namespace ChartComparison

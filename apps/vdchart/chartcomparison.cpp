@@ -1,0 +1,388 @@
+#include "chartcomparison.h"
+
+#include "colorchange.h"
+#include "differencepicture.h"
+#include "imagepixels.h"
+#include "imageplacement.h"
+#include "imagescaling.h"
+#include "lossycompression.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace ChartComparison {
+
+namespace {
+
+/// Most of what is compared has to be the same for a finding that leaves something over.
+constexpr double leastEqual = 0.5;
+
+/// With so much of it in its place a chart is not in another scale.
+constexpr double surelyThere = 0.98;
+
+/// One way in which a picture may have come from the chart. In the size of the chart the chart's cabinets are
+/// those of the wall, wherever the chart has gone; else they are where the chart was found.
+struct Way
+{
+    std::vector<Finding> findings;
+    QImage expected;  ///< the chart as it has become
+    QImage actual;    ///< what of the picture is to be it
+    double share = 0; ///< of its pixels that are
+    QPoint at;        ///< of a placement: the chart's origin on the picture
+
+    bool isPlacement() const { return !findings.empty() && findings.front().kind != Kind::Turned; }
+};
+
+class Comparison
+{
+public:
+    Comparison(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
+        : m_expected(expected)
+        , m_actual(actual)
+        , m_grid(grid)
+        , m_sameSize(expected.size() == actual.size())
+    {
+    }
+
+    Result run();
+
+private:
+    void addWay(std::vector<Finding> findings, const QImage& expected, const QImage& actual);
+    void addTurns();
+    void addPlacements();
+
+    bool explainByOneColor();
+    bool explainWhole();
+    bool explainByCabinets();
+    bool explainByColors();
+    bool explainByEdges();
+    bool explainByCompression();
+    bool explainByScaling();
+    bool explainMostByColors();
+    void tellNearest();
+
+    const Way* nearest() const;
+    double nearestShare() const;
+    void tellScalingRest(const Scaling& scaling);
+    void tellRest(const Way& way, const QImage& expected);
+    void tellStranger();
+    void finish(std::vector<Finding> findings);
+
+    const QImage& m_expected;
+    const QImage& m_actual;
+    const CabinetGrid& m_grid;
+    const bool m_sameSize;
+    std::vector<Way> m_ways; ///< the first is that nothing has moved, in one size
+    Result m_result;
+};
+
+double equalShare(const QImage& a, const QImage& b)
+{
+    return double(equalPixels(a, a.rect(), b, {})) / double(pixelCount(a.size()));
+}
+
+QString sizeText(const QSize& size)
+{
+    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+}
+
+Result Comparison::run()
+{
+    if (explainByOneColor())
+        return m_result;
+    if (m_sameSize)
+        addWay({}, m_expected, m_actual);
+    addTurns();
+    addPlacements();
+    if (!explainWhole() && !explainByCabinets() && !explainByColors() && !explainByEdges() &&
+        !explainByCompression() && !explainByScaling() && !explainMostByColors())
+        tellNearest();
+    return m_result;
+}
+
+/// The picture shows the chart where it is, unless something else has been drawn before.
+void Comparison::finish(std::vector<Finding> findings)
+{
+    m_result.findings = std::move(findings);
+    if (m_result.difference.isNull())
+        m_result.difference = differencePicture(m_expected, m_actual, QPoint(), {});
+}
+
+bool Comparison::explainByOneColor()
+{
+    if (!isOneColor(m_actual))
+        return false;
+    const QRgb color = pixelRow(m_actual, 0)[0];
+    const QString sizes =
+        QStringLiteral("%1 instead of %2 pixels").arg(sizeText(m_actual.size()), sizeText(m_expected.size()));
+    if (!isOneColor(m_expected))
+        finish({{Kind::OneColor, QStringLiteral("all of the picture is %1").arg(colorName(color)) +
+                                     (m_sameSize ? QString() : QStringLiteral(", ") + sizes)}});
+    else if (color == pixelRow(m_expected, 0)[0])
+        finish({{Kind::OtherSize, sizes + QStringLiteral("; one color does not tell whether it was scaled, "
+                                                         "cropped or padded")}});
+    else
+        return false;
+    return true;
+}
+
+void Comparison::addWay(std::vector<Finding> findings, const QImage& expected, const QImage& actual)
+{
+    m_ways.push_back({std::move(findings), expected, actual, equalShare(expected, actual), {}});
+}
+
+void Comparison::addTurns()
+{
+    for (const Turn turn : allTurns) {
+        const QImage moved = turned(m_expected, turn);
+        if (moved.size() != m_actual.size())
+            continue;
+        const std::vector<Finding> findings = {{Kind::Turned, turnText(turn)}};
+        if (m_sameSize)
+            addWay(findings, moved, m_actual);
+        else
+            addWay(findings, m_expected, turnedBack(m_actual, turn));
+    }
+}
+
+void Comparison::addPlacements()
+{
+    const std::vector<Placement> placements = findPlacements(m_expected, m_actual);
+    const auto whole = std::count_if(placements.begin(), placements.end(),
+                                     [](const Placement& placement) { return placement.share == 1; });
+    for (const Placement& placement : placements) {
+        const bool elsewhere = placement.share == 1 && whole > 1;
+        const auto findings = placementFindings(m_expected.size(), m_actual, placement, elsewhere);
+        if (m_sameSize)
+            addWay(findings, placedThere(m_expected, m_actual, placement), m_actual);
+        else
+            addWay(findings, m_expected, placedBack(m_expected, m_actual, placement));
+        m_ways.back().at = placement.at;
+        if (m_sameSize)
+            m_ways.back().share = std::min(m_ways.back().share, explainedShare(m_actual, placement));
+    }
+}
+
+/// Tells the first that explains all, and that others do as well.
+bool Comparison::explainWhole()
+{
+    std::vector<std::vector<Finding>> whole;
+    std::optional<QPoint> at;
+    for (const Way& way : m_ways) {
+        if (way.share < 1 || (way.isPlacement() && at))
+            continue;
+        whole.push_back(way.findings);
+        if (way.isPlacement())
+            at = way.at;
+    }
+    const auto colors = m_sameSize ? ColorChange::find(m_expected, m_actual) : std::nullopt;
+    if (colors)
+        whole.push_back({{Kind::ColorsChanged, colors->text()}});
+    if (whole.empty())
+        return false;
+    for (std::size_t i = 1; i < whole.size(); ++i)
+        whole.front().back().text += QStringLiteral("; or %1").arg(whole[i].front().text);
+    if (at && !m_sameSize)
+        m_result.difference = differencePicture(m_expected, m_actual, *at, {});
+    finish(whole.front());
+    return true;
+}
+
+/// What leaves the fewest cabinets to be explained, as far as they all are.
+bool Comparison::explainByCabinets()
+{
+    std::vector<Finding> findings;
+    std::size_t fewest = 0;
+    for (const Way& way : m_ways) {
+        const bool unmoved = way.findings.empty();
+        if (!unmoved && way.share < leastEqual)
+            continue;
+        const CabinetReport report = compareCabinets(way.expected, way.actual, m_grid);
+        const std::size_t told = way.findings.size() + report.differing.size();
+        if (report.unexplainedPixels > 0 || (!findings.empty() && told >= fewest))
+            continue;
+        fewest = told;
+        findings = way.findings;
+        findings.insert(findings.end(), report.findings.begin(), report.findings.end());
+        m_result.difference = differencePicture(way.expected, way.actual, QPoint(), report.differing);
+    }
+    if (findings.empty())
+        return false;
+    finish(findings);
+    return true;
+}
+
+bool Comparison::explainByColors()
+{
+    for (const Way& way : m_ways) {
+        const auto colors = way.isPlacement() ? std::nullopt : ColorChange::find(way.expected, way.actual);
+        if (!colors)
+            continue;
+        std::vector<Finding> findings = way.findings;
+        findings.push_back({Kind::ColorsChanged, colors->text()});
+        finish(findings);
+        return true;
+    }
+    return false;
+}
+
+/// Other colours in another place: the edges between colours tell the place.
+bool Comparison::explainByEdges()
+{
+    for (Placement placement : findPlacements(colorEdges(m_expected), colorEdges(m_actual))) {
+        const QRect shown = QRect(-placement.at, m_actual.size()) & m_expected.rect();
+        const auto colors =
+            ColorChange::find(m_expected.copy(shown), m_actual.copy(shown.translated(placement.at)));
+        if (!colors)
+            continue;
+        placement.wraps =
+            placement.wraps && ColorChange::find(placedThere(m_expected, m_actual, placement), m_actual);
+        std::vector<Finding> findings = placementFindings(m_expected.size(), m_actual, placement, false);
+        findings.push_back({Kind::ColorsChanged, colors->text()});
+        if (!m_sameSize)
+            m_result.difference = differencePicture(m_expected, m_actual, placement.at, {});
+        finish(findings);
+        return true;
+    }
+    return false;
+}
+
+bool Comparison::explainByScaling()
+{
+    const auto scaling = nearestShare() < surelyThere ? findScaling(m_expected, m_actual) : std::nullopt;
+    if (!scaling || (!scaling->failing.empty() && scaling->explained < nearestShare()))
+        return false;
+    finish({scalingFinding(m_expected.size(), m_actual.size(), *scaling)});
+    tellScalingRest(*scaling);
+    return true;
+}
+
+void Comparison::tellScalingRest(const Scaling& scaling)
+{
+    QStringList names;
+    for (const Cabinet& cabinet : m_grid.cabinets) {
+        if (std::any_of(scaling.failing.begin(), scaling.failing.end(),
+                        [&](const QRectF& place) { return place.intersects(cabinet.rect); }))
+            names << cabinet.name;
+    }
+    if (names.isEmpty())
+        return;
+    const int listed = std::min(names.size(), 8);
+    m_result.findings.push_back(
+        {Kind::CabinetDiffers,
+         QStringLiteral("besides, %1: %2%3")
+             .arg(names.size() == 1 ? QStringLiteral("1 cabinet differs")
+                                    : QStringLiteral("%1 cabinets differ").arg(names.size()))
+             .arg(QStringList(names.mid(0, listed)).join(QLatin1String(", ")),
+                  names.size() > listed ? QStringLiteral(", \u2026") : QString())});
+}
+
+bool Comparison::explainByCompression()
+{
+    for (const Way& way : m_ways) {
+        const auto lossy =
+            way.isPlacement() ? std::nullopt : findLossyCompression(way.expected, way.actual, m_grid);
+        if (!lossy)
+            continue;
+        std::vector<Finding> findings = way.findings;
+        findings.push_back(*lossy);
+        finish(findings);
+        return true;
+    }
+    return false;
+}
+
+/// What leaves the fewest pixels over, as long as it leaves less than half of them; or null.
+const Way* Comparison::nearest() const
+{
+    const auto best = std::max_element(m_ways.begin(), m_ways.end(),
+                                       [](const Way& a, const Way& b) { return a.share < b.share; });
+    return best != m_ways.end() && best->share >= leastEqual ? &*best : nullptr;
+}
+
+double Comparison::nearestShare() const
+{
+    const Way* const way = nearest();
+    return way ? way->share : leastEqual;
+}
+
+bool Comparison::explainMostByColors()
+{
+    if (nearestShare() >= surelyThere)
+        return false;
+    for (Way& way : m_ways) {
+        const auto colors = ColorChange::guess(way.expected, way.actual);
+        const QImage changed = colors ? colors->applied(way.expected) : QImage();
+        if (!colors || equalShare(changed, way.actual) <= nearestShare())
+            continue;
+        way.findings.push_back({Kind::ColorsChanged, colors->text()});
+        tellRest(way, changed);
+        return true;
+    }
+    return false;
+}
+
+void Comparison::tellNearest()
+{
+    if (const Way* const way = nearest())
+        tellRest(*way, way->expected);
+    else
+        tellStranger();
+}
+
+void Comparison::tellRest(const Way& way, const QImage& expected)
+{
+    const CabinetReport report = compareCabinets(expected, way.actual, m_grid);
+    m_result.findings = way.findings;
+    m_result.findings.insert(m_result.findings.end(), report.findings.begin(), report.findings.end());
+    m_result.difference = differencePicture(expected, way.actual, QPoint(), report.differing);
+}
+
+/// Cabinets that are all in another place leave little where it was.
+void Comparison::tellStranger()
+{
+    if (m_sameSize) {
+        const CabinetReport report = compareCabinets(m_expected, m_actual, m_grid);
+        if (report.unexplainedPixels * 2 <= report.differingPixels) {
+            tellRest(m_ways.front(), m_expected);
+            return;
+        }
+        const ChannelDifference difference = channelDifference(m_expected, m_actual);
+        finish({{Kind::NotThisChart,
+                 QStringLiteral(
+                     "not this chart: %1 percent of the pixels differ, by up to %2 and in the mean %3 "
+                     "of 255")
+                     .arg(double(report.differingPixels) * 100 / double(pixelCount(m_expected.size())), 0,
+                          'f', 1)
+                     .arg(difference.greatest)
+                     .arg(difference.mean, 0, 'f', 1)}});
+        return;
+    }
+    finish(
+        {{Kind::NotThisChart, QStringLiteral("not this chart: %1 instead of %2 pixels, and no part of it was "
+                                             "found")
+                                  .arg(sizeText(m_actual.size()), sizeText(m_expected.size()))}});
+}
+
+} // namespace
+
+QStringList Result::sentences() const
+{
+    QStringList sentences;
+    for (const Finding& finding : findings)
+        sentences << finding.text;
+    return sentences;
+}
+
+Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& cabinets)
+{
+    const QImage plainExpected = plainColors(expected);
+    const QImage plainActual = plainColors(actual);
+    if (plainExpected == plainActual)
+        return {true, {}, {}};
+    if (expected.isNull() || actual.isNull())
+        return {false, {{Kind::NotThisChart, QStringLiteral("there is no picture")}}, {}};
+    return Comparison(plainExpected, plainActual, cabinets).run();
+}
+
+} // namespace ChartComparison

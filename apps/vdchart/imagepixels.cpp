@@ -1,0 +1,187 @@
+#include "imagepixels.h"
+
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <random>
+
+namespace ChartComparison {
+
+namespace {
+
+QImage rotated(const QImage& image, int degrees)
+{
+    return plainColors(image.transformed(QTransform().rotate(degrees), Qt::FastTransformation));
+}
+
+} // namespace
+
+QImage plainColors(const QImage& image)
+{
+    QImage plain =
+        image.format() == QImage::Format_RGB32 ? image.copy() : image.convertToFormat(QImage::Format_ARGB32);
+    plain.reinterpretAsFormat(QImage::Format_RGB32);
+    plain.setDevicePixelRatio(1);
+    for (int y = 0; y < plain.height(); ++y) {
+        QRgb* const row = pixelRow(plain, y);
+        std::transform(row, row + plain.width(), row, [](QRgb color) { return color | 0xff000000U; });
+    }
+    return plain;
+}
+
+QString colorName(QRgb color)
+{
+    return QStringLiteral("#%1").arg(color & 0xffffffU, 6, 16, QLatin1Char('0'));
+}
+
+bool isOneColor(const QImage& image, const QRect& rect)
+{
+    const QRgb color = pixelRow(image, rect.top())[rect.left()];
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        const QRgb* const row = pixelRow(image, y) + rect.left();
+        if (!std::all_of(row, row + rect.width(), [color](QRgb pixel) { return pixel == color; }))
+            return false;
+    }
+    return true;
+}
+
+bool sameAt(const QImage& a, const QRect& rect, const QImage& b, const QPoint& corner)
+{
+    for (int y = 0; y < rect.height(); ++y) {
+        if (std::memcmp(pixelRow(a, rect.top() + y) + rect.left(), pixelRow(b, corner.y() + y) + corner.x(),
+                        std::size_t(rect.width()) * sizeof(QRgb)) != 0)
+            return false;
+    }
+    return true;
+}
+
+qint64 equalPixels(const QImage& a, const QRect& rect, const QImage& b, const QPoint& corner)
+{
+    qint64 equal = 0;
+    for (int y = 0; y < rect.height(); ++y) {
+        const QRgb* const rowA = pixelRow(a, rect.top() + y) + rect.left();
+        const QRgb* const rowB = pixelRow(b, corner.y() + y) + corner.x();
+        for (int x = 0; x < rect.width(); ++x)
+            equal += rowA[x] == rowB[x] ? 1 : 0;
+    }
+    return equal;
+}
+
+ChannelDifference channelDifference(const QImage& a, const QImage& b)
+{
+    ChannelDifference difference;
+    qint64 sum = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        const uchar* const rowA = a.constScanLine(y);
+        const uchar* const rowB = b.constScanLine(y);
+        for (int i = 0; i < a.width() * 4; ++i) { // the alphas are equal
+            const int channel = std::abs(rowA[i] - rowB[i]);
+            difference.greatest = std::max(difference.greatest, channel);
+            sum += channel;
+        }
+    }
+    difference.mean = double(sum) / (3.0 * double(pixelCount(a.size())));
+    return difference;
+}
+
+BlockMeans blockMeans(const QImage& image, int block)
+{
+    const QSize blocks((image.width() + block - 1) / block, (image.height() + block - 1) / block);
+    BlockMeans means{blocks, std::vector<float>(std::size_t(pixelCount(blocks)) * 3)};
+    std::vector<int> sums(std::size_t(blocks.width()) * 3);
+    for (int top = 0; top < image.height(); top += block) {
+        std::fill(sums.begin(), sums.end(), 0);
+        const int bottom = std::min(top + block, image.height());
+        for (int y = top; y < bottom; ++y) {
+            const QRgb* const row = pixelRow(image, y);
+            for (int x = 0; x < image.width(); ++x) {
+                int* const sum = &sums[std::size_t(x / block) * 3];
+                sum[0] += qRed(row[x]);
+                sum[1] += qGreen(row[x]);
+                sum[2] += qBlue(row[x]);
+            }
+        }
+        for (int i = 0; i < blocks.width() * 3; ++i) {
+            const int width = std::min(block, image.width() - i / 3 * block);
+            means.channels[std::size_t(top / block * blocks.width() * 3 + i)] =
+                float(sums[std::size_t(i)]) / float(width * (bottom - top));
+        }
+    }
+    return means;
+}
+
+std::vector<int> differingBlocks(const BlockMeans& a, const BlockMeans& b, float tolerance)
+{
+    std::vector<int> differing;
+    for (std::size_t i = 0; i < a.channels.size(); i += 3) {
+        const auto differs = [&](std::size_t channel) {
+            return std::abs(a.channels[i + channel] - b.channels[i + channel]) > tolerance;
+        };
+        if (differs(0) || differs(1) || differs(2))
+            differing.push_back(int(i / 3));
+    }
+    return differing;
+}
+
+std::vector<QPoint> samplePoints(const QRect& rect, int count)
+{
+    std::mt19937 random(20261121);
+    std::vector<QPoint> points;
+    for (int i = 0; i < count && !rect.isEmpty(); ++i)
+        points.emplace_back(rect.left() + int(random() % uint(rect.width())),
+                            rect.top() + int(random() % uint(rect.height())));
+    return points;
+}
+
+const std::vector<Turn> allTurns = {Turn::Mirrored, Turn::Flipped,    Turn::Half,       Turn::Right,
+                                    Turn::Left,     Turn::Transposed, Turn::Transversed};
+
+QImage turnedBack(const QImage& image, Turn turn)
+{
+    switch (turn) {
+    case Turn::Mirrored:
+        return image.mirrored(true, false);
+    case Turn::Flipped:
+        return image.mirrored(false, true);
+    case Turn::Half:
+        return image.mirrored(true, true);
+    case Turn::Right:
+        return rotated(image, -90);
+    case Turn::Left:
+        return rotated(image, 90);
+    case Turn::Transposed:
+        return rotated(image, 90).mirrored(true, false);
+    default:
+        return rotated(image, -90).mirrored(true, false);
+    }
+}
+
+QImage turned(const QImage& image, Turn turn)
+{
+    const Turn back = turn == Turn::Right ? Turn::Left : turn == Turn::Left ? Turn::Right : turn;
+    return turnedBack(image, back);
+}
+
+QString turnText(Turn turn)
+{
+    switch (turn) {
+    case Turn::Mirrored:
+        return QStringLiteral("mirrored left to right");
+    case Turn::Flipped:
+        return QStringLiteral("mirrored top to bottom");
+    case Turn::Half:
+        return QStringLiteral("turned by 180 degrees");
+    case Turn::Right:
+        return QStringLiteral("turned by 90 degrees to the right");
+    case Turn::Left:
+        return QStringLiteral("turned by 90 degrees to the left");
+    case Turn::Transposed:
+        return QStringLiteral("mirrored left to right and turned by 90 degrees to the left");
+    default:
+        return QStringLiteral("mirrored left to right and turned by 90 degrees to the right");
+    }
+}
+
+} // namespace ChartComparison

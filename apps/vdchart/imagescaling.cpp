@@ -1,0 +1,197 @@
+#include "imagescaling.h"
+
+#include "imagepixels.h"
+#include "zoomsearch.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ChartComparison {
+
+namespace {
+
+constexpr int blockSide = 8;
+constexpr float blockTolerance = 16;
+constexpr double leastExplained = 0.9; ///< of the picture: with less it is another one
+
+bool isColumnOf(const QImage& image, int x, const QRect& rect, QRgb color)
+{
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        if (pixelRow(image, y)[x] != color)
+            return false;
+    }
+    return true;
+}
+
+bool isRowOf(const QImage& image, int y, const QRect& rect, QRgb color)
+{
+    const QRgb* const row = pixelRow(image, y);
+    return std::all_of(row + rect.left(), row + rect.right() + 1,
+                       [color](QRgb pixel) { return pixel == color; });
+}
+
+/// The picture without the bars of its corner's colour around it.
+QRect withoutBars(const QImage& image)
+{
+    const QRgb bars = pixelRow(image, 0)[0];
+    QRect rect = image.rect();
+    while (rect.height() > 1 && isRowOf(image, rect.top(), rect, bars))
+        rect.setTop(rect.top() + 1);
+    while (rect.height() > 1 && isRowOf(image, rect.bottom(), rect, bars))
+        rect.setBottom(rect.bottom() - 1);
+    while (rect.width() > 1 && isColumnOf(image, rect.left(), rect, bars))
+        rect.setLeft(rect.left() + 1);
+    while (rect.width() > 1 && isColumnOf(image, rect.right(), rect, bars))
+        rect.setRight(rect.right() - 1);
+    return rect;
+}
+
+/// The source of each of `length` pixels, by the conventions that programs follow: the pixel under the
+/// centre, under the near edge, or with the ends on the ends.
+std::vector<int> nearestSources(int source, int length, int convention)
+{
+    std::vector<int> sources;
+    for (int i = 0; i < length; ++i) {
+        const double at = convention == 0   ? (i + 0.5) * source / length
+                          : convention == 1 ? double(i) * source / length
+                                            : i * (source - 1.0) / std::max(1, length - 1) + 0.5;
+        sources.push_back(std::clamp(int(at), 0, source - 1));
+    }
+    return sources;
+}
+
+bool isNearest(const QImage& expected, const QImage& content, int convention)
+{
+    const std::vector<int> columns = nearestSources(expected.width(), content.width(), convention);
+    const std::vector<int> rows = nearestSources(expected.height(), content.height(), convention);
+    for (int y = 0; y < content.height(); ++y) {
+        const QRgb* const source = pixelRow(expected, rows[std::size_t(y)]);
+        const QRgb* const shown = pixelRow(content, y);
+        for (int x = 0; x < content.width(); ++x) {
+            if (shown[x] != source[columns[std::size_t(x)]])
+                return false;
+        }
+    }
+    return true;
+}
+
+bool isNearest(const QImage& expected, const QImage& content)
+{
+    return isNearest(expected, content, 0) || isNearest(expected, content, 1) ||
+           isNearest(expected, content, 2) || plainColors(expected.scaled(content.size())) == content;
+}
+
+/// The chart's places under the squares of the picture that show something else.
+std::vector<QRectF> failingPlaces(const QImage& wanted, const QImage& content, const QRectF& part)
+{
+    const BlockMeans means = blockMeans(content, blockSide);
+    const double fx = part.width() / content.width();
+    const double fy = part.height() / content.height();
+    std::vector<QRectF> places;
+    for (const int block : differingBlocks(blockMeans(wanted, blockSide), means, blockTolerance))
+        places.emplace_back(part.left() + block % means.blocks.width() * blockSide * fx,
+                            part.top() + block / means.blocks.width() * blockSide * fy, blockSide * fx,
+                            blockSide * fy);
+    return places;
+}
+
+double explainedShare(const std::vector<QRectF>& failing, const QSize& content)
+{
+    const double blocks = std::max(1.0, double(pixelCount(content)) / (blockSide * blockSide));
+    return 1 - double(failing.size()) / blocks;
+}
+
+std::optional<Scaling> smoothScaling(const QImage& wanted, const QImage& shown, const QRectF& part,
+                                     const QRect& content)
+{
+    Scaling scaling{part, content, true, 1, failingPlaces(wanted, shown, part)};
+    scaling.explained = explainedShare(scaling.failing, content.size());
+    if (scaling.explained < leastExplained)
+        return std::nullopt;
+    return scaling;
+}
+
+std::optional<Scaling> scaledInto(const QImage& expected, const QImage& actual, const QRect& content)
+{
+    if (content.size() == expected.size() || content.width() < 2 || content.height() < 2)
+        return std::nullopt;
+    const QImage shown = actual.copy(content);
+    const QRectF whole(QPointF(), expected.size());
+    if (isOneColor(shown))
+        return std::nullopt;
+    if (isNearest(expected, shown))
+        return Scaling{whole, content, false, 1, {}};
+    const QImage wanted =
+        plainColors(expected.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return smoothScaling(wanted, shown, whole, content);
+}
+
+std::optional<Scaling> zoomed(const QImage& expected, const QImage& actual)
+{
+    const std::optional<QRectF> part = findZoomedPart(expected, actual);
+    if (!part)
+        return std::nullopt;
+    const QRect nearest = part->toAlignedRect() & expected.rect();
+    const bool exact = isNearest(expected.copy(nearest), actual) ||
+                       isNearest(expected.copy(part->toRect() & expected.rect()), actual);
+    if (exact)
+        return Scaling{*part, actual.rect(), false, 1, {}};
+    return smoothScaling(zoomedPart(expected, *part, actual.size()), actual, *part, actual.rect());
+}
+
+QString percents(double x, double y)
+{
+    const auto text = [](double factor) { return QString::number(factor * 100, 'g', 4); };
+    return text(x) == text(y) ? QStringLiteral("to %1 percent").arg(text(x))
+                              : QStringLiteral("to %1 x %2 percent").arg(text(x), text(y));
+}
+
+} // namespace
+
+std::optional<Scaling> findScaling(const QImage& expected, const QImage& actual)
+{
+    std::optional<Scaling> best;
+    const auto offer = [&](const std::optional<Scaling>& scaling) {
+        if (scaling && (!best || scaling->failing.size() < best->failing.size()))
+            best = scaling;
+    };
+    offer(scaledInto(expected, actual, actual.rect()));
+    const QRect bare = withoutBars(actual);
+    if ((!best || !best->failing.empty()) && bare != actual.rect())
+        offer(scaledInto(expected, actual, bare));
+    if (!best)
+        offer(zoomed(expected, actual));
+    return best;
+}
+
+Finding scalingFinding(const QSize& expected, const QSize& actual, const Scaling& scaling)
+{
+    const QString factor = percents(scaling.content.width() / scaling.part.width(),
+                                    scaling.content.height() / scaling.part.height());
+    const QString how = scaling.smooth ? QStringLiteral("smooth") : QStringLiteral("nearest pixels");
+    QString text = QStringLiteral("scaled %1 (%2)").arg(factor, how);
+    if (scaling.part != QRectF(QPointF(), expected))
+        text = QStringLiteral("zoomed in %1 (%2): shows %3 x %4 pixels of the chart from (%5, %6)")
+                   .arg(factor, how)
+                   .arg(std::lround(scaling.part.width()))
+                   .arg(std::lround(scaling.part.height()))
+                   .arg(std::lround(scaling.part.left()))
+                   .arg(std::lround(scaling.part.top()));
+    if (scaling.content.size() != actual)
+        text += QStringLiteral(", at (%1, %2) between bars, %3 x %4 pixels")
+                    .arg(scaling.content.left())
+                    .arg(scaling.content.top())
+                    .arg(scaling.content.width())
+                    .arg(scaling.content.height());
+    else if (actual != expected)
+        text += QStringLiteral(": %1 x %2 instead of %3 x %4 pixels")
+                    .arg(actual.width())
+                    .arg(actual.height())
+                    .arg(expected.width())
+                    .arg(expected.height());
+    return {Kind::Scaled, text};
+}
+
+} // namespace ChartComparison
