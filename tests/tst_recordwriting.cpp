@@ -60,6 +60,14 @@ TestChartToolsData changedRecord()
     return record;
 }
 
+/// The most that the process has held at once, in KiB.
+long peakMemory()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
 /// No file of the process may grow beyond `bytes` while this lives.
 class FileSizeLimit
 {
@@ -271,10 +279,12 @@ private Q_SLOTS:
         QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(1 << 30)); // which takes no room
 
         const QString path = QDir(m_folder->path()).absoluteFilePath(name);
+        const long before = peakMemory();
         QElapsedTimer time;
         time.start();
         const auto reading = ChartRecordFile::read(path);
         QVERIFY(time.elapsed() < 2000);
+        QVERIFY(peakMemory() - before < 200 * 1024);
         QCOMPARE(reading.problems, QStringList(name == "empty" ? problem : path + ": " + problem));
         QVERIFY(reading.record == TestChartToolsData());
     }
