@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -41,7 +42,7 @@ private:
         process.start(QStringLiteral(VDCHART_PROGRAM), arguments);
         process.write(input);
         process.closeWriteChannel();
-        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
             return {-1, QByteArray(), process.errorString()};
         return {process.exitCode(), process.readAllStandardOutput(),
                 QString::fromUtf8(process.readAllStandardError())};
@@ -56,7 +57,7 @@ private:
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_folder.path());
         process.start(QStringLiteral("bash"), {QStringLiteral("-c"), script});
-        process.waitForFinished(60000);
+        process.waitForFinished(30000);
         return {process.exitCode(), process.readAllStandardOutput(),
                 QString::fromUtf8(process.readAllStandardError())};
     }
@@ -408,6 +409,68 @@ private Q_SLOTS:
                  outcome.output.constData());
         QVERIFY2(outcome.output.contains("[############............] 1/2 other.png"),
                  outcome.output.constData());
+    }
+
+    void verify_data()
+    {
+        QTest::addColumn<QString>("image");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("the chart") << "chart.png" << 0 << "chart.png: this is the chart, pixel for pixel\n";
+        QTest::newRow("as BMP") << "chart.bmp" << 0 << "chart.bmp: this is the chart";
+        QTest::newRow("mirrored") << "mirrored.png" << 1 << "mirrored.png: ";
+        QTest::newRow("two cabinets swapped") << "swapped.png" << 1 << "swapped.png: ";
+        QTest::newRow("another chart") << "other.png" << 1 << "other.png: ";
+        QTest::newRow("missing") << "missing.png" << 3 << "";
+        QTest::newRow("no picture") << "numbers.json" << 3 << "";
+    }
+
+    void verify()
+    {
+        write(
+            QStringLiteral("numbers.json"),
+            run({"new", "-p", "numbering-top-left", "-s", "publicData.resolutionWidth=320", "-s",
+                 "publicData.resolutionHeight=180", "-s", "publicData.boxRow=3", "-s", "publicData.boxCol=4"})
+                .output);
+        QCOMPARE(run({"render", "numbers.json", "-o", "chart.png"}).code, 0);
+        QCOMPARE(run({"render", "numbers.json", "-o", "chart.bmp"}).code, 0);
+        QCOMPARE(run({"render", "small.json", "-o", "other.png"}).code, 0);
+        const QImage chart(path(QStringLiteral("chart.png")));
+        QVERIFY(chart.mirrored(true, false).save(path(QStringLiteral("mirrored.png"))));
+        QImage swapped = chart;
+        QPainter painter(&swapped);
+        painter.drawImage(0, 0, chart, 80, 60, 80, 60);
+        painter.drawImage(80, 60, chart, 0, 0, 80, 60);
+        painter.end();
+        QVERIFY(swapped.save(path(QStringLiteral("swapped.png"))));
+
+        QFETCH(QString, image);
+        QFETCH(int, code);
+        QFETCH(QString, message);
+        const Outcome outcome = run({"verify", image, "numbers.json", "--diff", "difference.png"});
+        QCOMPARE(outcome.code, code);
+        QVERIFY2(outcome.output.startsWith(message.toUtf8()), outcome.output.constData());
+        QCOMPARE(QFile::exists(path(QStringLiteral("difference.png"))), code == 1);
+        QCOMPARE(outcome.errors.isEmpty(), code != 3);
+        QFile::remove(path(QStringLiteral("difference.png")));
+        if (image == QLatin1String("swapped.png"))
+            QVERIFY2(outcome.output.contains("1-1") && outcome.output.contains("2-2"),
+                     outcome.output.constData());
+    }
+
+    void pictureFromTheStandardInput()
+    {
+        const QByteArray picture = run({"render", "small.json", "-o", "-"}).output;
+        QCOMPARE(run({"verify", "-", "small.json"}, picture).code, 0);
+    }
+
+    /// A file of a few bytes that says it has more pixels than the memory.
+    void hugePicture()
+    {
+        write(QStringLiteral("huge.ppm"), "P6 30000 30000 255\n");
+        const Outcome outcome = run({"verify", "huge.ppm", "small.json"});
+        QCOMPARE(outcome.code, 3);
+        QVERIFY2(outcome.errors.contains("30000 x 30000 pixels are too many"), qPrintable(outcome.errors));
     }
 
     void manualAndCompletions()

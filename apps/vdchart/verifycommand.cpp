@@ -29,12 +29,14 @@ QImage readPicture(const QString& path)
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
     if (qint64(size.width()) * size.height() > pixelLimit)
-        throw Failure{
-            ExitCode::Unreadable,
-            QStringLiteral("%1: %2 x %3 pixels are too many").arg(inputName(path)).arg(size.width()).arg(size.height())};
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: %2 x %3 pixels are too many")
+                                                .arg(inputName(path))
+                                                .arg(size.width())
+                                                .arg(size.height())};
     const QImage image = reader.read();
     if (image.isNull())
-        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: %2").arg(inputName(path), reader.errorString())};
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: %2").arg(inputName(path), reader.errorString())};
     return image;
 }
 
