@@ -36,7 +36,7 @@ class Comparison
 {
 public:
     Comparison(const QImage& expected, const QImage& actual, const CabinetGrid& grid);
-    CabinetReport run();
+    CabinetReport run(bool allOrNothing);
 
 private:
     void useGrid(const CabinetGrid& grid);
@@ -46,6 +46,7 @@ private:
     void examine(int cabinet);
     bool explain(int cabinet);
     bool findSource(int cabinet, const QImage& tile, const QString& change);
+    QRect tileRect(int cabinet) const;
     QImage tileOf(const QImage& image, int cabinet) const;
     std::optional<Source> sourceOf(const QImage& tile) const;
     qint64 differingPixels(const QRect& rect) const;
@@ -67,6 +68,7 @@ private:
     QStringList m_names;
     QSize m_tile;
     QHash<quint64, Source> m_contents;
+    QSet<quint64> m_mixtures;
     CabinetReport m_report;
     std::map<int, int> m_shown; ///< the cabinet whose content is shown, by the cabinet that shows it
     std::map<QRgb, QStringList> m_missing;
@@ -84,6 +86,20 @@ quint64 contentHash(const QImage& tile)
             hash = (hash ^ row[x]) * 0x9e3779b97f4a7c15U + (hash >> 31U);
     }
     return hash;
+}
+
+/// The same for a content however it is turned.
+quint64 mixture(const QImage& image, const QRect& rect)
+{
+    quint64 sum = 0;
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        const QRgb* const row = pixelRow(image, y) + rect.left();
+        for (int x = 0; x < rect.width(); ++x) {
+            const quint64 mixed = row[x] * 0x9e3779b97f4a7c15U;
+            sum += mixed ^ (mixed >> 29U);
+        }
+    }
+    return sum;
 }
 
 Comparison::Comparison(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
@@ -131,12 +147,18 @@ void Comparison::measureTile()
 
 QImage Comparison::tileOf(const QImage& image, int cabinet) const
 {
-    return image.copy(QRect(m_rects[std::size_t(cabinet)].topLeft(), m_tile));
+    return image.copy(tileRect(cabinet));
+}
+
+QRect Comparison::tileRect(int cabinet) const
+{
+    return {m_rects[std::size_t(cabinet)].topLeft(), m_tile};
 }
 
 void Comparison::indexContents()
 {
     for (int i = 0; i < int(m_rects.size()) && !m_tile.isEmpty(); ++i) {
+        m_mixtures.insert(mixture(m_expected, tileRect(i)));
         Source& source = m_contents[contentHash(tileOf(m_expected, i))];
         if (source.count++ == 0)
             source.cabinet = i;
@@ -202,6 +224,8 @@ bool Comparison::explain(int cabinet)
         m_missing[pixelRow(m_actual, rect.top())[rect.left()]] << name(cabinet);
         return true;
     }
+    if (!m_mixtures.contains(mixture(m_actual, tileRect(cabinet))))
+        return false;
     const QImage tile = tileOf(m_actual, cabinet);
     if (findSource(cabinet, tile, QString()))
         return true;
@@ -339,14 +363,18 @@ void Comparison::reportOutside()
         {Kind::OutsideCabinets, QStringLiteral("%1, %2").arg(what, firstDifference(m_rest.rect()))});
 }
 
-CabinetReport Comparison::run()
+CabinetReport Comparison::run(bool allOrNothing)
 {
     m_report.differingPixels = differingPixels(m_rest.rect());
     if (m_report.differingPixels == 0)
         return m_report;
     m_mayMiss = mayMiss();
-    for (int i = 0; i < int(m_rects.size()); ++i)
+    for (int i = 0; i < int(m_rects.size()) && !(allOrNothing && !m_unexplained.empty()); ++i)
         examine(i);
+    if (allOrNothing && !m_unexplained.empty()) {
+        m_report.unexplainedPixels = m_report.differingPixels;
+        return m_report;
+    }
     reportSwaps();
     reportMissing();
     report(Kind::CabinetTurned, m_turned, "\u2026 and %1 more turned cabinets");
@@ -357,9 +385,10 @@ CabinetReport Comparison::run()
 
 } // namespace
 
-CabinetReport compareCabinets(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
+CabinetReport compareCabinets(const QImage& expected, const QImage& actual, const CabinetGrid& grid,
+                              bool allOrNothing)
 {
-    return Comparison(expected, actual, grid).run();
+    return Comparison(expected, actual, grid).run(allOrNothing);
 }
 
 } // namespace ChartComparison

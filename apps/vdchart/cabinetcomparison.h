@@ -32,7 +32,9 @@ struct CabinetReport
 };
 
 /// What differs between two pictures of one size, cabinet by cabinet. Contents that occur more than once
-/// prove no swap.
-CabinetReport compareCabinets(const QImage& expected, const QImage& actual, const CabinetGrid& grid);
+/// prove no swap. With `allOrNothing` it ends with the first cabinet that is not explained, and the report is
+/// of use only where there is none.
+CabinetReport compareCabinets(const QImage& expected, const QImage& actual, const CabinetGrid& grid,
+                              bool allOrNothing = false);
 
 } // namespace ChartComparison

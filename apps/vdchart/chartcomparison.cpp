@@ -20,6 +20,11 @@ constexpr double leastEqual = 0.5;
 /// With so much of it in its place a chart is not in another scale.
 constexpr double surelyThere = 0.98;
 
+/// With so much of it in other colours it is nothing else.
+constexpr double surelyColors = 0.9;
+
+constexpr qint64 mostFaultyPixels = 100;
+
 /// One way in which a picture may have come from the chart. In the size of the chart the chart's cabinets are
 /// those of the wall, wherever the chart has gone; else they are where the chart was found.
 struct Way
@@ -52,19 +57,22 @@ private:
     void addPlacements();
 
     bool explainByOneColor();
+    bool explainByFewFaults();
     bool explainWhole();
     bool explainByCabinets();
     bool explainByColors();
     bool explainByEdges();
     bool explainByCompression();
     bool explainByScaling();
-    bool explainMostByColors();
+    bool explainMostByColors(double least);
     void tellNearest();
 
     const Way* nearest() const;
     double nearestShare() const;
     void tellScalingRest(const Scaling& scaling);
     void tellRest(const Way& way, const QImage& expected);
+    void tellReport(std::vector<Finding> findings, const CabinetReport& report, const QImage& expected,
+                    const QImage& actual);
     void tellStranger();
     void finish(std::vector<Finding> findings);
 
@@ -90,12 +98,15 @@ Result Comparison::run()
 {
     if (explainByOneColor())
         return m_result;
+    if (m_sameSize && explainByFewFaults())
+        return m_result;
     if (m_sameSize)
         addWay({}, m_expected, m_actual);
     addTurns();
     addPlacements();
     if (!explainWhole() && !explainByCabinets() && !explainByColors() && !explainByEdges() &&
-        !explainByCompression() && !explainByScaling() && !explainMostByColors())
+        !explainByCompression() && !explainMostByColors(surelyColors) && !explainByScaling() &&
+        !explainMostByColors(leastEqual))
         tellNearest();
     return m_result;
 }
@@ -126,6 +137,16 @@ bool Comparison::explainByOneColor()
     return true;
 }
 
+/// Where few cabinets differ, and hardly a pixel of that has no reason, nothing has happened to the whole.
+bool Comparison::explainByFewFaults()
+{
+    const CabinetReport report = compareCabinets(m_expected, m_actual, m_grid);
+    if (report.differing.size() * 4 > m_grid.cabinets.size() || report.unexplainedPixels > mostFaultyPixels)
+        return false;
+    tellReport({}, report, m_expected, m_actual);
+    return true;
+}
+
 void Comparison::addWay(std::vector<Finding> findings, const QImage& expected, const QImage& actual)
 {
     m_ways.push_back({std::move(findings), expected, actual, equalShare(expected, actual), {}});
@@ -134,12 +155,12 @@ void Comparison::addWay(std::vector<Finding> findings, const QImage& expected, c
 void Comparison::addTurns()
 {
     for (const Turn turn : allTurns) {
-        const QImage moved = turned(m_expected, turn);
-        if (moved.size() != m_actual.size())
+        const QSize size = exchangesSides(turn) ? m_expected.size().transposed() : m_expected.size();
+        if (size != m_actual.size())
             continue;
         const std::vector<Finding> findings = {{Kind::Turned, turnText(turn)}};
         if (m_sameSize)
-            addWay(findings, moved, m_actual);
+            addWay(findings, turned(m_expected, turn), m_actual);
         else
             addWay(findings, m_expected, turnedBack(m_actual, turn));
     }
@@ -191,25 +212,24 @@ bool Comparison::explainWhole()
 /// What leaves the fewest cabinets to be explained, as far as they all are.
 bool Comparison::explainByCabinets()
 {
-    std::vector<Finding> findings;
-    std::size_t fewest = 0;
+    const double unmoved = m_sameSize ? m_ways.front().share : 0.0;
+    const Way* best = nullptr;
+    CabinetReport bestReport;
+    const auto told = [](const Way& way, const CabinetReport& report) {
+        return way.findings.size() + report.differing.size();
+    };
     for (const Way& way : m_ways) {
-        const bool unmoved = way.findings.empty();
-        if (!unmoved && way.share < leastEqual)
+        if (!way.findings.empty() && way.share < std::max(unmoved, leastEqual))
             continue;
-        const CabinetReport report = compareCabinets(way.expected, way.actual, m_grid);
-        const std::size_t told = way.findings.size() + report.differing.size();
-        if (report.unexplainedPixels > 0 || (!findings.empty() && told >= fewest))
+        const CabinetReport report = compareCabinets(way.expected, way.actual, m_grid, true);
+        if (report.unexplainedPixels > 0 || (best && told(way, report) >= told(*best, bestReport)))
             continue;
-        fewest = told;
-        findings = way.findings;
-        findings.insert(findings.end(), report.findings.begin(), report.findings.end());
-        m_result.difference = differencePicture(way.expected, way.actual, QPoint(), report.differing);
+        best = &way;
+        bestReport = report;
     }
-    if (findings.empty())
-        return false;
-    finish(findings);
-    return true;
+    if (best)
+        tellReport(best->findings, bestReport, best->expected, best->actual);
+    return best != nullptr;
 }
 
 bool Comparison::explainByColors()
@@ -306,14 +326,14 @@ double Comparison::nearestShare() const
     return way ? way->share : leastEqual;
 }
 
-bool Comparison::explainMostByColors()
+bool Comparison::explainMostByColors(double least)
 {
     if (nearestShare() >= surelyThere)
         return false;
     for (Way& way : m_ways) {
         const auto colors = ColorChange::guess(way.expected, way.actual);
         const QImage changed = colors ? colors->applied(way.expected) : QImage();
-        if (!colors || equalShare(changed, way.actual) <= nearestShare())
+        if (!colors || equalShare(changed, way.actual) <= std::max(least, nearestShare()))
             continue;
         way.findings.push_back({Kind::ColorsChanged, colors->text()});
         tellRest(way, changed);
@@ -332,10 +352,15 @@ void Comparison::tellNearest()
 
 void Comparison::tellRest(const Way& way, const QImage& expected)
 {
-    const CabinetReport report = compareCabinets(expected, way.actual, m_grid);
-    m_result.findings = way.findings;
-    m_result.findings.insert(m_result.findings.end(), report.findings.begin(), report.findings.end());
-    m_result.difference = differencePicture(expected, way.actual, QPoint(), report.differing);
+    tellReport(way.findings, compareCabinets(expected, way.actual, m_grid), expected, way.actual);
+}
+
+void Comparison::tellReport(std::vector<Finding> findings, const CabinetReport& report,
+                            const QImage& expected, const QImage& actual)
+{
+    findings.insert(findings.end(), report.findings.begin(), report.findings.end());
+    m_result.findings = std::move(findings);
+    m_result.difference = differencePicture(expected, actual, QPoint(), report.differing);
 }
 
 /// Cabinets that are all in another place leave little where it was.

@@ -63,8 +63,10 @@ qint64 equalPixels(const QImage& a, const QRect& rect, const QImage& b, const QP
     for (int y = 0; y < rect.height(); ++y) {
         const QRgb* const rowA = pixelRow(a, rect.top() + y) + rect.left();
         const QRgb* const rowB = pixelRow(b, corner.y() + y) + corner.x();
+        int inRow = 0;
         for (int x = 0; x < rect.width(); ++x)
-            equal += rowA[x] == rowB[x] ? 1 : 0;
+            inRow += rowA[x] == rowB[x] ? 1 : 0;
+        equal += inRow;
     }
     return equal;
 }
@@ -76,11 +78,14 @@ ChannelDifference channelDifference(const QImage& a, const QImage& b)
     for (int y = 0; y < a.height(); ++y) {
         const uchar* const rowA = a.constScanLine(y);
         const uchar* const rowB = b.constScanLine(y);
-        for (int i = 0; i < a.width() * 4; ++i) { // the alphas are equal
+        const int bytes = a.width() * 4; // the alphas are equal
+        int inRow = 0;
+        for (int i = 0; i < bytes; ++i) {
             const int channel = std::abs(rowA[i] - rowB[i]);
             difference.greatest = std::max(difference.greatest, channel);
-            sum += channel;
+            inRow += channel;
         }
+        sum += inRow;
     }
     difference.mean = double(sum) / (3.0 * double(pixelCount(a.size())));
     return difference;
@@ -96,7 +101,8 @@ BlockMeans blockMeans(const QImage& image, int block)
         const int bottom = std::min(top + block, image.height());
         for (int y = top; y < bottom; ++y) {
             const QRgb* const row = pixelRow(image, y);
-            for (int x = 0; x < image.width(); ++x) {
+            const int width = image.width();
+            for (int x = 0; x < width; ++x) {
                 int* const sum = &sums[std::size_t(x / block) * 3];
                 sum[0] += qRed(row[x]);
                 sum[1] += qGreen(row[x]);
@@ -104,9 +110,9 @@ BlockMeans blockMeans(const QImage& image, int block)
             }
         }
         for (int i = 0; i < blocks.width() * 3; ++i) {
-            const int width = std::min(block, image.width() - i / 3 * block);
+            const int columns = std::min(block, image.width() - i / 3 * block);
             means.channels[std::size_t(top / block * blocks.width() * 3 + i)] =
-                float(sums[std::size_t(i)]) / float(width * (bottom - top));
+                float(sums[std::size_t(i)]) / float(columns * (bottom - top));
         }
     }
     return means;

@@ -76,6 +76,11 @@ enum class Turn
 };
 extern const std::vector<Turn> allTurns;
 
+inline bool exchangesSides(Turn turn)
+{
+    return turn >= Turn::Right;
+}
+
 /// `image` turned back: what it was before it was turned.
 QImage turnedBack(const QImage& image, Turn turn);
 

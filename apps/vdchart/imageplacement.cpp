@@ -17,7 +17,7 @@ namespace {
 constexpr int sampleCount = 2000;
 constexpr double leastShare = 0.75;
 constexpr double leastWrapped = 0.6; ///< of the part that the chart has left, where there are faults
-constexpr int mostPlaces = 6;
+constexpr std::size_t mostPlaces = 4;
 
 QRect overlapOnChart(const QImage& expected, const QImage& actual, const QPoint& at)
 {
@@ -109,6 +109,25 @@ QString sizeText(const QSize& size)
     return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
 }
 
+/// By samples.
+std::vector<Placement> likelyPlacements(const QImage& expected, const QImage& actual)
+{
+    std::vector<Placement> found;
+    for (const QPoint& at : candidates(expected, actual)) {
+        if (!isLarge(expected, actual, overlapOnChart(expected, actual, at)))
+            continue;
+        const double sampled = sampledShare(expected, actual, at);
+        if (sampled >= leastShare)
+            found.push_back({at, false, sampled});
+    }
+    std::stable_sort(found.begin(), found.end(), [](const Placement& a, const Placement& b) {
+        return a.share != b.share ? a.share > b.share : a.at.manhattanLength() < b.at.manhattanLength();
+    });
+    if (found.size() > mostPlaces)
+        found.resize(mostPlaces);
+    return found;
+}
+
 /// "10 on the left, 5 at the bottom" of what lies between two rectangles.
 QString sides(const QRect& outer, const QRect& inner)
 {
@@ -144,12 +163,9 @@ QString moveText(const QPoint& at)
 std::vector<Placement> findPlacements(const QImage& expected, const QImage& actual)
 {
     const bool sameSize = expected.size() == actual.size();
-    std::vector<Placement> found;
-    for (const QPoint& at : candidates(expected, actual)) {
-        const QRect overlap = overlapOnChart(expected, actual, at);
-        if (isLarge(expected, actual, overlap) && sampledShare(expected, actual, at) >= leastShare)
-            found.push_back({at, false, share(expected, actual, at)});
-    }
+    std::vector<Placement> found = likelyPlacements(expected, actual);
+    for (Placement& placement : found)
+        placement.share = share(expected, actual, placement.at);
     const auto area = [&](const Placement& p) {
         return pixelCount(overlapOnChart(expected, actual, p.at).size());
     };
@@ -160,8 +176,6 @@ std::vector<Placement> findPlacements(const QImage& expected, const QImage& actu
         found.erase(std::remove_if(found.begin(), found.end(),
                                    [&](const Placement& p) { return !hasMoved(expected, actual, p.at); }),
                     found.end());
-    if (found.size() > mostPlaces)
-        found.resize(mostPlaces);
     for (Placement& placement : found)
         placement.wraps = sameSize && wraps(expected, actual, placement);
     if (!found.empty() && found.front().wraps) { // the longer ways around are the same

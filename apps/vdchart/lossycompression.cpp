@@ -9,7 +9,7 @@ namespace ChartComparison {
 namespace {
 
 constexpr int blockSide = 16; ///< compression halves the colours' resolution, in squares of 8
-constexpr float blockTolerance = 10;
+constexpr float blockTolerance = 16;
 constexpr double mostMean = 8;
 
 /// Compression spares no cabinet that has anything in it; faults do.

@@ -154,6 +154,7 @@ QString percent(double factor)
 void addFactors(std::vector<Candidate>& candidates, const Pairs& pairs)
 {
     const auto whole = [](double factor) { return std::round(factor * 100) / 100; }; // what may have been set
+    const auto isOne = [](double factor) { return std::abs(factor - 1) <= leastFactor; };
     const double all = factor(pairs, -1).value_or(1);
     std::array<double, 3> each{};
     std::array<double, 3> eachWhole{};
@@ -162,11 +163,13 @@ void addFactors(std::vector<Candidate>& candidates, const Pairs& pairs)
         eachWhole[channel] = whole(each[channel]);
     }
     for (const double common : {whole(all), all}) {
-        if (std::abs(common - 1) > leastFactor)
+        if (!isOne(common))
             candidates.push_back(curved(
                 QStringLiteral("brightness at %1 percent").arg(percent(common)),
                 [common](int, int value) { return value * common; }, 1));
     }
+    if (std::all_of(each.begin(), each.end(), isOne))
+        return;
     for (const auto& factors : {eachWhole, each})
         candidates.push_back(curved(
             QStringLiteral("red at %1, green at %2 and blue at %3 percent")

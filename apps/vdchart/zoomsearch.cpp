@@ -84,13 +84,14 @@ std::vector<Match> coarseMatches(const QImage& expected, const QImage& actual)
     const double scale = std::max(1.0, std::max(expected.width(), expected.height()) / double(coarseSide));
     const Plane whole(reduced(expected, (QSizeF(expected.size()) / scale).toSize()));
     const QSizeF largest = QSizeF(actual.size()).scaled(expected.size(), Qt::KeepAspectRatio);
+    const QImage shown = reduced(actual, (largest / scale * 2).toSize());
     std::vector<Match> matches;
     for (double zoom = leastZoom; zoom <= mostZoom; zoom *= zoomStep) {
         const QSize size = (largest / zoom / scale).toSize();
         if (size.width() < 6 || size.height() < 4)
             break;
         Match best;
-        slide(whole, Plane(reduced(actual, size)), scale, best);
+        slide(whole, Plane(reduced(shown, size)), scale, best);
         matches.push_back(best);
     }
     std::sort(matches.begin(), matches.end(),
