@@ -14,10 +14,10 @@ int distance(const QString& a, const QString& b)
 {
     std::vector<int> row(std::size_t(b.size()) + 1);
     std::iota(row.begin(), row.end(), 0);
-    for (int i = 0; i < a.size(); ++i) {
+    for (const QChar letter : a) {
         int diagonal = row[0]++;
         for (std::size_t j = 0; j + 1 < row.size(); ++j) {
-            const int replaced = diagonal + (a[i] == b[int(j)] ? 0 : 1);
+            const int replaced = diagonal + (letter == b[int(j)] ? 0 : 1);
             diagonal = row[j + 1];
             row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
         }
