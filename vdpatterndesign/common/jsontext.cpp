@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <climits>
 
 namespace vardeno::testcharttools {
 
@@ -36,6 +37,7 @@ private:
     void breakLine(int depth) { text.append('\n').append(QByteArray(2 * depth, ' ')); }
 
     QHash<QString, int> m_places;
+    int m_stop = INT_MAX; ///< the size of the text at which a line is known to be too long
 };
 
 QStringList JsonText::sortedKeys(const QJsonObject& object) const
@@ -78,8 +80,11 @@ void JsonText::appendObject(const QJsonObject& object, int depth)
 void JsonText::appendArray(const QJsonArray& array, int depth)
 {
     const int before = text.size();
+    m_stop = text.lastIndexOf('\n') + 1 + longestLine;
     appendLine(array);
-    if (array.isEmpty() || text.size() - text.lastIndexOf('\n') - 1 <= longestLine)
+    const bool fits = array.isEmpty() || text.size() <= m_stop;
+    m_stop = INT_MAX;
+    if (fits)
         return;
     text.truncate(before);
     text.append('[');
@@ -103,6 +108,8 @@ void JsonText::appendLine(const QJsonValue& value)
             text.append(": ");
             appendLine(object.value(key));
             text.append(", ");
+            if (text.size() - 2 > m_stop)
+                return;
         }
         text.chop(object.isEmpty() ? 0 : 2);
         text.append('}');
@@ -112,6 +119,8 @@ void JsonText::appendLine(const QJsonValue& value)
         for (const QJsonValue& item : array) {
             appendLine(item);
             text.append(", ");
+            if (text.size() - 2 > m_stop)
+                return;
         }
         text.chop(array.isEmpty() ? 0 : 2);
         text.append(']');
