@@ -24,14 +24,6 @@ struct Options
     bool headless;
 };
 
-QStringList languageCodes()
-{
-    QStringList codes;
-    for (const Language& language : languages())
-        codes.append(language.code);
-    return codes;
-}
-
 /// Ends the program as the command line parser does on an unknown option.
 [[noreturn]] void refuse(const QString& problem)
 {

@@ -18,19 +18,30 @@ QString nameIn(const QString& file, const QString& code)
     return texts.text(QStringLiteral("ChartDesk"), QStringLiteral("MainWindow"), QStringLiteral("English"));
 }
 
+QString fileOf(const QString& code)
+{
+    return QStringLiteral(":/translations/%1.ts").arg(code);
+}
+
 QVector<Language> readLanguages()
 {
     QVector<Language> found;
-    const QFileInfoList files = QDir(QStringLiteral(":/translations"))
-                                    .entryInfoList({QStringLiteral("*.ts")}, QDir::Files, QDir::Name);
-    for (const QFileInfo& file : files) {
-        const QString code = file.completeBaseName();
-        found.append({code, nameIn(file.filePath(), code), file.filePath()});
-    }
+    for (const QString& code : languageCodes())
+        found.append({code, nameIn(fileOf(code), code), fileOf(code)});
     return found;
 }
 
 } // namespace
+
+QStringList languageCodes()
+{
+    QStringList codes;
+    const QFileInfoList files = QDir(QStringLiteral(":/translations"))
+                                    .entryInfoList({QStringLiteral("*.ts")}, QDir::Files, QDir::Name);
+    for (const QFileInfo& file : files)
+        codes.append(file.completeBaseName());
+    return codes;
+}
 
 const QVector<Language>& languages()
 {

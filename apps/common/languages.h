@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 class QLocale;
 
-/// A language of the chart desk.
+/// A language of the programs.
 struct Language
 {
     QString code; ///< as a language file names it: "en", "zh_CN"
@@ -13,7 +14,10 @@ struct Language
     QString file; ///< where its texts are, in the program's resources
 };
 
-/// All of them, sorted by code. A language file in the resources is all that it takes to be one.
+/// The codes of all of them, sorted. A language file in the resources is all that it takes to be one.
+QStringList languageCodes();
+
+/// All of them, sorted by code. Reads their names from their files.
 const QVector<Language>& languages();
 
 /// The code of the language that suits `locale` best: that of its language and country, else one of its

@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "commands.h"
+#include "languages.h"
 #include "manual.h"
 
 #include <vdpatterndesign_version.h>
@@ -170,9 +171,12 @@ void CommandLine::addSettings(CLI::App* command)
 
 void CommandLine::addLanguage(CLI::App* command)
 {
+    std::vector<std::string> codes;
+    for (const QString& code : languageCodes())
+        codes.push_back(code.toStdString());
     command->add_option("-l,--lang", m_arguments.language, "The language of the resolution line")
         ->type_name("LANGUAGE")
-        ->check(CLI::IsMember({"de", "en", "es", "ja", "zh_CN"}))
+        ->check(CLI::IsMember(codes))
         ->capture_default_str();
 }
 
