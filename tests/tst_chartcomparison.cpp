@@ -454,6 +454,12 @@ private Q_SLOTS:
             [](const QImage& i) { return filled(i.rgbSwapped(), usual().cabinet(1, 1), Qt::black); },
             {Kind::ColorsChanged, Kind::CabinetMissing},
             {"red and blue are swapped", "B-B is missing, all #000000"});
+        add("darker without rounding, and a cabinet missing",
+            [](const QImage& i) {
+                return filled(curved(i, [](int v) { return v / 2; }), usual().cabinet(1, 1), Qt::black);
+            },
+            {Kind::ColorsChanged, Kind::CabinetMissing},
+            {"brightness at 50 percent", "B-B is missing, all #000000"});
         add("darker, and two cabinets swapped",
             [](const QImage& i) {
                 return swapped(curved(i, [](int v) { return v * 0.5; }), usual().cabinet(0, 1),
@@ -552,6 +558,15 @@ private Q_SLOTS:
             {Kind::Lossy},
             {"a little different everywhere, as after lossy compression: by up to 3 and in the "
              "mean 0.42 of 255"});
+        add("noise in half of the cabinets",
+            [](const QImage& i) {
+                std::mt19937 random(1);
+                const QImage noisy =
+                    mapped(i, [&](QRgb c) { return qRgb(qRed(c) ^ int(random() % 4), qGreen(c), qBlue(c)); });
+                return with(i, QRect(0, 0, 240, 320), noisy.copy(0, 0, 240, 320));
+            },
+            Kinds(9, int(Kind::CabinetDiffers)),
+            {"*", "*", "*", "*", "*", "*", "*", "*", "\u2026 and 4 more cabinets that differ"});
     }
     void lossy() { check(usual()); }
 
@@ -602,6 +617,12 @@ private Q_SLOTS:
             {"A-A shows nothing but #55aaff", "A-B shows nothing but #ffaaff"});
         add("twice as large", [](const QImage& i) { return i.scaled(960, 640); }, {Kind::Scaled},
             {"scaled to 200 percent (nearest pixels): 960 x 640 instead of 480 x 320 pixels"});
+        add("two columns missing",
+            [](const QImage& i) {
+                return filled(i, {0, 0, 160, 320}, Qt::black);
+            },
+            {Kind::CabinetMissing},
+            {"8 cabinets are missing, all #000000: A-A, A-B, B-A, B-B, C-A, C-B, D-A, D-B"});
     }
     void ambiguous() { check(chess()); }
 
@@ -624,6 +645,20 @@ private Q_SLOTS:
         QCOMPARE(kinds(result), (Kinds{int(Kind::CabinetSwapped), int(Kind::CabinetDiffers)}));
         QCOMPARE(result.sentences().front(), QStringLiteral("0 shows what belongs to 2"));
         QVERIFY(result.sentences().back().endsWith(QLatin1String("; it looks like 0 and 1 more")));
+    }
+
+    void cabinetsOfOneColorThatAreMissingAreNoColorChange()
+    {
+        Chart chart{TestChartToolsData(), noise({50, 10}), {5, {}}};
+        const QColor colors[] = {Qt::red, Qt::green, Qt::blue, Qt::white, Qt::yellow};
+        for (int column = 0; column < 5; ++column) {
+            const QRect rect(column * 10, 0, 10, 10);
+            chart.image = filled(chart.image, rect, colors[column]);
+            chart.grid.cabinets.push_back({rect, QString::number(column)});
+        }
+        const QImage wall = filled(chart.image, {10, 0, 20, 10}, Qt::black);
+        QCOMPARE(compare(chart.image, wall, chart.grid).sentences(),
+                 QStringList{"2 cabinets are missing, all #000000: 1, 2"});
     }
 
     void namesThatOccurTwiceAreToldWithTheirPlace()
@@ -739,6 +774,11 @@ private Q_SLOTS:
                 return filled(i, {0, 0, 40, 90}, Qt::black);
             },
             {Kind::CabinetMissing}, {"3 cabinets are missing, all #000000: A-A, B-A, C-A"});
+        add("half of it missing",
+            [](const QImage& i) {
+                return filled(i, {0, 0, 80, 90}, Qt::black);
+            },
+            {Kind::CabinetMissing}, {"6 cabinets are missing, all #000000: A-A, A-B, B-A, B-B, C-A, C-B"});
         add("a pixel",
             [](const QImage& i) {
                 return filled(i, {0, 0, 1, 1}, Qt::black);
