@@ -84,8 +84,9 @@ public:
     void add(const QPoint& block, const QPoint& found)
     {
         const QPoint move = block - found;
-        ++m_along[std::size_t(move.x() + m_origin.x())];
-        ++m_across[std::size_t(move.y() + m_origin.y())];
+        const QPoint moved = move + m_origin;
+        ++m_along[std::size_t(moved.x())];
+        ++m_across[std::size_t(moved.y())];
         auto& moves = m_moves[{block.x(), block.y()}];
         if (moves.size() <= rareMatches)
             moves.push_back(move);
@@ -123,6 +124,7 @@ std::vector<QPoint> Votes::best() const
             ++joint[{move.x(), move.y()}];
     }
     std::vector<std::pair<int, QPoint>> ranked;
+    ranked.reserve(joint.size());
     for (const auto& [move, votes] : joint)
         ranked.emplace_back(votes, QPoint(move.first, move.second));
     std::sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) {

@@ -109,10 +109,10 @@ BlockMeans blockMeans(const QImage& image, int block)
                 sum[2] += qBlue(row[x]);
             }
         }
+        float* const channels = means.channels.data() + std::ptrdiff_t(top / block) * blocks.width() * 3;
         for (int i = 0; i < blocks.width() * 3; ++i) {
             const int columns = std::min(block, image.width() - i / 3 * block);
-            means.channels[std::size_t(top / block * blocks.width() * 3 + i)] =
-                float(sums[std::size_t(i)]) / float(columns * (bottom - top));
+            channels[i] = float(sums[std::size_t(i)]) / float(columns * (bottom - top));
         }
     }
     return means;

@@ -90,10 +90,12 @@ std::vector<QRectF> failingPlaces(const QImage& wanted, const QImage& content, c
     const double fx = part.width() / content.width();
     const double fy = part.height() / content.height();
     std::vector<QRectF> places;
-    for (const int block : differingBlocks(blockMeans(wanted, blockSide), means, blockTolerance))
-        places.emplace_back(part.left() + block % means.blocks.width() * blockSide * fx,
-                            part.top() + block / means.blocks.width() * blockSide * fy, blockSide * fx,
-                            blockSide * fy);
+    for (const int block : differingBlocks(blockMeans(wanted, blockSide), means, blockTolerance)) {
+        const int column = block % means.blocks.width();
+        const int row = block / means.blocks.width();
+        places.emplace_back(part.left() + column * blockSide * fx, part.top() + row * blockSide * fy,
+                            blockSide * fx, blockSide * fy);
+    }
     return places;
 }
 

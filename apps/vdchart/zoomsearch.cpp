@@ -29,6 +29,8 @@ struct Plane
     int height = 0;
     std::vector<int> values;
 
+    const int* row(int y) const { return values.data() + std::ptrdiff_t(y) * width; }
+
     explicit Plane(const QImage& image)
         : width(image.width())
         , height(image.height())
@@ -50,8 +52,8 @@ qint64 differenceAt(const Plane& whole, const Plane& part, int left, int top, qi
 {
     qint64 sum = 0;
     for (int y = 0; y < part.height && sum < limit; ++y) {
-        const int* const a = &whole.values[std::size_t((top + y) * whole.width + left)];
-        const int* const b = &part.values[std::size_t(y * part.width)];
+        const int* const a = whole.row(top + y) + left;
+        const int* const b = part.row(y);
         for (int x = 0; x < part.width; ++x)
             sum += std::abs(a[x] - b[x]);
     }
