@@ -54,6 +54,63 @@ private Q_SLOTS:
         }
     }
 
+    void choices_data()
+    {
+        QTest::addColumn<bool>("all");
+        QTest::newRow("nothing is chosen") << false;
+        QTest::newRow("everything is chosen") << true;
+    }
+
+    /// Where only one can be chosen, a record may choose none or all.
+    void choices()
+    {
+        QFETCH(bool, all);
+        TestChartToolsData other;
+        other.publicData.resolutionWidth = 320;
+        other.publicData.resolutionHeight = 200;
+        other.selfData.showResolution = false;
+        TestChartToolsData record = other;
+        other.basicData.chessChecked = false;
+        other.basicData.colorBarChecked = true;
+        other.basicData.colorStripeColors = {{0, Qt::red}, {1, Qt::blue}};
+        other.inLineData.letterMode = false;
+        other.inLineData.combinationMode = true;
+        other.logoData.pictureLogo = false;
+        other.logoData.textLogo = true;
+        for (bool* choice :
+             {&record.basicData.chessChecked, &record.basicData.colorBarChecked,
+              &record.inLineData.letterMode, &record.inLineData.numMode, &record.inLineData.combinationMode,
+              &record.logoData.pictureLogo, &record.logoData.textLogo})
+            *choice = all;
+
+        VTestChartTools used;
+        used.applyRecord(other);
+        used.applyRecord(record);
+        VTestChartTools fresh;
+        fresh.applyRecord(record);
+        VD_COMPARE_IMAGES(used.chartImage(), fresh.chartImage());
+        QVERIFY(used.getTestChartToolsData() == fresh.getTestChartToolsData());
+    }
+
+    void stripesWithoutColors()
+    {
+        TestChartToolsData record;
+        record.publicData.resolutionWidth = 320;
+        record.publicData.resolutionHeight = 200;
+        record.selfData.showResolution = false;
+        record.basicData.chessChecked = false;
+        record.basicData.colorBarChecked = true;
+        TestChartToolsData colored = record;
+        colored.basicData.colorStripeColors = {{0, Qt::red}, {1, Qt::blue}};
+        VTestChartTools used;
+        used.applyRecord(colored);
+        used.applyRecord(record);
+        VTestChartTools fresh;
+        fresh.applyRecord(record);
+        VD_COMPARE_IMAGES(used.chartImage(), fresh.chartImage());
+        QVERIFY(used.getTestChartToolsData() == fresh.getTestChartToolsData());
+    }
+
     void theImageIsTheChart()
     {
         VTestChartTools tool;

@@ -567,7 +567,7 @@ void VTestChartTools::setTestChartToolsData(TestChartToolsData data)
 
 void VTestChartTools::applyRecord(const TestChartToolsData& record)
 {
-    setTestChartToolsData(record);
+    setTestChartToolsData(withChoices(record));
     d->layers.setHeld(true);
     showRecord(getTestChartToolsData(), d->layers);
     d->layers.setHeld(false);

@@ -34,7 +34,8 @@ public:
     void setTestChartToolsData(TestChartToolsData data);
 
     /// Shows `record` as `setTestChartToolsData` does, and then gives every layer every value that the
-    /// controls show. The picture is decided by the record alone, whatever was shown before.
+    /// controls show. The picture is decided by the record alone, whatever was shown before; where it chooses
+    /// neither of two patterns or logos, or no way of labelling, it is the default one.
     void applyRecord(const TestChartToolsData& record);
 
     /// The composed chart in the size of its resolution, opaque, as it is saved.

@@ -90,6 +90,17 @@ void showGrid(const PublicChartData& data, Layer& layer)
 
 } // namespace
 
+TestChartToolsData withChoices(TestChartToolsData record)
+{
+    BasicChartData& basic = record.basicData;
+    basic.chessChecked |= !basic.colorBarChecked;
+    InLineChartData& labels = record.inLineData;
+    labels.letterMode |= !labels.numMode && !labels.combinationMode;
+    LogoChartData& logo = record.logoData;
+    logo.pictureLogo |= !logo.textLogo;
+    return record;
+}
+
 void showRecord(const TestChartToolsData& record, const LayerStack& layers)
 {
     show(record.basicData, *layers.find<PaintBasicWidget>());
