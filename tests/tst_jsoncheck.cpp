@@ -17,7 +17,8 @@ private Q_SLOTS:
              {"{}", "[]", " [ ] \r\n\t", "[1]", "[0, -0, 10.50, 1e5, 1E+5, 2.5e-3, -7]",
               "[true, false, null]",
               "[\"\", \"a\\\"\\\\\\/\\b\\f\\n\\r\\t\\u00e9\\uD83D\\ude42\", \"é🙂\x7f\"]",
-              "{\"\": {\"a\": [{}, [], {\"b\": 1}]}, \"c\": \"}\"}", "\xef\xbb\xbf[1]"})
+              "{\"\": {\"a\": [{}, [], {\"b\": 1}]}, \"c\": \"}\"}", "\xef\xbb\xbf[1]",
+              "[\"a\xef\xbb\xbf\\ufeff\"]"})
             QTest::newRow(json) << QByteArray(json);
         QTest::newRow("deepest") << QByteArray(500, '[') + QByteArray(500, ']');
         QTest::newRow("many one after the other") << "[" + QByteArray("[{}],").repeated(2000) + "[]]";
@@ -68,6 +69,10 @@ private Q_SLOTS:
         QTest::newRow("NUL for a value") << QByteArray("[\0]", 3) << value;
         QTest::newRow("a line break in a text")
             << QByteArray("[\n\"a\n\"]") << "line 2: a control character in a text";
+        const QString mark = QStringLiteral("line 1: a byte order mark begins a text");
+        QTest::newRow("mark in a text") << QByteArray("[\"\xef\xbb\xbfx\"]") << mark;
+        QTest::newRow("mark in a name") << QByteArray("{\"\xef\xbb\xbfx\": 1}") << mark;
+        QTest::newRow("mark as an escape") << QByteArray("[\"\\uFeFf\"]") << mark;
         QTest::newRow("out of range") << QByteArray("[1e999]") << "line 1: a number is out of range";
         QTest::newRow("too deep") << QByteArray(501, '[') + QByteArray(501, ']') << "line 1: nested too deep";
         QTest::newRow("too deep, of objects")

@@ -15,6 +15,7 @@ constexpr int deepest = 500;
 constexpr int mostRepeated = 10;
 constexpr int longestName = 40;
 constexpr int longestPath = 4;
+constexpr char byteOrderMark[] = "\xef\xbb\xbf";
 constexpr char end = '\0'; // no JSON has it outside of texts, and none in them
 
 bool isUtf8(const QByteArray& text)
@@ -75,7 +76,7 @@ private:
 
 JsonFindings JsonCheck::findings()
 {
-    if (m_json.startsWith("\xef\xbb\xbf"))
+    if (m_json.startsWith(byteOrderMark))
         m_at = 3;
     if (!isUtf8(m_json))
         m_findings.error = QStringLiteral("not UTF-8");
@@ -165,6 +166,8 @@ bool JsonCheck::takeEnd(char closing, bool& closed)
 bool JsonCheck::takeString()
 {
     ++m_at;
+    if (m_json.mid(m_at, 3) == byteOrderMark || m_json.mid(m_at, 6).toLower() == "\\ufeff")
+        return refuse("a byte order mark begins a text"); // some of Qt's conversions take it away
     while (next() != '"') {
         if (m_at >= m_json.size())
             return refuse("a text has no end");
