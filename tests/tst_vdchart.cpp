@@ -97,6 +97,7 @@ private Q_SLOTS:
         write(QStringLiteral("other.json"), ChartRecordFile::toJson(other));
         write(QStringLiteral("wrong.json"), ChartRecordFile::toJson(smallRecord()).replace("320", "5000"));
         write(QStringLiteral("broken.json"), "{\"format\": ");
+        write(QStringLiteral("large%2.json"), QByteArray((1 << 20) + 1, ' '));
     }
 
     void help()
@@ -184,6 +185,8 @@ private Q_SLOTS:
                                   << "broken.json: not JSON";
         QTest::newRow("a wrong field") << "wrong.json"
                                        << "wrong.json: publicData.resolutionWidth: 5000 is not in 16..4320";
+        QTest::newRow("a large one, with a percent sign") << "large%2.json"
+                                                          << "large%2.json: more than 1048576 bytes";
         QTest::newRow("endless") << "/dev/zero"
                                  << "/dev/zero: more than 1048576 bytes";
     }

@@ -98,6 +98,20 @@ private Q_SLOTS:
             QCOMPARE(failure.code, ExitCode::Unreadable);
         }
     }
+
+    /// A path may look like a place for the rest of the message.
+    void percentSignsInThePath()
+    {
+        for (const char* csv : {"width\n1\n", "name\n\"a\n"}) {
+            QString message;
+            try {
+                readWalls(csv, QStringLiteral("%2%3.csv"));
+            } catch (const Failure& failure) {
+                message = failure.message;
+            }
+            QVERIFY2(message.startsWith(QStringLiteral("%2%3.csv: row ")), qPrintable(message));
+        }
+    }
 };
 
 VD_TEST_MAIN(TestWalls)

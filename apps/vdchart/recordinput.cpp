@@ -48,7 +48,7 @@ QByteArray readInput(const QString& path, qint64 limit)
     const QByteArray bytes = file.read(limit + 1);
     if (bytes.size() > limit)
         throw Failure{ExitCode::Unreadable,
-                      QStringLiteral("%1: more than %2 bytes").arg(inputName(path)).arg(limit)};
+                      QStringLiteral("%1: more than %2 bytes").arg(inputName(path), QString::number(limit))};
     if (file.error() != QFileDevice::NoError)
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: %2").arg(inputName(path), file.errorString())};

@@ -30,9 +30,8 @@ QImage readPicture(const QString& path)
     const QSize size = reader.size();
     if (qint64(size.width()) * size.height() > pixelLimit)
         throw Failure{ExitCode::Unreadable, QStringLiteral("%1: %2 x %3 pixels are too many")
-                                                .arg(inputName(path))
-                                                .arg(size.width())
-                                                .arg(size.height())};
+                                                .arg(inputName(path), QString::number(size.width()),
+                                                     QString::number(size.height()))};
     const QImage image = reader.read();
     if (image.isNull())
         throw Failure{ExitCode::Unreadable,

@@ -48,10 +48,9 @@ Table parsed(const QByteArray& csv, const QString& source)
     const QString reason = QString::fromLatin1(csv_strerror(csv_error(&parser)));
     csv_free(&parser);
     if (!read)
-        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: row %2: not CSV: %3")
-                                                .arg(source)
-                                                .arg(collector.table.size() + 1)
-                                                .arg(reason)};
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: row %2: not CSV: %3")
+                          .arg(source, QString::number(collector.table.size() + 1), reason)};
     return collector.table;
 }
 
@@ -132,7 +131,7 @@ std::vector<Wall> readWalls(const QByteArray& csv, const QString& source)
     const auto refuse = [&source](std::size_t row, const QString& problem) {
         if (!problem.isEmpty())
             throw Failure{ExitCode::Unreadable,
-                          QStringLiteral("%1: row %2: %3").arg(source).arg(row).arg(problem)};
+                          QStringLiteral("%1: row %2: %3").arg(source, QString::number(row), problem)};
     };
     if (table.empty())
         throw Failure{ExitCode::Unreadable, QStringLiteral("%1: there is nothing in it").arg(source)};
