@@ -10,30 +10,44 @@
 
 #include <csv.h>
 
+#include <new>
+
 using namespace vardeno::testcharttools;
 
 namespace {
 
 using Table = std::vector<QStringList>;
 
-/// Collects what libcsv reads; its functions are called from C and do not throw.
+/// Collects what libcsv reads. Its functions are called from C, whose frames let no exception through.
 struct Collector
 {
     Table table;
     QStringList row;
+    bool isOutOfMemory = false;
+
+    template <typename Step>
+    void take(Step step) noexcept
+    {
+        try {
+            step();
+        } catch (const std::bad_alloc&) {
+            isOutOfMemory = true;
+        }
+    }
 };
 
-void addCell(void* bytes, std::size_t count, void* collector)
+void addCell(void* bytes, std::size_t count, void* data)
 {
-    static_cast<Collector*>(collector)->row.append(
-        QString::fromUtf8(static_cast<const char*>(bytes), int(count)));
+    auto& collector = *static_cast<Collector*>(data);
+    collector.take(
+        [&] { collector.row.append(QString::fromUtf8(static_cast<const char*>(bytes), int(count))); });
 }
 
-void addRow(int, void* collector)
+void addRow(int, void* data)
 {
-    auto& [table, row] = *static_cast<Collector*>(collector);
-    table.push_back(row);
-    row.clear();
+    auto& collector = *static_cast<Collector*>(data);
+    collector.take([&] { collector.table.push_back(collector.row); });
+    collector.row.clear();
 }
 
 Table parsed(const QByteArray& csv, const QString& source)
@@ -47,6 +61,8 @@ Table parsed(const QByteArray& csv, const QString& source)
                       csv_fini(&parser, addCell, addRow, &collector) == 0;
     const QString reason = QString::fromLatin1(csv_strerror(csv_error(&parser)));
     csv_free(&parser);
+    if (collector.isOutOfMemory)
+        throw std::bad_alloc();
     if (!read)
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: row %2: not CSV: %3")
