@@ -15,6 +15,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -23,6 +24,11 @@ constexpr int mostAtOnce = 4; ///< by itself: more do not keep the one that rend
 int atOnce(int wanted)
 {
     return wanted > 0 ? wanted : std::min(QThread::idealThreadCount() + 1, mostAtOnce);
+}
+
+Failure outOfMemory()
+{
+    return {ExitCode::NotWritten, QStringLiteral("out of memory")};
 }
 
 } // namespace
@@ -108,14 +114,19 @@ void Batch::make(Job& job, ChartRenderer& renderer)
         applySettings(record, job.settings,
                       {ExitCode::Unreadable, QStringLiteral("wall \"%1\"").arg(job.picture.wall)});
         m_room->acquire();
+        QSemaphoreReleaser room(*m_room);
         m_encoders.start([this, &job, image = renderer.render(record)] { finish(job, image); });
+        room.cancel(); // the encoder gives it back
     } catch (const Failure& failure) {
         job.fail(failure);
+    } catch (const std::bad_alloc&) {
+        job.fail(outOfMemory());
     }
 }
 
 void Batch::finish(Job& job, const QImage& image)
 {
+    const QSemaphoreReleaser room(*m_room);
     try {
         const QByteArray file =
             encodeImage(image, QString::fromStdString(m_arguments.format), m_arguments.compression);
@@ -125,8 +136,9 @@ void Batch::finish(Job& job, const QImage& image)
         job.picture.sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
     } catch (const Failure& failure) {
         job.fail(failure);
+    } catch (const std::bad_alloc&) { // which a thread may not leave
+        job.fail(outOfMemory());
     }
-    m_room->release();
 }
 
 std::vector<BatchPicture> Batch::pictures() const
