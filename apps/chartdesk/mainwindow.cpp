@@ -132,7 +132,7 @@ void MainWindow::switchLanguage(const QString& language)
 void MainWindow::createActions()
 {
     m_new->setShortcut(QKeySequence::New);
-    m_edit->setShortcut(Qt::CTRL | Qt::Key_E);
+    m_edit->setShortcut(Qt::CTRL + Qt::Key_E);
     m_edit->setEnabled(false);
     m_choose->setShortcut(QKeySequence::Open);
     m_quit->setShortcut(QKeySequence::Quit);

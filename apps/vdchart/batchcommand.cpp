@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr qint64 tableLimit = 16 * 1024 * 1024; ///< bytes
+constexpr qint64 tableLimit = 16LL * 1024 * 1024; ///< bytes
 
 std::atomic<bool> stopWanted{false};
 

@@ -5,6 +5,7 @@
 
 #include <chartcheck.h>
 
+#include <algorithm>
 #include <iostream>
 
 using namespace vardeno::testcharttools;

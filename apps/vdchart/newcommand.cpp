@@ -3,6 +3,7 @@
 #include "presets.h"
 #include "recordinput.h"
 
+#include <algorithm>
 #include <iostream>
 
 using namespace vardeno::testcharttools;

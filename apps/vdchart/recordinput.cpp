@@ -10,7 +10,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr qint64 recordLimit = 1024 * 1024; ///< bytes: records have a few thousand
+constexpr qint64 recordLimit = 1024LL * 1024; ///< bytes: records have a few thousand
 
 bool openInput(QFile& file, const QString& path)
 {

@@ -16,8 +16,8 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr qint64 fileLimit = 512 * 1024 * 1024; ///< bytes
-constexpr qint64 pixelLimit = 64 * 1024 * 1024; ///< more than three of the largest charts
+constexpr qint64 fileLimit = 512LL * 1024 * 1024; ///< bytes
+constexpr qint64 pixelLimit = 64LL * 1024 * 1024; ///< more than three of the largest charts
 
 /// Looks at the size before the picture takes its memory.
 QImage readPicture(const QString& path)

@@ -53,7 +53,8 @@ int keptPicture(int side, float length, int origin, int adjustment)
 {
     if (length >= float(side))
         return origin;
-    return kept(origin, adjustment, -(side / 2), double(float(side / 2) - length));
+    const int half = side / 2;
+    return kept(origin, adjustment, -half, double(float(half) - length));
 }
 
 } // namespace
