@@ -179,6 +179,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         QTest::newRow("missing") << "missing.json"
                                  << "missing.json: No such file";
+        QTest::newRow("no name") << ""
+                                 << ": No file name";
         QTest::newRow("a folder") << "."
                                   << ".: it is a folder";
         QTest::newRow("not JSON") << "broken.json"
@@ -349,6 +351,18 @@ private Q_SLOTS:
         QCOMPARE(files(QStringLiteral("both")),
                  QStringList({"manifest.json", "other-left.png", "other-right.png", "small-left.png",
                               "small-right.png"}));
+    }
+
+    void batchOfTheStandardInput()
+    {
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nright,320\n");
+        const Outcome outcome =
+            run({"batch", "-", "-w", "walls.csv", "-o", "piped"}, read(QStringLiteral("small.json")));
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(files(QStringLiteral("piped")), QStringList({"left.png", "manifest.json", "right.png"}));
+        QCOMPARE(run({"batch", "-", "-w", "walls.csv", "-o", "none"}, "{").code, 3);
+        QCOMPARE(files(QStringLiteral("none")), QStringList({"manifest.json"}));
     }
 
     void aBatchGoesOn()

@@ -17,6 +17,8 @@
 #include <algorithm>
 #include <new>
 
+using namespace vardeno::testcharttools;
+
 namespace {
 
 constexpr int mostAtOnce = 4; ///< by itself: more do not keep the one that renders waiting, and take memory
@@ -107,10 +109,27 @@ ExitCode Batch::run(const std::atomic<bool>& stop)
     return worst;
 }
 
+/// Read once for all its walls, which follow one another: the standard input cannot be read again.
+const TestChartToolsData& Batch::recordAt(const QString& path)
+{
+    if (m_path != path) {
+        m_path = path;
+        m_failure.reset();
+        try {
+            m_record = requireRecord(path, m_arguments.settings);
+        } catch (const Failure& failure) {
+            m_failure = failure;
+        }
+    }
+    if (m_failure)
+        throw Failure(*m_failure);
+    return m_record;
+}
+
 void Batch::make(Job& job, ChartRenderer& renderer)
 {
     try {
-        auto record = requireRecord(job.picture.record, m_arguments.settings);
+        TestChartToolsData record = recordAt(job.picture.record);
         applySettings(record, job.settings,
                       {ExitCode::Unreadable, QStringLiteral("wall \"%1\"").arg(job.picture.wall)});
         m_room->acquire();

@@ -3,10 +3,13 @@
 #include "exitcode.h"
 #include "manifest.h"
 
+#include <testcharttoolsdata.h>
+
 #include <QThreadPool>
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +36,7 @@ public:
 private:
     struct Job;
     void add(const QString& record, const Wall& wall);
+    const vardeno::testcharttools::TestChartToolsData& recordAt(const QString& path);
     void make(Job& job, ChartRenderer& renderer);
     void finish(Job& job, const QImage& image);
 
@@ -41,4 +45,7 @@ private:
     int m_atOnce;
     QThreadPool m_encoders;
     std::unique_ptr<QSemaphore> m_room; ///< for pictures that are worked on
+    std::optional<QString> m_path;      ///< of the last record that was read
+    std::optional<Failure> m_failure;   ///< in reading it
+    vardeno::testcharttools::TestChartToolsData m_record;
 };

@@ -120,7 +120,9 @@ void CommandLine::addBatch()
 {
     CLI::App* command =
         addCommand("batch", "Write the pictures of many records, of many walls, or of both", &runBatch);
-    command->add_option("record", m_arguments.records, "The records")->type_name("RECORD")->required();
+    command->add_option("record", m_arguments.records, "The records; - for the standard input")
+        ->type_name("RECORD")
+        ->required();
     command
         ->add_option(
             "-w,--walls", m_arguments.walls,
