@@ -51,10 +51,22 @@ ChartComparison::CabinetGrid cabinetsOf(const TestChartToolsData& record)
     return grid;
 }
 
+/// The standard streams serve one purpose at a time.
+void requireDistinct(const Arguments& arguments)
+{
+    if (arguments.image == "-" && arguments.record == "-")
+        throw Failure{ExitCode::Usage,
+                      QStringLiteral("picture and record cannot both come from the standard input")};
+    if (arguments.difference == "-")
+        throw Failure{ExitCode::Usage, QStringLiteral("--diff: a file is needed, for the standard output "
+                                                      "gets what was found")};
+}
+
 } // namespace
 
 ExitCode runVerify(const Arguments& arguments)
 {
+    requireDistinct(arguments);
     const QString path = QString::fromStdString(arguments.image);
     const QString difference = QString::fromStdString(arguments.difference);
     const QString format = difference.isEmpty() ? QString() : imageFormat(difference);
