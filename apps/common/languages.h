@@ -6,7 +6,7 @@
 
 class QLocale;
 
-/// A language of the programs.
+/// A language that the programs speak.
 struct Language
 {
     QString code; ///< as a language file names it: "en", "zh_CN"
