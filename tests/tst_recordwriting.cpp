@@ -374,7 +374,8 @@ private Q_SLOTS:
         QCOMPARE(chmod(QFile::encodeName(path), 0666), 0);
         QCOMPARE(chmod(QFile::encodeName(m_folder->path()), 0555), 0);
         const bool isRoot = geteuid() == 0; // for whom no folder is locked
-        QVERIFY(!isRoot || seteuid(65534) == 0);
+        if (isRoot && seteuid(65534) != 0)
+            QSKIP("root may not be another user here");
         const QString problem = ChartRecordFile::write(path, changedRecord());
         QVERIFY(!isRoot || seteuid(0) == 0);
         QCOMPARE(chmod(QFile::encodeName(m_folder->path()), 0700), 0);
