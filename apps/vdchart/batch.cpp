@@ -113,13 +113,14 @@ ExitCode Batch::run(const std::atomic<bool>& stop)
 const TestChartToolsData& Batch::recordAt(const QString& path)
 {
     if (m_path != path) {
-        m_path = path;
+        m_path.reset();
         m_failure.reset();
         try {
             m_record = requireRecord(path, m_arguments.settings);
         } catch (const Failure& failure) {
             m_failure = failure;
         }
+        m_path = path;
     }
     if (m_failure)
         throw Failure(*m_failure);
