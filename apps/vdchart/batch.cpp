@@ -10,12 +10,12 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
-#include <QSemaphore>
 #include <QSet>
 #include <QThread>
 
 #include <algorithm>
 #include <new>
+#include <system_error>
 
 using namespace vardeno::testcharttools;
 
@@ -51,9 +51,7 @@ struct Batch::Job
 Batch::Batch(const Arguments& arguments, const std::vector<Wall>& walls)
     : m_arguments(arguments)
     , m_atOnce(atOnce(arguments.jobs))
-    , m_room(std::make_unique<QSemaphore>(m_atOnce))
 {
-    m_encoders.setMaxThreadCount(m_atOnce);
     for (const std::string& record : arguments.records) {
         for (const Wall& wall : walls)
             add(QString::fromStdString(record), wall);
@@ -70,7 +68,7 @@ Batch::Batch(const Arguments& arguments, const std::vector<Wall>& walls)
 
 Batch::~Batch()
 {
-    m_encoders.waitForDone();
+    waitForEncoders(0);
 }
 
 void Batch::add(const QString& record, const Wall& wall)
@@ -102,7 +100,7 @@ ExitCode Batch::run(const std::atomic<bool>& stop)
         else
             make(*job, renderer);
     }
-    m_encoders.waitForDone();
+    waitForEncoders(0);
     ExitCode worst = ExitCode::Good;
     for (const auto& job : m_jobs)
         worst = std::max(worst, job->code);
@@ -133,10 +131,8 @@ void Batch::make(Job& job, ChartRenderer& renderer)
         TestChartToolsData record = recordAt(job.picture.record);
         applySettings(record, job.settings,
                       {ExitCode::Unreadable, QStringLiteral("wall \"%1\"").arg(job.picture.wall)});
-        m_room->acquire();
-        QSemaphoreReleaser room(*m_room);
-        m_encoders.start([this, &job, image = renderer.render(record)] { finish(job, image); });
-        room.cancel(); // the encoder gives it back
+        waitForEncoders(m_atOnce - 1);
+        encode(job, renderer.render(record));
     } catch (const Failure& failure) {
         job.fail(failure);
     } catch (const std::bad_alloc&) {
@@ -144,9 +140,26 @@ void Batch::make(Job& job, ChartRenderer& renderer)
     }
 }
 
+void Batch::encode(Job& job, const QImage& image)
+{
+    try {
+        m_encoders.emplace_back([this, &job, image] { finish(job, image); });
+    } catch (const std::system_error&) { // no thread is to be had
+        finish(job, image);
+    }
+}
+
+/// Until no more than `count` are at work. They take about as long as one another: the first one ends first.
+void Batch::waitForEncoders(int count)
+{
+    while (int(m_encoders.size()) > count) {
+        m_encoders.front().join();
+        m_encoders.pop_front();
+    }
+}
+
 void Batch::finish(Job& job, const QImage& image)
 {
-    const QSemaphoreReleaser room(*m_room);
     try {
         const QByteArray file =
             encodeImage(image, QString::fromStdString(m_arguments.format), m_arguments.compression);

@@ -5,16 +5,15 @@
 
 #include <testcharttoolsdata.h>
 
-#include <QThreadPool>
-
 #include <atomic>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 class ChartRenderer;
-class QSemaphore;
 struct Arguments;
 struct Wall;
 
@@ -38,13 +37,14 @@ private:
     void add(const QString& record, const Wall& wall);
     const vardeno::testcharttools::TestChartToolsData& recordAt(const QString& path);
     void make(Job& job, ChartRenderer& renderer);
+    void encode(Job& job, const QImage& image);
+    void waitForEncoders(int count);
     void finish(Job& job, const QImage& image);
 
     const Arguments& m_arguments;
     std::vector<std::unique_ptr<Job>> m_jobs;
-    int m_atOnce;
-    QThreadPool m_encoders;
-    std::unique_ptr<QSemaphore> m_room; ///< for pictures that are worked on
+    int m_atOnce;                       ///< encoders at the most
+    std::deque<std::thread> m_encoders; ///< at work, in the order of their pictures
     std::optional<QString> m_path;      ///< of the last record that was read
     std::optional<Failure> m_failure;   ///< in reading it
     vardeno::testcharttools::TestChartToolsData m_record;
