@@ -434,6 +434,23 @@ private Q_SLOTS:
         QCOMPARE(files(QStringLiteral("many")).size(), done + 1);
     }
 
+    /// Where memory lacks for pictures or for threads, the batch fails as it may, but does not wait for ever.
+    void aBatchWithoutMemoryEnds()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("the sanitizer needs addresses without a limit");
+#endif
+        write(QStringLiteral("largest.json"), run({"new", "-p", "square-4320"}).output);
+        write(QStringLiteral("eight.csv"), "name\na\nb\nc\nd\ne\nf\ng\nh\n");
+        for (const char* limit : {"300000", "400000", "500000"}) {
+            const Outcome outcome = runInShell(
+                QStringLiteral("ulimit -v %1; timeout -k 1 8 $vdchart batch largest.json -w eight.csv -j 4 "
+                               "-f bmp -o poor")
+                    .arg(QLatin1String(limit)));
+            QVERIFY2(outcome.code != 124 && outcome.code != 137, limit); // stopped after the time
+        }
+    }
+
     void aBarOnATerminal()
     {
         if (runInShell(QStringLiteral("script -qec true /dev/null")).code != 0)
