@@ -140,8 +140,11 @@ QStringList hostSources()
         QStringLiteral("(?:hostText|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
                        "QStringLiteral\\(((?:\\s*\"[^\"]*\")+)\\)\\)"));
     QStringList found;
-    const QDir sources(QStringLiteral(VD_SOURCE_DIR "/apps/chartdesk"));
-    for (const QFileInfo& info : sources.entryInfoList({QStringLiteral("*.cpp")}, QDir::Files)) {
+    QFileInfoList sources;
+    for (const char* folder : {"/apps/chartdesk", "/apps/common"})
+        sources += QDir(QLatin1String(VD_SOURCE_DIR) + QLatin1String(folder))
+                       .entryInfoList({QStringLiteral("*.cpp")}, QDir::Files);
+    for (const QFileInfo& info : qAsConst(sources)) {
         QFile file(info.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return {};
