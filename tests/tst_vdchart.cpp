@@ -269,6 +269,61 @@ private Q_SLOTS:
         QCOMPARE(piped.output, read(QStringLiteral("file.png")));
     }
 
+    /// Record and picture arrive in parts, as through a network.
+    void slowStreams()
+    {
+        const Outcome slow = runInShell(QStringLiteral(
+            "set -o pipefail; { head -c 99 small.json; sleep 0.3; tail -c +100 small.json; } | "
+            "$vdchart render - -c 0 -o slow.png && "
+            "{ head -c 9999 slow.png; sleep 0.3; tail -c +10000 slow.png; } | $vdchart verify - small.json"));
+        QCOMPARE(slow.errors, QString());
+        QCOMPARE(slow.code, 0);
+    }
+
+    /// The picture is not to go where the toolkit has opened something in the place of the standard output.
+    void closedStreams_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("output") << "$vdchart render small.json -o - >&-" << 4
+                                << "standard output: Bad file descriptor";
+        QTest::newRow("text") << "$vdchart presets >&-" << 4 << "standard output: ";
+        QTest::newRow("input") << "$vdchart render - -o - <&-" << 3 << "standard input: Bad file descriptor";
+        QTest::newRow("none that is needed")
+            << "$vdchart render small.json -o closed.png <&- >&- 2>&-" << 0 << "";
+    }
+
+    void closedStreams()
+    {
+        QFETCH(QString, script);
+        QFETCH(int, code);
+        QFETCH(QString, message);
+        const Outcome outcome = runInShell(script);
+        QCOMPARE(outcome.code, code);
+        QVERIFY2(outcome.errors.contains(message), qPrintable(outcome.errors));
+    }
+
+    /// Which would have other fonts, or no display.
+    void theDesktopDoesNotMatter_data()
+    {
+        QTest::addColumn<QString>("environment");
+        QTest::newRow("without a display") << "-u DISPLAY QT_QPA_PLATFORM=xcb";
+        QTest::newRow("another platform") << "QT_QPA_PLATFORM=minimal";
+        QTest::newRow("a scaled desktop") << "QT_SCALE_FACTOR=2 QT_FONT_DPI=192";
+        QTest::newRow("another language") << "LC_ALL=tr_TR.UTF-8";
+        QTest::newRow("nothing") << "-i";
+    }
+
+    void theDesktopDoesNotMatter()
+    {
+        QFETCH(QString, environment);
+        const Outcome outcome =
+            runInShell(QStringLiteral("env %1 $vdchart render small.json -o -").arg(environment));
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.output, run({"render", "small.json", "-o", "-"}).output);
+    }
+
     void settings()
     {
         QCOMPARE(run({"render", "small.json", "-o", "wide.png", "-s", "publicData.resolutionWidth=400"}).code,

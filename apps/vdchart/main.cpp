@@ -7,6 +7,9 @@
 #include <iostream>
 #include <new>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 /// The editor's log is for its developers: what matters to a user of this program, the commands say
@@ -17,14 +20,24 @@ void printMessage(QtMsgType type, const QMessageLogContext&, const QString& mess
         std::cerr << "vdchart: " << message.toStdString() << '\n';
 }
 
+/// The place of a closed stream would go to what is opened next, which would then be read or written in its
+/// stead.
+void holdClosedStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY); // so that its use still fails
+    }
+}
+
 /// A full disk, a file size limit and a closed pipe are errors of the write that meets them, with a message.
 void prepareProcess()
 {
+    holdClosedStreams();
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     qInstallMessageHandler(printMessage);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // another one has other fonts, and may need a display
 }
 
 /// What was printed may still wait for its write, which may fail.

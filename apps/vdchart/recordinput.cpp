@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace vardeno::testcharttools;
@@ -11,6 +12,20 @@ using namespace vardeno::testcharttools;
 namespace {
 
 constexpr qint64 recordLimit = 1024LL * 1024; ///< bytes: records have a few thousand
+constexpr qint64 partSize = 1024LL * 1024;    ///< bytes that are read at once
+
+/// A pipe hands over what has arrived, which may be a part of it.
+QByteArray readUpTo(QFile& file, qint64 limit)
+{
+    QByteArray bytes;
+    while (bytes.size() < limit) {
+        const QByteArray part = file.read(std::min(limit - bytes.size(), partSize));
+        if (part.isEmpty())
+            break;
+        bytes += part;
+    }
+    return bytes;
+}
 
 bool openInput(QFile& file, const QString& path)
 {
@@ -45,7 +60,7 @@ QByteArray readInput(const QString& path, qint64 limit)
     if (!openInput(file, path))
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: %2").arg(inputName(path), file.errorString())};
-    const QByteArray bytes = file.read(limit + 1);
+    const QByteArray bytes = readUpTo(file, limit + 1);
     if (bytes.size() > limit)
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: more than %2 bytes").arg(inputName(path), QString::number(limit))};
@@ -55,9 +70,22 @@ QByteArray readInput(const QString& path, qint64 limit)
     return bytes;
 }
 
+namespace {
+
+/// A batch comes back to its record for every wall.
+QByteArray recordBytes(const QString& path)
+{
+    if (path != QLatin1String("-"))
+        return readInput(path, recordLimit);
+    static const QByteArray standardInput = readInput(path, recordLimit);
+    return standardInput;
+}
+
+} // namespace
+
 ChartRecordFile::Reading readRecord(const QString& path, const std::vector<std::string>& settings)
 {
-    const QByteArray json = readInput(path, recordLimit);
+    const QByteArray json = recordBytes(path);
     const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
     ChartRecordFile::Reading reading = ChartRecordFile::fromJson(json, folder);
     applySettings(reading.record, settings);
