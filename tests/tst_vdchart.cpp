@@ -97,6 +97,8 @@ private Q_SLOTS:
         write(QStringLiteral("other.json"), ChartRecordFile::toJson(other));
         write(QStringLiteral("wrong.json"), ChartRecordFile::toJson(smallRecord()).replace("320", "5000"));
         write(QStringLiteral("broken.json"), "{\"format\": ");
+        write(QStringLiteral("manifest.json"), ChartRecordFile::toJson(smallRecord()));
+        write(QStringLiteral("taken.png"), "not to be written over");
         write(QStringLiteral("large%2.json"), QByteArray((1 << 20) + 1, ' '));
     }
 
@@ -138,6 +140,17 @@ private Q_SLOTS:
         QTest::newRow("the same name twice")
             << QStringList{"batch", "small.json", "./small.json", "-o", "out"}
             << "two pictures would be called small.png";
+        QTest::newRow("the standard input twice") << QStringList{"check", "-", "-"} << "-: stands twice";
+        QTest::newRow("record and walls from one input")
+            << QStringList{"batch", "-", "-w", "-", "-o", "out"} << "-: stands twice";
+        QTest::newRow("record and picture from one input")
+            << QStringList{"verify", "-", "-"} << "-: stands twice";
+        QTest::newRow("the differences over the picture")
+            << QStringList{"verify", "taken.png", "small.json", "-d", "./taken.png"}
+            << "./taken.png: is the picture that is looked at";
+        QTest::newRow("the manifest over a record")
+            << QStringList{"batch", "small.json", "manifest.json", "-o", "."}
+            << "manifest.json: the batch would write its manifest over it";
     }
 
     void wrongUsage()

@@ -48,11 +48,23 @@ void report(const std::vector<BatchPicture>& pictures)
     std::cout << pictures.size() - failed << " of " << pictures.size() << " pictures written\n";
 }
 
+/// As the second of two batches in the folder of their records would do it.
+void keepRecords(const Arguments& arguments, const QString& manifest)
+{
+    for (const std::string& record : arguments.records) {
+        if (wouldWriteOver(manifest, QString::fromStdString(record)))
+            throw Failure{ExitCode::Usage, QStringLiteral("%1: the batch would write its manifest over it")
+                                               .arg(QString::fromStdString(record))};
+    }
+}
+
 } // namespace
 
 ExitCode runBatch(const Arguments& arguments)
 {
     const QDir folder(QString::fromStdString(arguments.folder));
+    const QString manifestFile = folder.filePath(QStringLiteral("manifest.json"));
+    keepRecords(arguments, manifestFile);
     Batch batch(arguments, wallsOf(arguments));
     if (!folder.mkpath(QStringLiteral(".")))
         throw Failure{
@@ -62,6 +74,6 @@ ExitCode runBatch(const Arguments& arguments)
     std::signal(SIGTERM, askToStop);
     const ExitCode code = batch.run(stopWanted);
     report(batch.pictures());
-    writeOutput(folder.filePath(QStringLiteral("manifest.json")), manifest(batch.pictures()));
+    writeOutput(manifestFile, manifest(batch.pictures()));
     return code;
 }

@@ -9,6 +9,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <algorithm>
 #include <iostream>
 
 namespace {
@@ -18,7 +19,17 @@ constexpr char description[] =
 
 constexpr char footer[] =
     "Exit codes: 0 good, 1 check or verify found something, 2 wrong usage, 3 unreadable input, "
-    "4 not written.";
+    "4 not written, 130 interrupted.";
+
+/// What was read once is not there a second time.
+void requireOneStandardInput(const Arguments& arguments)
+{
+    std::vector<std::string> inputs = arguments.records;
+    inputs.insert(inputs.end(), {arguments.record, arguments.image, arguments.walls});
+    if (std::count(inputs.begin(), inputs.end(), "-") > 1)
+        throw Failure{ExitCode::Usage,
+                      QStringLiteral("-: stands twice, but there is only one standard input")};
+}
 
 /// What `--generate` prints.
 std::string generated(const std::string& what, const CLI::App& table)
@@ -63,6 +74,7 @@ ExitCode CommandLine::run(int argc, const char* const* argv)
         std::cerr << m_app.help();
         return ExitCode::Usage;
     }
+    requireOneStandardInput(m_arguments);
     return m_run(m_arguments);
 }
 

@@ -76,6 +76,12 @@ QByteArray encodeImage(const QImage& image, const QString& format, int compressi
     return bytes;
 }
 
+bool wouldWriteOver(const QString& output, const QString& input)
+{
+    const QFileInfo info(output);
+    return output != QLatin1String("-") && info.isFile() && info == QFileInfo(input);
+}
+
 void writeOutput(const QString& path, const QByteArray& bytes)
 {
     const QFileInfo info(path);

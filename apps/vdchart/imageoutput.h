@@ -16,3 +16,6 @@ QByteArray encodeImage(const QImage& image, const QString& format, int compressi
 /// Writes the file `path` whole or not at all, or to the standard output for "-". Throws Failure. For any
 /// thread.
 void writeOutput(const QString& path, const QByteArray& bytes);
+
+/// Whether `output` is the file `input`, perhaps by another name.
+bool wouldWriteOver(const QString& output, const QString& input);

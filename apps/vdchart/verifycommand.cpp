@@ -39,6 +39,13 @@ QImage readPicture(const QString& path)
     return image;
 }
 
+void requireAnotherFile(const QString& difference, const QString& picture)
+{
+    if (wouldWriteOver(difference, picture))
+        throw Failure{ExitCode::Usage,
+                      QStringLiteral("--diff: %1: is the picture that is looked at").arg(difference)};
+}
+
 ChartComparison::CabinetGrid cabinetsOf(const TestChartToolsData& record)
 {
     ChartComparison::CabinetGrid grid;
@@ -70,6 +77,7 @@ ExitCode runVerify(const Arguments& arguments)
     const QString path = QString::fromStdString(arguments.image);
     const QString difference = QString::fromStdString(arguments.difference);
     const QString format = difference.isEmpty() ? QString() : imageFormat(difference);
+    requireAnotherFile(difference, path);
     const auto record = requireRecord(QString::fromStdString(arguments.record), arguments.settings);
     const QImage expected = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
     const auto result = ChartComparison::compare(expected, readPicture(path), cabinetsOf(record));
