@@ -450,6 +450,39 @@ private Q_SLOTS:
         QCOMPARE(files(QStringLiteral("none")), QStringList({"manifest.json"}));
     }
 
+    void batchOfWallsFromTheStandardInput()
+    {
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nright,320\n");
+        const QStringList pictures{"left.png", "manifest.json", "right.png"};
+        QCOMPARE(run({"batch", "-", "-w", "walls.csv", "-o", "one"}, read(QStringLiteral("small.json"))).code,
+                 0);
+        QCOMPARE(files(QStringLiteral("one")), pictures);
+        QCOMPARE(run({"batch", "small.json", "-w", "-", "-o", "two"}, read(QStringLiteral("walls.csv"))).code,
+                 0);
+        QCOMPARE(files(QStringLiteral("two")), pictures);
+    }
+
+    /// As a spreadsheet may save them.
+    void wallsThatAreNotUtf8_data()
+    {
+        QTest::addColumn<QByteArray>("table");
+        QTest::addColumn<int>("line");
+        QTest::newRow("Latin-1") << QByteArray("name,selfData.selfText\na,Left\nb,B\xfchne\n") << 3;
+        QTest::newRow("UTF-16") << QByteArray("\xff\xfen\0a\0m\0e\0\n\0x\0\n\0", 16) << 1;
+        QTest::newRow("half a character") << QByteArray("name\na\xc3") << 2;
+        QTest::newRow("character of value 0") << QByteArray("name\na\0b\n", 9) << 2;
+    }
+
+    void wallsThatAreNotUtf8()
+    {
+        QFETCH(QByteArray, table);
+        QFETCH(int, line);
+        const Outcome outcome = run({"batch", "small.json", "-w", "-", "-o", "no"}, table);
+        QCOMPARE(outcome.code, 3);
+        QCOMPARE(outcome.errors,
+                 QStringLiteral("vdchart: standard input: line %1: not UTF-8 text\n").arg(line));
+    }
+
     void aBatchGoesOn()
     {
         write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,5000\nright,320\n");

@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
+#include <QTextCodec>
 
 #include <csv.h>
 
@@ -139,10 +140,25 @@ Wall wallOf(const QStringList& row, const QStringList& columns)
     return wall;
 }
 
+/// The text would go into the charts with other characters.
+void requireUtf8(const QByteArray& csv, const QString& source)
+{
+    int number = 0;
+    for (const QByteArray& line : csv.split('\n')) {
+        ++number;
+        QTextCodec::ConverterState state;
+        QTextCodec::codecForName("UTF-8")->toUnicode(line.constData(), line.size(), &state);
+        if (state.invalidChars + state.remainingChars > 0 || line.contains('\0'))
+            throw Failure{ExitCode::Unreadable,
+                          QStringLiteral("%1: line %2: not UTF-8 text").arg(source, QString::number(number))};
+    }
+}
+
 } // namespace
 
 std::vector<Wall> readWalls(const QByteArray& csv, const QString& source)
 {
+    requireUtf8(csv, source);
     const Table table = parsed(csv.startsWith("\xef\xbb\xbf") ? csv.mid(3) : csv, source);
     const auto refuse = [&source](std::size_t row, const QString& problem) {
         if (!problem.isEmpty())
