@@ -612,6 +612,20 @@ private Q_SLOTS:
                      outcome.output.constData());
     }
 
+    void translucentPicture()
+    {
+        QImage picture = QImage::fromData(run({"render", "small.json", "-o", "-"}).output)
+                             .convertToFormat(QImage::Format_ARGB32);
+        QVERIFY(picture.save(path(QStringLiteral("opaque.png"))));
+        QCOMPARE(run({"verify", "opaque.png", "small.json"}).code, 0);
+        QRgb& pixel = reinterpret_cast<QRgb*>(picture.scanLine(7))[9];
+        pixel = qRgba(qRed(pixel), qGreen(pixel), qBlue(pixel), 254);
+        QVERIFY(picture.save(path(QStringLiteral("translucent.png"))));
+        const Outcome outcome = run({"verify", "translucent.png", "small.json"});
+        QCOMPARE(outcome.code, 1);
+        QCOMPARE(outcome.output, QByteArray("translucent.png: 1 pixels are translucent\n"));
+    }
+
     void pictureFromTheStandardInput()
     {
         const QByteArray picture = run({"render", "small.json", "-o", "-"}).output;
