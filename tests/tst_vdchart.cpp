@@ -10,6 +10,7 @@
 #include <QJsonObject>
 #include <QPainter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 using namespace vardeno::testcharttools;
@@ -641,8 +642,38 @@ private Q_SLOTS:
         QVERIFY2(outcome.errors.contains("30000 x 30000 pixels are too many"), qPrintable(outcome.errors));
     }
 
+    void documentedCommands_data()
+    {
+        QTest::addColumn<QString>("command");
+        for (const char* document : {"README.md", "docs/commandline.md"}) {
+            QFile file(QStringLiteral(VD_SOURCE_DIR "/") + QLatin1String(document));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QRegularExpression line(QStringLiteral("^(?:vdchart|for \\w+ in) .*$"),
+                                          QRegularExpression::MultilineOption);
+            auto lines = line.globalMatch(QString::fromUtf8(file.readAll()));
+            while (lines.hasNext()) {
+                const QString command = lines.next().captured();
+                QTest::newRow(qPrintable(command)) << command;
+            }
+        }
+    }
+
+    /// One after the other, in one folder, as a reader would do it.
+    void documentedCommands()
+    {
+        QFETCH(QString, command);
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nright,320\n");
+        if (command.contains(QLatin1String("captured.png")))
+            QVERIFY(QFile::copy(path(QStringLiteral("wall.png")), path(QStringLiteral("captured.png"))));
+        const Outcome outcome =
+            runInShell(QStringLiteral("vdchart() { $vdchart \"$@\"; }; set -o pipefail; ") + command);
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.code, 0);
+    }
+
     void manualAndCompletions()
     {
+        QVERIFY(run({"--generate", "man"}).output.contains("130 interrupted"));
         const QByteArray man = run({"--generate", "man"}).output;
         QVERIFY(man.startsWith(".TH VDCHART 1"));
         for (const char* kind : {"bash", "zsh"}) {
