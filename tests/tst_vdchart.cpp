@@ -221,6 +221,43 @@ private Q_SLOTS:
         QVERIFY(!files().contains(QStringLiteral("no.png")));
     }
 
+    /// A chart without its logo would be another chart.
+    void missingLogo_data()
+    {
+        QTest::addColumn<QStringList>("settings");
+        QTest::addColumn<int>("code");
+        QTest::newRow("missing") << QStringList{"-s", "logoData.picturePath=none.png"} << 3;
+        QTest::newRow("not shown") << QStringList{"-s", "logoData.picturePath=none.png", "-s",
+                                                  "logoData.showLogo=false"}
+                                   << 0;
+        QTest::newRow("a text instead")
+            << QStringList{"-s", "logoData.picturePath=none.png", "-s", "logoData.pictureLogo=false",
+                           "-s", "logoData.textLogo=true"}
+            << 0;
+    }
+
+    void missingLogo()
+    {
+        QFETCH(QStringList, settings);
+        QFETCH(int, code);
+        const Outcome outcome = run(QStringList{"render", "small.json", "-o", "logo.png"} + settings);
+        QCOMPARE(outcome.code, code);
+        QCOMPARE(outcome.errors.contains(QStringLiteral("logoData.picturePath: \"none.png\" does not exist")),
+                 code == 3);
+        QCOMPARE(QFile::remove(path(QStringLiteral("logo.png"))), code == 0);
+    }
+
+    /// As when the program alone was copied somewhere.
+    void missingBuiltInLogo()
+    {
+        const QString copy = path(QStringLiteral("vdchart"));
+        QVERIFY(QFile::copy(QStringLiteral(VDCHART_PROGRAM), copy));
+        const Outcome outcome = runInShell(QStringLiteral("./vdchart render small.json -o logo.png"));
+        QCOMPARE(outcome.code, 3);
+        QVERIFY2(outcome.errors.contains(QStringLiteral("the built-in picture")), qPrintable(outcome.errors));
+        QVERIFY(QFile::remove(copy));
+    }
+
     void check_data()
     {
         QTest::addColumn<QStringList>("arguments");

@@ -47,7 +47,6 @@ private:
     void checkRepeatedLabels();
     void checkLogo();
     void checkPictureLogo();
-    void checkPictureFile();
     void checkTextLogo();
     void checkLogoSize();
     void checkCustomText();
@@ -75,6 +74,31 @@ QString quoted(const std::string& text)
 QString sized(const QSize& size)
 {
     return QStringLiteral("%1 x %2 pixels").arg(size.width()).arg(size.height());
+}
+
+bool drawsPicture(const LogoChartData& data)
+{
+    return data.showLogo && !data.textLogo && data.opacity > 0 && data.scale > 0;
+}
+
+/// What keeps the file of the logo's picture from being drawn.
+QString pictureFileProblem(const TestChartToolsData& record)
+{
+    const QString path = logoPicture(record);
+    const QString name =
+        QLatin1String(record.logoData.picturePath.empty() ? "the built-in picture \"" : "\"") + path +
+        QLatin1Char('"');
+    if (!QFileInfo::exists(path))
+        return name + QLatin1String(" does not exist; no logo is drawn");
+    switch (examinePicture(path)) {
+    case PictureFile::TooLarge:
+        return name + QStringLiteral(" is larger than %1; no logo is drawn")
+                          .arg(sized({largestPicture, largestPicture}));
+    case PictureFile::Unreadable:
+        return name + QLatin1String(" is not a picture that can be read; no logo is drawn");
+    default:
+        return QString();
+    }
 }
 
 QStringList Check::run()
@@ -235,26 +259,10 @@ void Check::checkLogo()
 
 void Check::checkPictureLogo()
 {
-    if (m_record.logoData.scale == 0)
-        warn("logoData.scale", QStringLiteral("0 percent draws no logo"));
-    else
-        checkPictureFile();
-}
-
-void Check::checkPictureFile()
-{
-    const QString path = logoPicture(m_record);
-    const QString shown = m_record.logoData.picturePath.empty() ? QStringLiteral("the built-in picture %1")
-                                                                : QStringLiteral("%1");
-    const QString name = shown.arg(QLatin1Char('"') + path + QLatin1Char('"'));
-    if (!QFileInfo::exists(path))
-        warn("logoData.picturePath", name + QLatin1String(" does not exist; no logo is drawn"));
-    else if (examinePicture(path) == PictureFile::TooLarge)
-        warn("logoData.picturePath", QStringLiteral("%1 is larger than %2; no logo is drawn")
-                                         .arg(name, sized({largestPicture, largestPicture})));
-    else if (examinePicture(path) == PictureFile::Unreadable)
-        warn("logoData.picturePath", name + QLatin1String(" is not a picture that can be read; no logo is "
-                                                          "drawn"));
+    warnIf(m_record.logoData.scale == 0, "logoData.scale", "0 percent draws no logo");
+    const QString problem = pictureProblem(m_record);
+    if (!problem.isEmpty())
+        m_warnings.append(problem);
 }
 
 void Check::checkTextLogo()
@@ -344,6 +352,12 @@ void Check::checkCovering(const char* field, const QString& what, const QRect& i
 QStringList warnings(const TestChartToolsData& record)
 {
     return Check(record).run();
+}
+
+QString pictureProblem(const TestChartToolsData& record)
+{
+    const QString problem = drawsPicture(record.logoData) ? pictureFileProblem(record) : QString();
+    return problem.isEmpty() ? problem : QLatin1String("logoData.picturePath: ") + problem;
 }
 
 } // namespace vardeno::testcharttools::ChartCheck

@@ -21,8 +21,8 @@ constexpr int readableTextSize = 10;
 /// a remainder of 2". In the order of the record's groups; none for a chart as it should be.
 VDPATTERNDESIGN_EXPORT QStringList warnings(const TestChartToolsData& record);
 
-/// Why the picture of the record's logo is not drawn: "logoData.picturePath: "logo.png" does not exist; no logo
-/// is drawn". Empty where it is, or where the record wants none.
+/// Why the picture of the record's logo is not drawn: "logoData.picturePath: "logo.png" does not exist; no
+/// logo is drawn". Empty where it is, or where the record wants none.
 VDPATTERNDESIGN_EXPORT QString pictureProblem(const TestChartToolsData& record);
 
 } // namespace ChartCheck

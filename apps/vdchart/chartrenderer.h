@@ -13,7 +13,8 @@ public:
     /// `language`: of the resolution line.
     explicit ChartRenderer(const QString& language);
 
-    /// The chart in its resolution.
+    /// The chart in its resolution. Throws Failure where the picture of its logo cannot be drawn: without it,
+    /// it would be another chart.
     QImage render(const vardeno::testcharttools::TestChartToolsData& record);
 
 private:

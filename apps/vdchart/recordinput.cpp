@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 
 #include <algorithm>
 #include <cstdio>
@@ -33,18 +32,6 @@ bool openInput(QFile& file, const QString& path)
                                       : file.open(QIODevice::ReadOnly);
 }
 
-/// Without it the chart would be another one.
-void requirePicture(const LogoChartData& logo)
-{
-    const QString path = QString::fromStdString(logo.picturePath);
-    if (!logo.showLogo || !logo.pictureLogo || path.isEmpty())
-        return;
-    QImageReader reader(path);
-    if (!reader.canRead())
-        throw Failure{ExitCode::Unreadable,
-                      QStringLiteral("logoData.picturePath: %1: %2").arg(path, reader.errorString())};
-}
-
 } // namespace
 
 QString inputName(const QString& path)
@@ -70,22 +57,9 @@ QByteArray readInput(const QString& path, qint64 limit)
     return bytes;
 }
 
-namespace {
-
-/// A batch comes back to its record for every wall.
-QByteArray recordBytes(const QString& path)
-{
-    if (path != QLatin1String("-"))
-        return readInput(path, recordLimit);
-    static const QByteArray standardInput = readInput(path, recordLimit);
-    return standardInput;
-}
-
-} // namespace
-
 ChartRecordFile::Reading readRecord(const QString& path, const std::vector<std::string>& settings)
 {
-    const QByteArray json = recordBytes(path);
+    const QByteArray json = readInput(path, recordLimit);
     const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
     ChartRecordFile::Reading reading = ChartRecordFile::fromJson(json, folder);
     applySettings(reading.record, settings);
@@ -95,10 +69,8 @@ ChartRecordFile::Reading readRecord(const QString& path, const std::vector<std::
 TestChartToolsData requireRecord(const QString& path, const std::vector<std::string>& settings)
 {
     const ChartRecordFile::Reading reading = readRecord(path, settings);
-    if (reading.problems.isEmpty()) {
-        requirePicture(reading.record.logoData);
+    if (reading.problems.isEmpty())
         return reading.record;
-    }
     QStringList lines;
     for (const QString& problem : reading.problems)
         lines.append(QStringLiteral("%1: %2").arg(inputName(path), problem));
