@@ -258,6 +258,48 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(copy));
     }
 
+    void logoPictures_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("read") << "$vdchart render small.json -o l.png -s logoData.picturePath=logos/good.png"
+                              << 0 << "";
+        QTest::newRow("missing") << "$vdchart render small.json -o l.png -s logoData.picturePath=logos/no.png"
+                                 << 3 << "logoData.picturePath: \"logos/no.png\" does not exist";
+        QTest::newRow("cut off")
+            << "$vdchart render small.json -o l.png -s logoData.picturePath=logos/cut.png" << 3
+            << "logoData.picturePath: \"logos/cut.png\" cannot be read to its end";
+        QTest::newRow("a pipe")
+            << "timeout 9 $vdchart render small.json -o l.png -s logoData.picturePath=logos/pipe" << 3
+            << "logoData.picturePath: \"logos/pipe\" is not a picture";
+        QTest::newRow("written over")
+            << "$vdchart render small.json -o logos/../logos/good.png -s logoData.picturePath=logos/good.png"
+            << 2 << "logos/../logos/good.png: is the picture of the record's logo";
+        QTest::newRow("written over by a batch")
+            << "$vdchart batch small.json -o logos -s logoData.picturePath=logos/small.png" << 2
+            << "failed: small.png: logos/small.png: is the picture of the record's logo";
+    }
+
+    void logoPictures()
+    {
+        QCOMPARE(runInShell(QStringLiteral(
+                                "mkdir -p logos && cd logos && $vdchart render ../small.json -o good.png && "
+                                "cp good.png small.png && head -c 2000 good.png > cut.png && "
+                                "{ test -p pipe || mkfifo pipe; }"))
+                     .code,
+                 0);
+        const QByteArray picture = read(QStringLiteral("logos/good.png"));
+        QFETCH(QString, script);
+        QFETCH(int, code);
+        QFETCH(QString, message);
+        const Outcome outcome = runInShell(script);
+        QCOMPARE(outcome.code, code);
+        QVERIFY2(outcome.errors.contains(message), qPrintable(outcome.errors));
+        QCOMPARE(read(QStringLiteral("logos/good.png")), picture);
+        QCOMPARE(read(QStringLiteral("logos/small.png")), picture);
+    }
+
     void check_data()
     {
         QTest::addColumn<QStringList>("arguments");

@@ -96,9 +96,12 @@ QString pictureFileProblem(const TestChartToolsData& record)
                           .arg(sized({largestPicture, largestPicture}));
     case PictureFile::Unreadable:
         return name + QLatin1String(" is not a picture that can be read; no logo is drawn");
-    default:
-        return QString();
+    case PictureFile::Readable:
+        break;
     }
+    return CachedPicture().load(path).isNull()
+               ? name + QLatin1String(" cannot be read to its end; no logo is drawn")
+               : QString();
 }
 
 QStringList Check::run()

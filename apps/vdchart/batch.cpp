@@ -131,6 +131,7 @@ void Batch::make(Job& job, ChartRenderer& renderer)
         TestChartToolsData record = recordAt(job.picture.record);
         applySettings(record, job.settings,
                       {ExitCode::Unreadable, QStringLiteral("wall \"%1\"").arg(job.picture.wall)});
+        keepPicture(record.logoData, fileOf(job));
         waitForEncoders(m_atOnce - 1);
         encode(job, renderer.render(record));
     } catch (const Failure& failure) {
@@ -158,12 +159,17 @@ void Batch::waitForEncoders(int count)
     }
 }
 
+QString Batch::fileOf(const Job& job) const
+{
+    return QDir(QString::fromStdString(m_arguments.folder)).filePath(job.picture.file);
+}
+
 void Batch::finish(Job& job, const QImage& image)
 {
     try {
         const QByteArray file =
             encodeImage(image, QString::fromStdString(m_arguments.format), m_arguments.compression);
-        writeOutput(QDir(QString::fromStdString(m_arguments.folder)).filePath(job.picture.file), file);
+        writeOutput(fileOf(job), file);
         job.picture.size = image.size();
         job.picture.bytes = file.size();
         job.picture.sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();

@@ -39,6 +39,7 @@ private:
     void make(Job& job, ChartRenderer& renderer);
     void encode(Job& job, const QImage& image);
     void waitForEncoders(int count);
+    QString fileOf(const Job& job) const;
     void finish(Job& job, const QImage& image);
 
     const Arguments& m_arguments;

@@ -1,5 +1,7 @@
 #include "recordinput.h"
 
+#include "imageoutput.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -75,6 +77,12 @@ TestChartToolsData requireRecord(const QString& path, const std::vector<std::str
     for (const QString& problem : reading.problems)
         lines.append(QStringLiteral("%1: %2").arg(inputName(path), problem));
     throw Failure{ExitCode::Unreadable, lines.join(QStringLiteral("\nvdchart: "))};
+}
+
+void keepPicture(const LogoChartData& logo, const QString& output)
+{
+    if (wouldWriteOver(output, QString::fromStdString(logo.picturePath)))
+        throw Failure{ExitCode::Usage, QStringLiteral("%1: is the picture of the record's logo").arg(output)};
 }
 
 void applySettings(TestChartToolsData& record, const std::vector<std::string>& settings, const Failure& blame)

@@ -26,6 +26,9 @@ vardeno::testcharttools::ChartRecordFile::Reading readRecord(const QString& path
 vardeno::testcharttools::TestChartToolsData requireRecord(const QString& path,
                                                           const std::vector<std::string>& settings);
 
+/// Throws a Failure of wrong usage where `output` is the file that the record's logo is read from.
+void keepPicture(const vardeno::testcharttools::LogoChartData& logo, const QString& output);
+
 /// Changes `record`. For a setting that is none throws `blame` with the problem behind its message.
 void applySettings(vardeno::testcharttools::TestChartToolsData& record,
                    const std::vector<std::string>& settings,

@@ -24,7 +24,7 @@ bool writeImageWhole(const QImage& image, const QString& path, const char* forma
 
 PictureFile examinePicture(const QString& path)
 {
-    if (path.isEmpty())
+    if (!QFileInfo(path).isFile()) // a pipe keeps its reader waiting
         return PictureFile::Unreadable;
     const QSize size = QImageReader(path).size();
     const int height = std::abs(size.height()); // below 0 where a BMP file has its rows from the top
