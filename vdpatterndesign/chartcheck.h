@@ -9,7 +9,7 @@ namespace vardeno::testcharttools {
 
 /// What a technician should know about a chart record that is valid, but may not show what was meant.
 /// Functions without state and without widgets. They measure texts, so that they need a QGuiApplication with
-/// the fonts that the chart is drawn with, and its thread; and read the picture of the logo.
+/// the fonts that the chart is drawn with, and its thread. They read the picture of the logo.
 namespace ChartCheck {
 
 /// The smallest font, in chart pixels, whose texts count as readable: a capital letter is seven tenths of its
