@@ -460,6 +460,9 @@ private Q_SLOTS:
         QTest::newRow("full disk") << "$vdchart render small.json -o - > /dev/full";
         QTest::newRow("text on a full disk") << "$vdchart presets > /dev/full";
         QTest::newRow("too large a file") << "ulimit -f 4; $vdchart render small.json -c 0 -o large.png";
+        QTest::newRow("not even a small file")
+            << "ulimit -f 0; $vdchart render small.json -s publicData.resolutionWidth=16 "
+               "-s publicData.resolutionHeight=16 -s inLineData.showSerialNumber=false -o large.png";
         QTest::newRow("nobody reads")
             << "{ $vdchart render small.json -c 0 -o -; echo $? >&3; } 3> code | true; exit $(cat code)";
         QTest::newRow("the manifest") << "mkdir -p b/manifest.json && $vdchart batch small.json -o b";

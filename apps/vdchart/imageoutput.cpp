@@ -35,10 +35,12 @@ void writeDirectly(QFile& file, bool open, const QString& name, const QByteArray
         throw notWritten(name, reasonOf(file));
 }
 
+/// A `commit` alone reports success when there is no room for the last kilobytes.
 void writeWhole(const QString& path, const QByteArray& bytes)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
         throw notWritten(path, reasonOf(file));
 }
 
