@@ -655,6 +655,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         QTest::newRow("the chart") << "chart.png" << 0 << "chart.png: this is the chart, pixel for pixel\n";
         QTest::newRow("as BMP") << "chart.bmp" << 0 << "chart.bmp: this is the chart";
+        QTest::newRow("as JPEG") << "chart.jpg" << 1 << "chart.jpg: a little different everywhere";
         QTest::newRow("mirrored") << "mirrored.png" << 1 << "mirrored.png: ";
         QTest::newRow("two cabinets swapped") << "swapped.png" << 1 << "swapped.png: ";
         QTest::newRow("another chart") << "other.png" << 1 << "other.png: ";
@@ -671,6 +672,7 @@ private Q_SLOTS:
                 .output);
         QCOMPARE(run({"render", "numbers.json", "-o", "chart.png"}).code, 0);
         QCOMPARE(run({"render", "numbers.json", "-o", "chart.bmp"}).code, 0);
+        QCOMPARE(run({"render", "numbers.json", "-o", "chart.jpg"}).code, 0);
         QCOMPARE(run({"render", "small.json", "-o", "other.png"}).code, 0);
         const QImage chart(path(QStringLiteral("chart.png")));
         QVERIFY(chart.mirrored(true, false).save(path(QStringLiteral("mirrored.png"))));

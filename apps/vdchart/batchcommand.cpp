@@ -70,8 +70,8 @@ ExitCode runBatch(const Arguments& arguments)
         throw Failure{
             ExitCode::NotWritten,
             QStringLiteral("%1: the folder cannot be made").arg(QString::fromStdString(arguments.folder))};
-    std::signal(SIGINT, askToStop);
-    std::signal(SIGTERM, askToStop);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        std::signal(signal, askToStop);
     const ExitCode code = batch.run(stopWanted);
     report(batch.pictures());
     writeOutput(manifestFile, manifest(batch.pictures()));
