@@ -4,6 +4,8 @@
 
 using namespace vardeno::testcharttools;
 
+Q_DECLARE_METATYPE(vardeno::testcharttools::InLineChartData)
+
 class TestChartCabinets : public TestCase
 {
     Q_OBJECT
@@ -73,8 +75,6 @@ private Q_SLOTS:
         QTEST(ChartCabinets::rect(record, row, column), "rect");
     }
 };
-
-Q_DECLARE_METATYPE(vardeno::testcharttools::InLineChartData)
 
 VD_TEST_MAIN(TestChartCabinets)
 #include "tst_chartcabinets.moc"
