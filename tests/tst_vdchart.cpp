@@ -405,7 +405,7 @@ private Q_SLOTS:
         QTest::newRow("another platform") << "QT_QPA_PLATFORM=minimal";
         QTest::newRow("a scaled desktop") << "QT_SCALE_FACTOR=2 QT_FONT_DPI=192";
         QTest::newRow("another language") << "LC_ALL=tr_TR.UTF-8";
-        QTest::newRow("nothing") << "-i";
+        QTest::newRow("nothing but a sanitizer's options") << "-i LSAN_OPTIONS=\"$LSAN_OPTIONS\"";
     }
 
     void theDesktopDoesNotMatter()

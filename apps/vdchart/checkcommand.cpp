@@ -18,20 +18,13 @@ void print(const QString& path, const char* kind, const QStringList& messages)
         std::cout << inputName(path).toStdString() << ": " << kind << ": " << message.toStdString() << '\n';
 }
 
-/// The fonts that labels are fitted in need an application.
-QStringList warningsOf(const TestChartToolsData& record)
-{
-    static const ChartApplication application;
-    return ChartCheck::warnings(record);
-}
-
 ExitCode check(const QString& path, const Arguments& arguments)
 {
     const ChartRecordFile::Reading reading = readRecord(path, arguments.settings);
     print(path, "error", reading.problems);
     if (!reading.problems.isEmpty())
         return ExitCode::Found;
-    const QStringList warnings = arguments.errorsOnly ? QStringList() : warningsOf(reading.record);
+    const QStringList warnings = arguments.errorsOnly ? QStringList() : ChartCheck::warnings(reading.record);
     print(path, "warning", warnings);
     return warnings.isEmpty() ? ExitCode::Good : ExitCode::Found;
 }
@@ -40,6 +33,7 @@ ExitCode check(const QString& path, const Arguments& arguments)
 
 ExitCode runCheck(const Arguments& arguments)
 {
+    const ChartApplication application; // for the fonts that labels are fitted in
     ExitCode worst = ExitCode::Good;
     for (const std::string& record : arguments.records) {
         try {
