@@ -135,6 +135,12 @@ private Q_SLOTS:
         QTest::newRow("language") << QStringList{"render", "small.json", "-o", "a.png", "--lang", "tlh"}
                                   << "--lang";
         QTest::newRow("jobs") << QStringList{"batch", "small.json", "-o", "out", "-j", "-1"} << "--jobs";
+        QTest::newRow("empty folder")
+            << QStringList{"batch", "small.json", "-o", ""} << "--output: The path is empty";
+        QTest::newRow("empty table") << QStringList{"batch", "small.json", "-w", "", "-o", "empty"}
+                                     << "--walls: The path is empty";
+        QTest::newRow("empty difference")
+            << QStringList{"verify", "taken.png", "small.json", "-d", ""} << "--diff: The path is empty";
         QTest::newRow("one input for two") << QStringList{"verify", "-", "-"} << "standard input";
         QTest::newRow("one output for two")
             << QStringList{"verify", "a.png", "small.json", "--diff", "-"} << "--diff: a file is needed";
@@ -616,6 +622,8 @@ private Q_SLOTS:
         QVERIFY(done > 0 && done < 200);
         QCOMPARE(done + told.value("failed").toArray().size(), 200);
         QCOMPARE(files(QStringLiteral("many")).size(), done + 1);
+        QCOMPARE(outcome.errors,
+                 QStringLiteral("vdchart: interrupted: %1 pictures were not begun\n").arg(200 - done));
     }
 
     /// Where memory lacks for pictures or for threads, the batch fails as it may, but does not wait for ever.

@@ -31,6 +31,12 @@ private Q_SLOTS:
         QTest::newRow("no line end at the end") << QByteArray("name,width\nleft,1920") << left;
         QTest::newRow("line ends of other systems") << QByteArray("name,width\r\nleft,1920\r\n") << left;
         QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbfname,width\nleft,1920\n") << left;
+        QTest::newRow("semicolons") << QByteArray("name;width;selfData.selfText\nleft;1920;a, b\n")
+                                    << QStringList{
+                                           "left publicData.resolutionWidth=1920 selfData.selfText=a, b"};
+        QTest::newRow("tabulators") << QByteArray("name\twidth\nleft\t1920\n") << left;
+        QTest::newRow("a semicolon in a cell")
+            << QByteArray("name,selfData.selfText\na,b; c\n") << QStringList{"a selfData.selfText=b; c"};
         QTest::newRow("blanks and quotes") << QByteArray("name , \"width\"\n \"left\",  1920 \n") << left;
         QTest::newRow("empty lines") << QByteArray("name,width\n\nleft,1920\n\n") << left;
         QTest::newRow("columns in another order") << QByteArray("width,name\n1920,left\n") << left;

@@ -127,6 +127,7 @@ const TestChartToolsData& Batch::recordAt(const QString& path)
 
 void Batch::make(Job& job, ChartRenderer& renderer)
 {
+    job.picture.begun = true;
     try {
         TestChartToolsData record = recordAt(job.picture.record);
         applySettings(record, job.settings,

@@ -7,7 +7,9 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <csignal>
+#include <cstddef>
 #include <iostream>
 
 namespace {
@@ -37,15 +39,18 @@ std::vector<Wall> wallsOf(const Arguments& arguments)
 
 void report(const std::vector<BatchPicture>& pictures)
 {
-    std::size_t failed = 0;
+    const auto lacks = [](const BatchPicture& picture) { return !picture.problem.isEmpty(); };
+    const auto waits = [](const BatchPicture& picture) { return !picture.begun; };
     for (const BatchPicture& picture : pictures) {
-        if (picture.problem.isEmpty())
-            continue;
-        ++failed;
-        std::cerr << "vdchart: failed: " << picture.file.toStdString() << ": "
-                  << picture.problem.toStdString() << '\n';
+        if (lacks(picture) && !waits(picture))
+            std::cerr << "vdchart: failed: " << picture.file.toStdString() << ": "
+                      << picture.problem.toStdString() << '\n';
     }
-    std::cout << pictures.size() - failed << " of " << pictures.size() << " pictures written\n";
+    if (const auto left = std::count_if(pictures.begin(), pictures.end(), waits); left > 0)
+        std::cerr << "vdchart: interrupted: " << left << " pictures were not begun\n";
+    const auto failed = std::count_if(pictures.begin(), pictures.end(), lacks);
+    std::cout << std::ptrdiff_t(pictures.size()) - failed << " of " << pictures.size()
+              << " pictures written\n";
 }
 
 /// As the second of two batches in the folder of their records would do it.

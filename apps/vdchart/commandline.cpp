@@ -21,6 +21,12 @@ constexpr char footer[] =
     "Exit codes: 0 good, 1 check or verify found something, 2 wrong usage, 3 unreadable input, "
     "4 not written, 130 interrupted.";
 
+/// An empty path comes from a script whose variable is not set: it is not the same as none.
+std::string problemOfPath(const std::string& path)
+{
+    return path.empty() ? "The path is empty" : "";
+}
+
 /// What was read once is not there a second time.
 void requireOneStandardInput(const Arguments& arguments)
 {
@@ -139,9 +145,11 @@ void CommandLine::addBatch()
         ->add_option(
             "-w,--walls", m_arguments.walls,
             "A table of walls: the columns are name, width, height, rows, columns or any field of a record")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->check(problemOfPath);
     command->add_option("-o,--output", m_arguments.folder, "The folder of the pictures and of manifest.json")
         ->type_name("FOLDER")
+        ->check(problemOfPath)
         ->required();
     command->add_option("-f,--format", m_arguments.format, "The pictures' format")
         ->type_name("FORMAT")
@@ -169,7 +177,8 @@ void CommandLine::addVerify()
         ->type_name("RECORD")
         ->required();
     command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->check(problemOfPath);
     addSettings(command);
     addLanguage(command);
 }

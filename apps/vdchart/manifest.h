@@ -14,8 +14,9 @@ struct BatchPicture
     QString file;   ///< name in the folder
     QSize size;     ///< chart pixels
     qint64 bytes = 0;
-    QByteArray sha256; ///< of the file, in hexadecimal digits
-    QString problem;   ///< why it is not there; empty where it is
+    QByteArray sha256;  ///< of the file, in hexadecimal digits
+    QString problem;    ///< why it is not there; empty where it is
+    bool begun = false; ///< unless the batch was interrupted before
 };
 
 /// The manifest of a batch as JSON.

@@ -11,6 +11,8 @@
 
 #include <csv.h>
 
+#include <algorithm>
+#include <iterator>
 #include <new>
 
 using namespace vardeno::testcharttools;
@@ -51,11 +53,21 @@ void addRow(int, void* data)
     collector.row.clear();
 }
 
+/// Of the first row, whose names hold none: spreadsheets write the one of the country they are used in.
+char separatorOf(const QByteArray& csv)
+{
+    constexpr char separators[] = {',', ';', '\t'};
+    const auto row = std::find(csv.begin(), csv.end(), '\n');
+    const auto first = std::find_first_of(csv.begin(), row, std::begin(separators), std::end(separators));
+    return first == row ? separators[0] : *first;
+}
+
 Table parsed(const QByteArray& csv, const QString& source)
 {
     csv_parser parser{};
     if (csv_init(&parser, CSV_STRICT | CSV_STRICT_FINI) != 0)
         throw Failure{ExitCode::Unreadable, QStringLiteral("%1: not enough memory").arg(source)};
+    csv_set_delim(&parser, static_cast<unsigned char>(separatorOf(csv)));
     Collector collector;
     const auto length = std::size_t(csv.size());
     const bool read = csv_parse(&parser, csv.constData(), length, addCell, addRow, &collector) == length &&
