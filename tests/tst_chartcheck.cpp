@@ -3,9 +3,12 @@
 #include <chartcheck.h>
 #include <translatemanager1.h>
 
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <functional>
+
+#include <sys/stat.h>
 
 using namespace vardeno::testcharttools;
 
@@ -28,6 +31,15 @@ std::string pictureFile(const QTemporaryDir& folder, const QSize& size)
     const QString path = folder.filePath(QStringLiteral("%1x%2.png").arg(size.width()).arg(size.height()));
     QImage picture(size, QImage::Format_Mono);
     picture.fill(0);
+    picture.save(path);
+    return path.toStdString();
+}
+
+std::string noiseFile(const QTemporaryDir& folder)
+{
+    const QString path = folder.filePath(QStringLiteral("noise.png"));
+    QImage picture(64, 64, QImage::Format_RGB32);
+    QRandomGenerator(1).fillRange(reinterpret_cast<quint32*>(picture.bits()), 64 * 64);
     picture.save(path);
     return path.toStdString();
 }
@@ -246,6 +258,21 @@ private Q_SLOTS:
             {QStringLiteral(
                  "logoData.picturePath: \"%1\" is not a picture that can be read; no logo is drawn")
                  .arg(QString::fromStdString(source))});
+        // Compressed noise, so that what is missing is missed.
+        const std::string whole = noiseFile(m_folder);
+        const std::string cut = m_folder.filePath(QStringLiteral("cut.png")).toStdString();
+        QVERIFY(QFile::copy(QString::fromStdString(whole), QString::fromStdString(cut)));
+        QVERIFY(QFile::resize(QString::fromStdString(cut), 5000));
+        add("cut off", [=](auto& r) { show(r, cut); },
+            {QStringLiteral("logoData.picturePath: \"%1\" cannot be read to its end; no logo is drawn")
+                 .arg(QString::fromStdString(cut))});
+        add("not cut off", [=](auto& r) { show(r, whole); }, {});
+        const std::string pipe = m_folder.filePath(QStringLiteral("pipe.png")).toStdString();
+        QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
+        add("a pipe, which nobody writes to", [=](auto& r) { show(r, pipe); },
+            {QStringLiteral(
+                 "logoData.picturePath: \"%1\" is not a picture that can be read; no logo is drawn")
+                 .arg(QString::fromStdString(pipe))});
         const std::string large = pictureFile(m_folder, {3841, 8});
         add("too large", [=](auto& r) { show(r, large); },
             {QStringLiteral(
