@@ -90,7 +90,8 @@ int main(int argc, char** argv)
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setFont(chartFont());
 
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); // QT_LOGGING_RULES can undo it
+    // The editor's log is for its developers, who get it with QT_LOGGING_RULES="default=true".
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
 
     const Options options = parseCommandLine(application);
     MainWindow window(options.folder);
