@@ -140,6 +140,15 @@ private Q_SLOTS:
         QCOMPARE(layer.drawn.size(), renders);
     }
 
+    void aHostMayRenderTheWidget()
+    {
+        PlainLayer layer;
+        layer.resize(30, 20);
+        QImage shown(layer.size(), QImage::Format_ARGB32_Premultiplied);
+        layer.render(&shown);
+        VD_COMPARE_IMAGES(shown, filled(layer.size(), Qt::red));
+    }
+
     /// The texts of the chart are drawn in the application's font.
     void thePaintEventRendersInTheFontOfTheApplication()
     {

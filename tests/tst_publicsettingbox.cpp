@@ -716,10 +716,10 @@ private Q_SLOTS:
         QTest::newRow("width") << data << "resolution, finished, public";
         data = shown;
         data.boxRow = 6;
-        QTest::newRow("rows") << data << "row 6, public";
+        QTest::newRow("rows") << data << "row 6, public, row 6, public";
         data = shown;
         data.boxCol = 8;
-        QTest::newRow("columns") << data << "col 8, public";
+        QTest::newRow("columns") << data << "col 8, public, col 8, public";
         data = shown;
         data.outBorderWidth = 12;
         QTest::newRow("border width") << data << "public";
@@ -729,8 +729,8 @@ private Q_SLOTS:
         data = {60, 700, 500, 3, 4, true, 9, {9, 9, 9, 9}};
         QTest::newRow("all in their order")
             << data
-            << "public, resolution, finished, public, resolution, finished, public, row 3, public, col 4, "
-               "public, public, public";
+            << "public, resolution, finished, public, resolution, finished, public, row 3, public, row 3, "
+               "public, col 4, public, col 4, public, public, public";
     }
 
     void onlyADifferenceIsAnnounced()
@@ -744,6 +744,14 @@ private Q_SLOTS:
         d.heard.clear();
         d.panel->setData(data);
         QCOMPARE(d.heard, words(qPrintable(heard)));
+    }
+
+    void aRecordDimsTheChartWhileTheSliderIsDragged()
+    {
+        Desk d;
+        d.slider()->setSliderDown(true);
+        d.panel->setData(otherData());
+        QCOMPARE(d.veilAlpha(), 255 - 40 * 255 / 100);
     }
 
     void aRecordSwitchesTheBorder()

@@ -503,6 +503,41 @@ private Q_SLOTS:
         }
     }
 
+    void onlyADifferenceIsAnnounced()
+    {
+        SelfChartData data = otherRecord();
+        m_panel->setData(data);
+        QSignalSpy changes(m_panel, &SelfSettingBox::selfSignal);
+        m_panel->setData(data);
+        QCOMPARE(changes.count(), 0);
+        data.selfTextColor = {1, 2, 3, 255};
+        m_panel->setData(data);
+        QCOMPARE(changes.count(), 1);
+        data.resolutionTextSize += 1;
+        m_panel->setData(data);
+        QCOMPARE(changes.count(), 2);
+    }
+
+    /// Sizes and colors are pushed whether or not the panel has them already.
+    void aRecordReachesAFreshPainter()
+    {
+        SelfChartData data;
+        data.selfTextSize = 31;
+        data.resolutionTextSize = 17;
+        m_panel->setData(data);
+        m_layer->setSelfTextSize(40);
+        m_layer->setResolutionSize(40);
+        m_layer->setSelfTextColor(Qt::red);
+        m_layer->setResolutionColor(Qt::red);
+        m_panel->setData(data);
+        compareLayer([](PaintSelfWidget& layer) {
+            layer.setSelfTextSize(31);
+            layer.setResolutionSize(17);
+            layer.setSelfTextColor(QColor(0, 0, 100));
+            layer.setResolutionColor(QColor(0, 0, 100));
+        });
+    }
+
     void recordOfAGroupThatIsOff()
     {
         m_panel->setData(otherRecord());

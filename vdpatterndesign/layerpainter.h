@@ -31,6 +31,7 @@ public:
     explicit LayerPainter(QWidget* parent = nullptr);
     ~LayerPainter() override;
 
+    using QLabel::render; // which the next one would hide
     /// Renders the layer now, whether or not anything has changed.
     void render();
 

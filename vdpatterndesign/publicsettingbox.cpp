@@ -261,10 +261,18 @@ void PublicSettingBox::setData(const PublicChartData& data)
 {
     // In this order, each only where it differs: painters and shell follow through the controls' own signals.
     d->brightness.slider->setValue(data.brightness);
+    if (d->brightPainter)
+        d->brightPainter->setBrightness(ushort(d->brightness.slider->value())); // even while it is dragged
     d->height->setValue(data.resolutionHeight);
     d->width->setValue(data.resolutionWidth);
-    d->row->setValue(data.boxRow);
-    d->col->setValue(data.boxCol);
+    if (wholeValue(d->row) != data.boxRow) {
+        d->row->setValue(data.boxRow);
+        d->slotSetRow();
+    }
+    if (wholeValue(d->col) != data.boxCol) {
+        d->col->setValue(data.boxCol);
+        d->slotSetCol();
+    }
     d->borderWidth->setValue(data.outBorderWidth);
     d->brightness.entry->setValue(data.brightness);
     d->brightness.entry->setProperty("lastValue", d->brightness.entry->value());

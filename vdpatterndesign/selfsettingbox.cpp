@@ -39,7 +39,7 @@ public:
     void connectControls();
     SwitchedSwatch* swatchOf(const QPushButton* button);
     QColor colorOf(const QPushButton* button);
-    void showColor(const QColor& color, QPushButton* button);
+    void pushColor(const QColor& color, QPushButton* button);
     void tellColor(const QColor& color, const QPushButton* button);
     void switchGroup(QPushButton* button, bool on);
 
@@ -83,6 +83,7 @@ void SelfSettingBox::Impl::buildRows(PanelControls& controls)
     inner->setStyleSheet(
         QStringLiteral("QWidget#selfsettingbox{border-left : 1px solid #535465; border-right : 1px "
                        "solid #535465;border-bottom : 1px solid #535465;}"));
+    inner->setFixedWidth(410);
     auto* column = new QVBoxLayout(inner);
     column->setContentsMargins(10, 7, 10, 7);
     column->setSpacing(5);
@@ -145,13 +146,17 @@ QColor SelfSettingBox::Impl::colorOf(const QPushButton* button)
     return swatch ? swatch->color() : swatchColor(button);
 }
 
-void SelfSettingBox::Impl::showColor(const QColor& color, QPushButton* button)
+/// Tells the painter in any case, and the shell of a change.
+void SelfSettingBox::Impl::pushColor(const QColor& color, QPushButton* button)
 {
+    const bool differs = color != colorOf(button);
     if (SwitchedSwatch* swatch = swatchOf(button))
         swatch->paint(color);
     else
         paintSwatch(button, color);
     tellColor(color, button);
+    if (differs)
+        Q_EMIT owner->selfSignal();
 }
 
 void SelfSettingBox::Impl::tellColor(const QColor& color, const QPushButton* button)
@@ -273,20 +278,20 @@ void SelfSettingBox::setData(const SelfChartData& data)
     d->textSwitch->setChecked(data.showSelfText);
     d->text->setText(QString::fromStdString(data.selfText));
     d->textSize->setValue(data.selfTextSize);
-    d->soltChangeSelfTextSize(data.selfTextSize);
-    d->showColor(toQColor(data.selfTextColor), d->textColor);
+    if (d->painter)
+        d->painter->setSelfTextSize(ushort(wholeValue(d->textSize)));
+    d->pushColor(toQColor(data.selfTextColor), d->textColor);
     d->resolutionSwitch->setChecked(data.showResolution);
     d->resolutionSize->setValue(data.resolutionTextSize);
-    d->slotChangeResolutionSize();
-    d->showColor(toQColor(data.resolutionTextColor), d->resolutionColor);
+    if (d->painter)
+        d->painter->setResolutionSize(ushort(wholeValue(d->resolutionSize)));
+    d->pushColor(toQColor(data.resolutionTextColor), d->resolutionColor);
 }
 
 void SelfSettingBox::setButtonColor(const QColor& color, QPushButton* button)
 {
-    if (!button || !color.isValid() || color == d->colorOf(button))
-        return;
-    d->showColor(color, button);
-    Q_EMIT selfSignal();
+    if (button && color.isValid() && color != d->colorOf(button))
+        d->pushColor(color, button);
 }
 
 void SelfSettingBox::restoreButtonColor(const QString& key)
