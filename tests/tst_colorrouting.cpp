@@ -495,6 +495,44 @@ private Q_SLOTS:
         QVERIFY(host.color(odd) == odd.color(colorfulRecord()));
     }
 
+    /// It stays open for one choice after the other.
+    void pickerThatIsLockedOpen()
+    {
+        Host host;
+        const Role& odd = roleNamed(QStringLiteral("odd"));
+        QVERIFY(host.open(odd));
+        QTest::mouseClick(host.picker()->findChild<QPushButton*>(QStringLiteral("btnShow")), Qt::LeftButton);
+        host.typeColor(pickedNext);
+        QVERIFY(host.idle());
+        host.reject();
+        QVERIFY(host.idle());
+        QVERIFY(host.color(odd) == odd.color(colorfulRecord()));
+        QCOMPARE(host.html()->text(), toQColor(odd.color(colorfulRecord())).name());
+
+        host.typeColor(pickedNext); // the same again
+        QVERIFY(host.idle());
+        QVERIFY(host.color(odd) == toRgbaColor(pickedNext));
+        host.typeColor(picked);
+        QVERIFY(host.idle());
+        host.accept();
+        QVERIFY(host.idle());
+        host.typeColor(pickedNext);
+        QVERIFY(host.idle());
+        host.reject();
+        QVERIFY(host.color(odd) == toRgbaColor(picked)); // not the first color of all
+    }
+
+    /// Showing the picker handles events.
+    void editorDeletedWhileThePickerOpens()
+    {
+        Host host;
+        const QPointer<VTestChartTools> tool = host.tool;
+        QPushButton* const odd = host.button(roleNamed(QStringLiteral("odd")));
+        QTimer::singleShot(0, host.tool, [&] { delete host.tool; });
+        tool->slotShowColorDialog(odd);
+        QVERIFY(!tool);
+    }
+
     void addedColorIsAppendedWhenAccepted_data()
     {
         QTest::addColumn<bool>("accepted");
@@ -748,8 +786,8 @@ private Q_SLOTS:
             QTest::mouseRelease(title, Qt::LeftButton);
         };
         drag(QPoint(900, 900));
-        QCOMPARE(picker->frameGeometry().right(), range.right());
-        QCOMPARE(picker->frameGeometry().bottom(), range.bottom());
+        QCOMPARE(picker->x() + picker->frameGeometry().width(), range.right());
+        QCOMPARE(picker->y() + picker->frameGeometry().height(), range.bottom());
         const QPoint corner = picker->pos();
         drag(QPoint(-corner.x() + 10, -corner.y() + 20));
         QCOMPARE(picker->pos(), QPoint(10, 20)); // out at the top left
@@ -762,8 +800,8 @@ private Q_SLOTS:
         host.picker()->move(900, 500);
         const QRect range(0, 0, 1000, 700);
         host.tool->slotMainWindowMove(range, QPoint(50, 50));
-        QCOMPARE(host.picker()->frameGeometry().right(), range.right());
-        QCOMPARE(host.picker()->frameGeometry().bottom(), range.bottom());
+        QCOMPARE(host.picker()->x() + host.picker()->frameGeometry().width(), range.right());
+        QCOMPARE(host.picker()->y() + host.picker()->frameGeometry().height(), range.bottom());
     }
 };
 

@@ -93,6 +93,17 @@ private Q_SLOTS:
         QCOMPARE(fitted.height, QFontMetrics(shown).height());
     }
 
+    /// Whose stops do not shrink with the size.
+    void tabulators()
+    {
+        const QString text = QStringLiteral("tab\tx");
+        for (int requested = 1; requested <= 150; ++requested) {
+            QCOMPARE(fitText(text, requested, 247.2, 203.2).pixelSize,
+                     steppedSize(text, requested, 247.2, 203.2));
+            QCOMPARE(fitText(text, requested, 90, 80).pixelSize, steppedSize(text, requested, 90, 80));
+        }
+    }
+
     void exactLimitsFit()
     {
         const QString text = QStringLiteral("www.example.com");

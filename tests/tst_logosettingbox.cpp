@@ -422,6 +422,27 @@ private Q_SLOTS:
         QVERIFY(input->isEnabled());
     }
 
+    /// In a font in which the text takes nearly all of the button's width, and in a larger one.
+    void radioTexts()
+    {
+        QRadioButton* const picture = radio(false);
+        const QString text = QStringLiteral("Picture Logo");
+        QFont font = picture->font();
+        const auto width = [&] { return QFontMetrics(font).boundingRect(text).width(); };
+        for (int pixels = 8; width() < 100; ++pixels)
+            font.setPixelSize(pixels);
+        QVERIFY(width() <= 113);
+        picture->setFont(font);
+        m_panel->retranslate();
+        QCOMPARE(picture->text(), text);
+        while (width() <= 113)
+            font.setPixelSize(font.pixelSize() + 1);
+        picture->setFont(font);
+        m_panel->retranslate();
+        QVERIFY2(picture->text().endsWith(QChar(0x2026)), qPrintable(picture->text()));
+        QCOMPARE(picture->toolTip(), text);
+    }
+
     void properties()
     {
         QCOMPARE(showButton()->property("switchStyle").toString(), QStringLiteral("general"));

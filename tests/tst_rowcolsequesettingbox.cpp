@@ -201,6 +201,19 @@ private Q_SLOTS:
             QVERIFY(shown.panel.rect().contains(child->geometry()));
     }
 
+    /// In a font in which its captions take several lines.
+    void heightWithoutALayout()
+    {
+        const QFont before = QApplication::font();
+        QFont font = before;
+        font.setPixelSize(16);
+        QApplication::setFont(font);
+        RowColSequeSettingBox panel;
+        panel.adjustSize();
+        QApplication::setFont(before);
+        QVERIFY2(panel.height() >= panel.heightForWidth(380), qPrintable(QString::number(panel.height())));
+    }
+
     void controlsStandBesideTheirCaptions_data()
     {
         QTest::addColumn<QByteArray>("caption");

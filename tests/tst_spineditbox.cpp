@@ -203,6 +203,23 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), announced.isEmpty() ? QStringLiteral("50px") : QStringLiteral("70px"));
     }
 
+    void unitMayBeTypedOrLeftOut_data()
+    {
+        unitMayBePastedOrLeftOut_data();
+        QTest::newRow("with a blank") << "70 px" << Values{70};
+    }
+
+    void unitMayBeTypedOrLeftOut()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(Values, announced);
+        m_box->findChild<QLineEdit*>()->selectAll();
+        QTest::keyClicks(m_box, pasted);
+        perform(QStringLiteral("Return"));
+        QCOMPARE(m_announced, announced);
+        QCOMPARE(m_box->text(), announced.isEmpty() ? QStringLiteral("50px") : QStringLiteral("70px"));
+    }
+
     void nothingIsAnnouncedAtTheEnds_data()
     {
         QTest::addColumn<double>("value");
@@ -311,10 +328,20 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), QStringLiteral("50px"));
     }
 
+    /// Wherever a program sends the keys.
+    void clearedBoxTakesANewValue_data()
+    {
+        QTest::addColumn<bool>("inner");
+        QTest::newRow("box") << false;
+        QTest::newRow("its entry") << true;
+    }
+
     void clearedBoxTakesANewValue()
     {
+        QFETCH(bool, inner);
         m_box->clear();
-        QTest::keyClicks(m_box, QStringLiteral("7"));
+        QTest::keyClicks(inner ? m_box->findChild<QLineEdit*>() : static_cast<QWidget*>(m_box),
+                         QStringLiteral("7"));
         perform(QStringLiteral("Return"));
         QCOMPARE(m_announced, Values{7});
         QCOMPARE(m_box->text(), QStringLiteral("7px"));

@@ -2,6 +2,7 @@
 #include "common/textbatch.h"
 #include "testcase.h"
 
+#include <QFontDatabase>
 #include <QPainter>
 #include <QtMath>
 
@@ -85,6 +86,61 @@ private Q_SLOTS:
             batch.draw();
         });
         VD_COMPARE_IMAGES(batched, expected);
+    }
+
+    void fonts_data()
+    {
+        QTest::addColumn<QFont>("font");
+        const auto row = [](const char* name, auto change) {
+            QFont font = QApplication::font();
+            change(font);
+            QTest::newRow(name) << font;
+        };
+        row("underlined", [](QFont& font) { font.setUnderline(true); });
+        row("overlined", [](QFont& font) { font.setOverline(true); });
+        row("struck out", [](QFont& font) { font.setStrikeOut(true); });
+        row("bold italic", [](QFont& font) { font.setBold(true), font.setItalic(true); });
+        row("letters apart", [](QFont& font) { font.setLetterSpacing(QFont::AbsoluteSpacing, 3); });
+        row("small capitals", [](QFont& font) { font.setCapitalization(QFont::SmallCaps); });
+        row("stretched", [](QFont& font) { font.setStretch(150); });
+        const QStringList families = QFontDatabase().families();
+        for (const QString& family : families)
+            row(qPrintable(family), [&](QFont& font) { font.setFamily(family); });
+    }
+
+    /// Some of which have other digits behind a letter.
+    void fonts()
+    {
+        QFETCH(QFont, font);
+        for (const int pixelSize : {9, 16, 30}) {
+            const auto drawAll = [&](auto drawText) {
+                return drawn({900, 420}, pixelSize, [&](QPainter& painter) {
+                    font.setPixelSize(pixelSize);
+                    painter.setFont(font);
+                    drawText(painter);
+                });
+            };
+            const CabinetGrid grid{{900, 420}, 12, 11};
+            std::vector<PlacedText> texts;
+            for (int row = 0; row < grid.rows; ++row) {
+                for (int column = 0; column < grid.columns; ++column) {
+                    const auto label = cabinetLabel({2, 0, 0}, row, column, grid.rows, grid.columns);
+                    for (const PlacedText& placed : placedLabel(*label, 0, grid.cell(row, column)))
+                        texts.push_back(placed);
+                }
+            }
+            const QImage expected = drawAll([&](QPainter& painter) {
+                for (const PlacedText& text : texts)
+                    painter.drawText(text.box, text.alignment, text.head + text.tail);
+            });
+            const QImage batched = drawAll([&](QPainter& painter) {
+                TextBatch batch(painter);
+                for (const PlacedText& text : texts)
+                    batch.add(text.box, text.alignment, text.head, text.tail);
+                batch.draw();
+            });
+            VD_COMPARE_IMAGES(batched, expected);
+        }
     }
 
     void inkBesideItsBoxIsClipped_data()

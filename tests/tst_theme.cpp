@@ -317,6 +317,8 @@ private Q_SLOTS:
         read(theme, file("[Colors]\nText01=FF010203\n"));
         const QStringList warnings = log().messages(QStringLiteral("Theme Color "));
         QCOMPARE(warnings.size(), 162);
+        QVERIFY2(warnings.first().contains(QLatin1String("Theme::readSettings(")),
+                 qPrintable(warnings.first()));
         QVERIFY(warnings.first().endsWith(QLatin1String(" Theme Color BasiceAttributeBarColor is not set.")));
         QVERIFY(warnings.last().endsWith(
             QLatin1String(" Theme Color colorStripeRemovePushButtonBorder is not set.")));

@@ -131,6 +131,8 @@ void FloatDockWidget::slotCloseWidget()
 void FloatDockWidget::slotLockWidget(bool bLock)
 {
     d->locked = bLock;
+    if (d->title->isLocked() != bLock)
+        d->title->setLocked(bLock);
     Q_EMIT sigSendLockMsg(bLock);
 }
 

@@ -36,6 +36,7 @@ enum Page
 
 constexpr QSize captionSize(80, 24);
 constexpr QSize radioSize(115, 24);
+constexpr int buttonMargin = 2;
 constexpr QSize shortEntry(70, 24);
 constexpr QSize axisCaption(12, 24);
 constexpr int farthestMove = 16384;
@@ -133,8 +134,8 @@ void LogoSettingBox::Impl::build(PanelControls& controls)
     SettingRows rows(owner, controls, column, captionSize);
     rows.row(QStringLiteral("Show Logo")).toggle(showButton, true);
     rows.row(QStringLiteral("Logo Style"))
-        .radio(pictureRadio, QStringLiteral("Picture Logo"), radioSize, whenOn)
-        .radio(textRadio, QStringLiteral("Text Logo"), radioSize, whenOn);
+        .radio(pictureRadio, QStringLiteral("Picture Logo"), radioSize, whenOn, buttonMargin)
+        .radio(textRadio, QStringLiteral("Text Logo"), radioSize, whenOn, buttonMargin);
     pictureRadio->setChecked(true);
     pages = new QStackedWidget(owner);
     pages->setFixedWidth(410);
@@ -187,7 +188,7 @@ QLayout* LogoSettingBox::Impl::buildHint(QWidget* page, PanelControls& controls)
     hint->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     controls.captions.add(hint, QStringLiteral("SuggestTransparentbackgroundrecommended"));
     auto* row = new QHBoxLayout;
-    row->setSpacing(4);
+    row->setSpacing(8);
     row->addWidget(spacer);
     row->addWidget(icon);
     row->addWidget(hint);

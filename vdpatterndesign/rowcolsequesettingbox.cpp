@@ -303,6 +303,7 @@ RowColSequeSettingBox::RowColSequeSettingBox(QWidget* parent)
     setFixedWidth(380);
     d->createControls();
     d->arrange();
+    setMinimumHeight(heightForWidth(width())); // its captions wrap, also where no layout asks for the height
     d->connectControls();
 }
 

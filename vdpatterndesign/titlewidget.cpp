@@ -88,15 +88,20 @@ void TitleWidget::slotSendCloseWidget()
     Q_EMIT sigColseWidget();
 }
 
-void TitleWidget::slotSendLockWidget()
+void TitleWidget::setLocked(bool locked)
 {
-    m_locked = !m_locked;
+    m_locked = locked;
     m_lock->setProperty(lockProperty, m_locked);
     m_lock->setIcon(QIcon(
         QStringLiteral(":/resources/images/%1.png")
             .arg(m_locked ? QStringLiteral("icon_pop_pin_enable_nor") : QStringLiteral("icon_pop_pin_nor"))));
     m_lock->style()->unpolish(m_lock);
     m_lock->style()->polish(m_lock);
+}
+
+void TitleWidget::slotSendLockWidget()
+{
+    setLocked(!m_locked);
     Q_EMIT sigLockWidget(m_locked);
 }
 

@@ -21,6 +21,8 @@ public:
 
     void setTitle(const QString& text);
     bool isLocked() const;
+    /// Shows the lock as `locked`, and tells nobody.
+    void setLocked(bool locked);
     /// Ends a drag that is going on.
     void reset();
 

@@ -786,9 +786,12 @@ void VTestChartTools::slotShowColorDialog(QPushButton* button)
         d->centreColorDialog();
     }
     d->colorDialog->setWindowState(d->colorDialog->windowState() & ~Qt::WindowMinimized);
-    d->colorDialog->show();
-    d->colorDialog->raise();
-    d->colorDialog->activateWindow();
+    const QPointer<CustomColorDialog> dialog = d->colorDialog;
+    dialog->show(); // handles events, one of which may be the end of this tool
+    if (!dialog)
+        return;
+    dialog->raise();
+    dialog->activateWindow();
 }
 
 void VTestChartTools::slotColorSelected(const QColor& color)
@@ -805,10 +808,13 @@ void VTestChartTools::slotColorDialogRejected()
         return;
     for (SettingPanel* panel : d->panels)
         panel->setRoleColor(d->servedColorRole(), d->colorBeforePicking);
+    d->colorDialog->setCurrentColor(d->colorBeforePicking); // for the next choice, while it is locked open
 }
 
 void VTestChartTools::slotDialogAccepted(QColor color)
 {
+    if (d->colorBeforePicking.isValid())
+        d->colorBeforePicking = color; // what the next choice goes back to, while the picker is locked open
     d->basicPanel->addColor(color, d->servedColorRole());
 }
 

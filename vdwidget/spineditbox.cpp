@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace vardeno::testcharttools {
 
 SpinEditBox::SpinEditBox(QWidget* parent)
@@ -24,10 +26,22 @@ SpinEditBox::SpinEditBox(QWidget* parent)
 
 QValidator::State SpinEditBox::validate(QString& input, int& position) const
 {
+    // Typed over everything, a value with its suffix meets the suffix that the box adds.
+    if (!suffix().isEmpty() && input.endsWith(suffix() + suffix())) {
+        input.chop(suffix().size());
+        position = std::min(position, input.size());
+    }
     const QValidator::State state = QDoubleSpinBox::validate(input, position);
     // The base refuses the key that would leave the range ("500" in 1..100 becomes "50", and 50 is
     // committed).
     return state == QValidator::Invalid ? QValidator::Intermediate : state;
+}
+
+/// The base would not read what is typed into a box that it has cleared.
+void SpinEditBox::clear()
+{
+    lineEdit()->setText(prefix() + suffix());
+    lineEdit()->setCursorPosition(prefix().size());
 }
 
 void SpinEditBox::fixup(QString& input) const

@@ -20,6 +20,7 @@ public:
     explicit SpinEditBox(QWidget* parent = nullptr);
 
     QValidator::State validate(QString& input, int& position) const override;
+    void clear() override;
     void fixup(QString& input) const override;
     QString textFromValue(double value) const override;
 

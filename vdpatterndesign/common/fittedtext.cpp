@@ -23,6 +23,8 @@ FittedText measured(const QString& text, int pixelSize)
 
 FittedText fitText(const QString& text, int requested, double widthLimit, double heightLimit)
 {
+    const bool proportional =
+        !text.contains(QLatin1Char('\t')); // the stops of tabulators stay where they are
     FittedText fitted = measured(text, requested);
     while ((fitted.advance > widthLimit || fitted.height > heightLimit) && fitted.pixelSize >= 1) {
         // Both grow with the size, but for the rounding of a pixel and of every character: what is in between
@@ -30,7 +32,8 @@ FittedText fitText(const QString& text, int requested, double widthLimit, double
         const double scale =
             std::min({1.0, (heightLimit + 2) / std::max(fitted.height - 1, 1),
                       (widthLimit + 2.0 * text.size()) / std::max(fitted.advance - text.size(), 1)});
-        const int next = std::min(fitted.pixelSize - 1, int(fitted.pixelSize * scale) + 1);
+        const int smaller = fitted.pixelSize - 1;
+        const int next = proportional ? std::min(smaller, int(fitted.pixelSize * scale) + 1) : smaller;
         if (next == 0)
             fitted.pixelSize = 0;
         else

@@ -20,7 +20,6 @@ constexpr QSize iconButtonSize(20, 20);
 constexpr QSize swatchSize(16, 16);
 constexpr QSize switchSize(28, 14);
 constexpr int rowSpacing = 8;
-constexpr int indicatorMargin = 20;
 
 QIcon switchIcon()
 {
@@ -40,7 +39,8 @@ int captionMargin(const QPushButton* button)
 void tellWideItem(ComboBox* box)
 {
     const QString text = box->currentText();
-    const bool fits = box->fontMetrics().boundingRect(text).width() <= box->width() - indicatorMargin;
+    const bool fits =
+        box->fontMetrics().boundingRect(text).width() <= box->width() - SettingRow::indicatorMargin;
     box->setToolTip(fits ? QString() : text);
 }
 
@@ -117,11 +117,12 @@ SettingRow& SettingRow::swatch(QPushButton*& button, const QString& objectName, 
     return *this;
 }
 
-SettingRow& SettingRow::radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed)
+SettingRow& SettingRow::radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed,
+                              int margin)
 {
     radio = new QRadioButton(m_panel);
     appendLocked(radio, size, std::move(allowed));
-    m_controls->captions.add(radio, source, indicatorMargin);
+    m_controls->captions.add(radio, source, margin);
     return *this;
 }
 

@@ -60,8 +60,9 @@ public:
     /// A colour button, 16 x 16, whose role is the dynamic property "btnProperty" unless `role` is empty.
     SettingRow& swatch(QPushButton*& button, const QString& objectName, const QString& role,
                        Allowed allowed = {});
-    /// A radio button; those of one panel exclude one another.
-    SettingRow& radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed = {});
+    /// A radio button; those of one panel exclude one another. Its text is elided to its width less `margin`.
+    SettingRow& radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed = {},
+                      int margin = indicatorMargin);
     /// A combo box with one item for each of `sources`; an item's data is its 0-based row.
     SettingRow& combo(ComboBox*& box, const QStringList& sources, const QSize& size, Allowed allowed = {});
     /// A button with a caption; its dynamic property "btnProperty" = "uplogo" leaves room for a picture.
@@ -73,6 +74,8 @@ public:
     /// A widget that the panel made itself; the lock leaves it alone.
     SettingRow& widget(QWidget* widget);
     SettingRow& gap(int pixels);
+
+    static constexpr int indicatorMargin = 20;
     /// Between what follows; at first 8.
     SettingRow& spacing(int pixels);
 

@@ -32,30 +32,38 @@ bool isSimple(const QString& text)
 TextBatch::TextBatch(QPainter& painter)
     : m_painter(painter)
     , m_font(painter.font())
-    , m_outlines(QFontInfo(m_font).pixelSize() >= outlineSize)
+    , m_oneByOne(QFontInfo(m_font).pixelSize() >= outlineSize || m_font.underline() || m_font.overline() ||
+                 m_font.strikeOut())
 {
 }
 
 void TextBatch::add(const QRect& box, int alignment, const QString& head, const QString& tail)
 {
+    if (m_oneByOne) {
+        m_painter.drawText(box, alignment, head + tail);
+        return;
+    }
+    const bool joined = !head.isEmpty() && !tail.isEmpty();
+    const Joint joint = joined ? jointOf(head, tail) : Joint();
+    if (joined && !joint.separable) {
+        add(box, alignment, head + tail);
+        return;
+    }
     const LaidOut first = laidOut(head);
-    const bool joined = !tail.isEmpty();
-    const LaidOut second = joined ? laidOut(tail) : LaidOut();
-    const qreal gap = joined && !head.isEmpty() ? kerning(head.back(), tail.front()) : 0;
-    const qreal width = first.width + gap + second.width;
+    const LaidOut second = laidOut(tail);
+    const qreal width = first.width + joint.gap + second.width;
     const qreal height = first.height;
     const QPointF at(box.x() + shift(alignment, Qt::AlignRight, Qt::AlignHCenter, box.width(), width),
                      box.y() + shift(alignment, Qt::AlignBottom, Qt::AlignVCenter, box.height(), height));
-    const qreal inkWidth = width + (joined ? second : first).overhang;
+    const qreal inkWidth = width + (tail.isEmpty() ? first : second).overhang;
     const bool fits = !box.isEmpty() && inkWidth <= box.width() && height <= box.height();
-    const bool plain = first.plain && (!joined || second.plain);
-    if (!plain || !fits) {
+    if (!first.plain || !second.plain || !fits) {
         draw();                                          // what was added first lies below
         m_painter.drawText(box, alignment, head + tail); // clips what sticks out of the box
         return;
     }
     append(first, at);
-    append(second, at + QPointF(first.width + gap, 0));
+    append(second, at + QPointF(first.width + joint.gap, 0));
 }
 
 void TextBatch::draw()
@@ -101,7 +109,8 @@ TextBatch::LaidOut TextBatch::measured(const QString& text)
     layout.endLayout();
 
     const QList<QGlyphRun> runs = layout.glyphRuns();
-    if (m_outlines || !isSimple(text) || runs.size() != 1)
+    result.plain = text.isEmpty();
+    if (!isSimple(text) || runs.size() != 1)
         return result;
     if (!m_rawFont.isValid())
         m_rawFont = runs.first().rawFont();
@@ -111,15 +120,24 @@ TextBatch::LaidOut TextBatch::measured(const QString& text)
     return result;
 }
 
-/// What `right` moves when it stands behind `left`.
-qreal TextBatch::kerning(QChar left, QChar right)
+/// Of all tails that begin alike. A font may have other glyphs for a digit that follows a letter.
+TextBatch::Joint TextBatch::jointOf(const QString& head, const QString& tail)
 {
-    const QString pair = QString(left) + right;
-    const auto known = m_kernings.constFind(pair);
-    if (known != m_kernings.cend())
+    const QString key = head + tail.front();
+    const auto known = m_joints.constFind(key);
+    if (known != m_joints.cend())
         return *known;
-    const qreal moved = measured(pair).width - measured(left).width - measured(right).width;
-    return *m_kernings.insert(pair, moved);
+    const LaidOut whole = measured(head + tail);
+    const LaidOut first = laidOut(head);
+    const LaidOut second = laidOut(tail);
+    Joint joint;
+    joint.gap = whole.width - first.width - second.width;
+    QVector<QPointF> positions = first.positions;
+    for (const QPointF& position : second.positions)
+        positions.append(position + QPointF(first.width + joint.gap, 0));
+    joint.separable =
+        whole.plain && whole.glyphs == first.glyphs + second.glyphs && whole.positions == positions;
+    return *m_joints.insert(key, joint);
 }
 
 } // namespace vardeno::testcharttools

@@ -36,17 +36,23 @@ private:
         qreal height = 0;
         bool plain = false; ///< one line of glyphs of the batch's one font
     };
+    /// Where a head and a tail meet.
+    struct Joint
+    {
+        qreal gap = 0;          ///< what the tail is moved
+        bool separable = false; ///< the tail has the glyphs that it has alone, and so has the head
+    };
     const LaidOut& laidOut(const QString& text);
     LaidOut measured(const QString& text);
-    qreal kerning(QChar left, QChar right);
+    Joint jointOf(const QString& head, const QString& tail);
     void append(const LaidOut& layout, const QPointF& at);
 
     QPainter& m_painter;
     QFont m_font;
-    bool m_outlines; ///< glyphs this large are filled as outlines, one text at a time
+    bool m_oneByOne; ///< large glyphs are filled as outlines, and lines are drawn along texts
     QRawFont m_rawFont;
     QHash<QString, LaidOut> m_layouts;
-    QHash<QString, qreal> m_kernings;
+    QHash<QString, Joint> m_joints;
     QVector<quint32> m_glyphs;
     QVector<QPointF> m_positions;
 };

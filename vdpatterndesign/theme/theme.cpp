@@ -37,9 +37,10 @@ class Theme::Impl
 {
 public:
     void readName(const QSettings& settings);
-    void readColors(const Theme& theme, QSettings& settings, bool warn);
-    void readImageFiles(QSettings& settings, bool warn);
-    void readIntegers(QSettings& settings, bool warn);
+    // `caller` warns of keys that are not there; null does not.
+    void readColors(const Theme& theme, QSettings& settings, const char* caller);
+    void readImageFiles(QSettings& settings, const char* caller);
+    void readIntegers(QSettings& settings, const char* caller);
 
     QString id;
     QString fileName;
@@ -58,7 +59,7 @@ void Theme::Impl::readName(const QSettings& settings)
         displayName = unnamed();
 }
 
-void Theme::Impl::readColors(const Theme& theme, QSettings& settings, bool warn)
+void Theme::Impl::readColors(const Theme& theme, QSettings& settings, const char* caller)
 {
     settings.beginGroup(QStringLiteral("Colors"));
     const QMetaEnum keys = keysOf<Color>();
@@ -66,26 +67,26 @@ void Theme::Impl::readColors(const Theme& theme, QSettings& settings, bool warn)
         const QString key = QLatin1String(keys.key(i));
         if (settings.contains(key))
             colors[std::size_t(i)] = theme.readNamedColor(settings.value(key).toString());
-        else if (warn)
-            qWarning().noquote().nospace() << Q_FUNC_INFO << " Theme Color " << key << " is not set.";
+        else if (caller)
+            qWarning().noquote().nospace() << caller << " Theme Color " << key << " is not set.";
     }
     settings.endGroup();
 }
 
-void Theme::Impl::readImageFiles(QSettings& settings, bool warn)
+void Theme::Impl::readImageFiles(QSettings& settings, const char* caller)
 {
     settings.beginGroup(QStringLiteral("ImageFiles"));
     const QStringList keys = settings.allKeys();
     for (const QString& key : keys) {
         if (settings.contains(key))
             imageFiles.insert(key, settings.value(key).toString());
-        else if (warn)
-            qWarning().noquote().nospace() << Q_FUNC_INFO << " Theme image file " << key << " is not set.";
+        else if (caller)
+            qWarning().noquote().nospace() << caller << " Theme image file " << key << " is not set.";
     }
     settings.endGroup();
 }
 
-void Theme::Impl::readIntegers(QSettings& settings, bool warn)
+void Theme::Impl::readIntegers(QSettings& settings, const char* caller)
 {
     settings.beginGroup(QStringLiteral("Integers"));
     const QMetaEnum keys = keysOf<Integer>();
@@ -93,8 +94,8 @@ void Theme::Impl::readIntegers(QSettings& settings, bool warn)
         const QString key = QLatin1String(keys.key(i));
         if (settings.contains(key))
             integers[std::size_t(i)] = settings.value(key).toInt();
-        else if (warn)
-            qWarning().noquote().nospace() << Q_FUNC_INFO << " Theme Interger type " << key << " is not set.";
+        else if (caller)
+            qWarning().noquote().nospace() << caller << " Theme Interger type " << key << " is not set.";
     }
     settings.endGroup();
 }
@@ -127,14 +128,14 @@ QString Theme::displayName() const
 
 void Theme::readSettings(QSettings& settings)
 {
-    const bool first = d->fileName.isEmpty();
-    if (first)
+    const char* const caller = d->fileName.isEmpty() ? Q_FUNC_INFO : nullptr;
+    if (caller)
         d->fileName = settings.fileName();
     SafeSettings safe(settings);
     d->readName(safe.settings());
-    d->readColors(*this, safe.settings(), first);
-    d->readImageFiles(safe.settings(), first);
-    d->readIntegers(safe.settings(), first);
+    d->readColors(*this, safe.settings(), caller);
+    d->readImageFiles(safe.settings(), caller);
+    d->readIntegers(safe.settings(), caller);
 }
 
 QPair<QColor, QString> Theme::readNamedColor(const QString& value) const
