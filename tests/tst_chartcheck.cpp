@@ -325,7 +325,7 @@ private Q_SLOTS:
             {"logoData.showLogo: the logo lies over the labels of 2 of 144 cabinets, first E-H"});
         add("too long", [=](auto& r) { show(r, std::string(300, 'M')); },
             {QStringLiteral(
-                 "logoData.textSize: 100 pixels are too many for \"%1\u2026\"; drawn at 5, below the "
+                 "logoData.textSize: 100 pixels are too many for \"%1\u2026\"; drawn at 6, below the "
                  "10 that can be read")
                  .arg(QString(40, 'M'))});
         add("empty", [=](auto& r) { show(r, ""); }, {"logoData.logoText: empty; no logo is drawn"});

@@ -1193,7 +1193,7 @@ private Q_SLOTS:
             QCOMPARE(widget->toolTip(), wide);
         }
         const QFontMetrics metrics = widgets.first()->fontMetrics();
-        const QString justTooWide = textOfWidth(metrics, room + 1, room + 2);
+        const QString justTooWide = textOfWidth(metrics, room + 1, room + 3);
         QVERIFY(!justTooWide.isEmpty());
         QVERIFY(speak({{source, justTooWide}}));
         shown.panel.retranslate();

@@ -10,8 +10,7 @@ using namespace charttool;
 
 namespace {
 
-/// Glyphs of 64 pixels and more are drawn as outlines, and not the same from one drawing to the next.
-constexpr int largestText = 63;
+constexpr int largestText = 100; ///< pixels; the reference takes them one by one off what does not fit
 
 constexpr RecordLimits limits = {QSize(700, 500), 40, largestText, 700};
 

@@ -585,6 +585,36 @@ private Q_SLOTS:
                  QStringList({"manifest.json", "small-left.png", "small-right.png"}));
     }
 
+    /// The toolkit draws large glyphs from outlines, which small ones of the same font may leave changed.
+    void picturesDoNotDependOnThoseBefore()
+    {
+        QStringList records;
+        for (int i = 0; i < 16; ++i) {
+            TestChartToolsData record = smallRecord();
+            record.publicData.boxRow = 1 + i % 3;
+            record.publicData.boxCol = 1 + i % 4;
+            record.inLineData.serialSize = 100 - 6 * i;
+            record.selfData.selfText = i % 2 ? "Qg" : "&8 屏";
+            record.selfData.selfTextSize = 30 + 10 * i;
+            record.selfData.resolutionTextSize = 10 + i;
+            record.logoData.textLogo = true;
+            record.logoData.pictureLogo = false;
+            record.logoData.logoText = "W" + std::to_string(i);
+            record.logoData.textSize = 20 + 5 * i;
+            records.append(QStringLiteral("text%1.json").arg(i));
+            write(records.last(), ChartRecordFile::toJson(record));
+        }
+        QCOMPARE(run(QStringList{"batch", "-j", "1", "-o", "forwards"} + records).code, 0);
+        const QStringList reversed(records.rbegin(), records.rend());
+        QCOMPARE(run(QStringList{"batch", "-j", "1", "-o", "backwards"} + reversed).code, 0);
+        for (const QString& record : records) {
+            const QString picture = QFileInfo(record).completeBaseName() + ".png";
+            const QByteArray alone = run({"render", record, "-o", "-"}).output;
+            QVERIFY2(read("forwards/" + picture) == alone, qPrintable(record));
+            QVERIFY2(read("backwards/" + picture) == alone, qPrintable(record));
+        }
+    }
+
     void manifest()
     {
         write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,5000\n");

@@ -83,12 +83,13 @@ void frameCurrentItem(QListWidget* list, const QString& style)
         list->setStyleSheet(style.arg(current->background().color().name()));
 }
 
-/// Where a window of `size` opens beside `button`: on its right, and no farther than the screen goes.
+/// Where a window of `size` opens beside `button`: on its right, and no farther than the screen goes, to its
+/// last pixel.
 QPoint placeBeside(const QWidget* button, const QSize& size)
 {
     const QScreen* screen = QGuiApplication::screenAt(button->mapToGlobal(button->rect().center()));
-    const QRect range = (screen ? screen : button->screen())->availableGeometry();
-    return keptInRange(button->mapToGlobal(QPoint(button->width(), 0)), size, range);
+    const QRect room = (screen ? screen : button->screen())->availableGeometry();
+    return keptInRange(button->mapToGlobal(QPoint(button->width(), 0)), size, room.adjusted(0, 0, 1, 1));
 }
 
 } // namespace

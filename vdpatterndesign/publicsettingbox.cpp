@@ -260,9 +260,11 @@ PublicChartData PublicSettingBox::getData() const
 void PublicSettingBox::setData(const PublicChartData& data)
 {
     // In this order, each only where it differs: painters and shell follow through the controls' own signals.
-    d->brightness.slider->setValue(data.brightness);
-    if (d->brightPainter)
-        d->brightPainter->setBrightness(ushort(d->brightness.slider->value())); // even while it is dragged
+    if (d->brightness.slider->value() != data.brightness) {
+        d->brightness.slider->setValue(data.brightness);
+        if (d->brightPainter) // even while the slider is held
+            d->brightPainter->setBrightness(ushort(d->brightness.slider->value()));
+    }
     d->height->setValue(data.resolutionHeight);
     d->width->setValue(data.resolutionWidth);
     if (wholeValue(d->row) != data.boxRow) {

@@ -35,7 +35,9 @@ public:
 
     /// Shows `record` as `setTestChartToolsData` does, and then gives every layer every value that the
     /// controls show. The picture is decided by the record alone, whatever was shown before; where it chooses
-    /// neither of two patterns or logos, or no way of labelling, it is the default one.
+    /// neither of two patterns or logos, or no way of labelling, it is the default one. The colour bar of a
+    /// chart that is being added (`isShowForAdd()`) has its default colours here, too: a host that starts a
+    /// new chart from a record of its own applies it first, and calls `setShowForAdd(true)` then.
     void applyRecord(const TestChartToolsData& record);
 
     /// The composed chart in the size of its resolution, opaque, as it is saved.

@@ -3,7 +3,9 @@
 QFont chartFont()
 {
     QFont font(QStringLiteral("DejaVu Sans"), 9);
-    font.setHintingPreference(QFont::PreferVerticalHinting);
+    // Large glyphs are drawn from outlines, which the toolkit leaves changed by small ones that are hinted
+    // less: a picture would depend on what was drawn before it.
+    font.setHintingPreference(QFont::PreferFullHinting);
     font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return font;
 }

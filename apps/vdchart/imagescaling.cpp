@@ -135,11 +135,11 @@ std::optional<Scaling> zoomed(const QImage& expected, const QImage& actual)
     const std::optional<QRectF> part = findZoomedPart(expected, actual);
     if (!part)
         return std::nullopt;
-    const QRect nearest = part->toAlignedRect() & expected.rect();
-    const bool exact = isNearest(expected.copy(nearest), actual) ||
-                       isNearest(expected.copy(part->toRect() & expected.rect()), actual);
-    if (exact)
-        return Scaling{*part, actual.rect(), false, 1, {}};
+    for (const QRect& whole : {part->toAlignedRect(), part->toRect()}) {
+        const QRect pixels = whole & expected.rect();
+        if (isNearest(expected.copy(pixels), actual))
+            return Scaling{pixels, actual.rect(), false, 1, {}};
+    }
     return smoothScaling(zoomedPart(expected, *part, actual.size()), actual, *part, actual.rect());
 }
 
