@@ -188,9 +188,10 @@ QLayout* LogoSettingBox::Impl::buildHint(QWidget* page, PanelControls& controls)
     hint->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     controls.captions.add(hint, QStringLiteral("SuggestTransparentbackgroundrecommended"));
     auto* row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(0); // the spacer reaches to the controls
     row->addWidget(spacer);
     row->addWidget(icon);
+    row->addSpacing(8);
     row->addWidget(hint);
     row->addStretch();
     return row;
