@@ -111,6 +111,22 @@ private Q_SLOTS:
         VD_COMPARE_IMAGES(part.toImage(), expected(chart, onTheLeft, Qt::red));
     }
 
+    void nothingIsNotLookedFor()
+    {
+        LayerPicture picture;
+        picture.begin(chart, LayerPicture::Coverage::Whole).fill(Qt::white);
+        picture.finish();
+        for (int again = 0; again < 2; ++again) {
+            picture.begin(chart, LayerPicture::Coverage::Nothing);
+            VD_COMPARE_IMAGES(picture.finish().toImage(), expected(chart, QRect(), Qt::white));
+            QVERIFY(picture.ink().places.isEmpty() && !picture.ink().opaque);
+        }
+        const QPixmap part = drawn(picture, chart, onTheLeft, Qt::red);
+        VD_COMPARE_IMAGES(part.toImage(), expected(chart, onTheLeft, Qt::red));
+        picture.begin(chart, LayerPicture::Coverage::Nothing);
+        VD_COMPARE_IMAGES(picture.finish().toImage(), expected(chart, QRect(), Qt::white));
+    }
+
     void takesAnotherSize()
     {
         LayerPicture picture;

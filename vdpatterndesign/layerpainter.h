@@ -24,8 +24,9 @@ public:
     enum class Coverage
     {
         Unknown,
-        Whole, ///< every pixel is written, whatever was there before
-        Opaque ///< every pixel is written, and opaque
+        Nothing, ///< no pixel is written
+        Whole,   ///< every pixel is written, whatever was there before
+        Opaque   ///< every pixel is written, and opaque
     };
 
     explicit LayerPainter(QWidget* parent = nullptr);

@@ -27,7 +27,7 @@ void PaintPublicBrightWidget::setBrightness(ushort percent)
 
 LayerPainter::Coverage PaintPublicBrightWidget::coverage() const
 {
-    return d->alpha() > 0 ? Coverage::Whole : Coverage::Unknown;
+    return d->alpha() > 0 ? Coverage::Whole : Coverage::Nothing;
 }
 
 void PaintPublicBrightWidget::draw(QPainter& painter, const QSize& size)

@@ -26,7 +26,7 @@ QImage& LayerPicture::begin(const QSize& size, Coverage coverage)
 {
     if (m_image.size() != size || !m_image.isDetached())
         m_image = transparentImage(size);
-    else if (coverage == Coverage::Unknown)
+    else if (coverage == Coverage::Unknown || coverage == Coverage::Nothing)
         wipe(m_image, m_ink.places);
     m_coverage = coverage;
     return m_image;
@@ -34,8 +34,12 @@ QImage& LayerPicture::begin(const QSize& size, Coverage coverage)
 
 QPixmap LayerPicture::finish()
 {
-    m_ink = m_coverage == Coverage::Unknown ? inkOf(m_image)
-                                            : Ink{{m_image.rect()}, m_coverage == Coverage::Opaque};
+    if (m_coverage == Coverage::Unknown)
+        m_ink = inkOf(m_image);
+    else if (m_coverage == Coverage::Nothing)
+        m_ink = Ink();
+    else
+        m_ink = {{m_image.rect()}, m_coverage == Coverage::Opaque};
     return QPixmap::fromImage(m_image, Qt::NoOpaqueDetection);
 }
 
