@@ -3,6 +3,7 @@
 #include "basicsettingbox.h"
 #include "common/caption.h"
 #include "common/chartfolder.h"
+#include "common/heldarrow.h"
 #include "common/inputkeeper.h"
 #include "common/layerstack.h"
 #include "common/previewfit.h"
@@ -146,6 +147,7 @@ public:
     QLabel* previewLabel = nullptr;
     QVBoxLayout* scrollLayout = nullptr;
     InputKeeper input;
+    HeldArrow heldArrow;
     CaptionSet captions; ///< of the edit buttons
     QRect fittedPreviewRect;
     QImage snapshot;
@@ -171,6 +173,7 @@ VTestChartTools::Impl::Impl(VTestChartTools* tool)
     : owner(tool)
     , layers(tool)
     , input(tool)
+    , heldArrow(tool)
 {
     for (int painter = 0; painter < 8; ++painter)
         paintStatus[painter] = false;
@@ -431,8 +434,10 @@ void VTestChartTools::Impl::lockControls(bool locked)
         panel->setControlsDisabled(locked);
     for (QPushButton* button : {cancelButton, addConfirm, replaceConfirm, replaceApply})
         button->setEnabled(!locked);
-    if (!locked)
-        input.end();
+    if (locked)
+        return;
+    input.end();
+    heldArrow.resume();
 }
 
 void VTestChartTools::Impl::takeSnapshot()

@@ -1,0 +1,101 @@
+#include "spineditbox.h"
+#include "testcase.h"
+#include "vtestcharttools.h"
+
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+
+using namespace vardeno::testcharttools;
+
+/// A person holds the arrow of a numeric entry with the mouse, while every step repaints the chart and makes
+/// the entry inert.
+class TestHeldArrow : public TestCase
+{
+    Q_OBJECT
+
+private:
+    /// The tool in a window that is shown and active, its first repaint done.
+    struct Shown
+    {
+        VTestChartTools tool;
+
+        Shown()
+        {
+            tool.show();
+            tool.activateWindow();
+            const bool ready = QTest::qWaitForWindowActive(&tool) && idle();
+            Q_ASSERT(ready);
+            Q_UNUSED(ready)
+        }
+
+        /// Waits until no control is locked and nothing more is coming.
+        bool idle()
+        {
+            QTest::qWait(250);
+            auto* const mask = tool.findChild<QWidget*>(QStringLiteral("maskWidget"));
+            return QTest::qWaitFor([mask] { return mask->isHidden(); });
+        }
+
+        SpinEditBox* columns() { return tool.findChild<SpinEditBox*>(QStringLiteral("Col")); }
+
+        /// The middle of the entry's upper arrow.
+        QPoint up()
+        {
+            QStyleOptionSpinBox option;
+            option.initFrom(columns());
+            option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
+            option.subControls = QStyle::SC_All;
+            return columns()
+                ->style()
+                ->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, columns())
+                .center();
+        }
+    };
+
+private Q_SLOTS:
+    void stepsUntilItIsLetGo()
+    {
+        Shown shown;
+        QTest::mousePress(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
+        QCOMPARE(shown.columns()->value(), 17.0);
+        QTRY_COMPARE_WITH_TIMEOUT(shown.columns()->value(), 20.0, 20000);
+        QTest::mouseRelease(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
+        QVERIFY(shown.idle());
+        const double value = shown.columns()->value();
+        QTest::qWait(1000);
+        QCOMPARE(shown.columns()->value(), value);
+        QCOMPARE(shown.tool.getTestChartToolsData().publicData.boxCol, int(value));
+    }
+
+    void doesNotStepBesideTheEntry()
+    {
+        Shown shown;
+        QTest::mousePress(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
+        const QPoint beside(-40, 5);
+        QMouseEvent move(QEvent::MouseMove, beside, shown.columns()->mapToGlobal(beside), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(shown.columns(), &move);
+        QTest::qWait(1200);
+        QCOMPARE(shown.columns()->value(), 17.0);
+        QTest::mouseRelease(shown.columns(), Qt::LeftButton, Qt::NoModifier, beside);
+    }
+
+    /// As long as a click may take.
+    void aClickStepsOnce()
+    {
+        Shown shown;
+        QElapsedTimer held;
+        held.start();
+        QTest::mousePress(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
+        QTest::qWait(300);
+        QTest::mouseRelease(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
+        if (held.elapsed() >= 450)
+            QSKIP("the machine was too slow for a click");
+        QVERIFY(shown.idle());
+        QTest::qWait(600);
+        QCOMPARE(shown.columns()->value(), 17.0);
+    }
+};
+
+VD_TEST_MAIN(TestHeldArrow)
+#include "tst_heldarrow.moc"
