@@ -1,7 +1,6 @@
 #include "common/ink.h"
 
 #include <algorithm>
-#include <cstring>
 #include <numeric>
 
 namespace vardeno::testcharttools {
@@ -82,7 +81,7 @@ void wipe(QImage& picture, const QVector<QRect>& places)
 {
     for (const QRect& place : places) {
         for (int y = place.top(); y <= place.bottom(); ++y)
-            std::memset(picture.scanLine(y) + place.left() * 4, 0, std::size_t(place.width()) * 4);
+            std::fill_n(reinterpret_cast<QRgb*>(picture.scanLine(y)) + place.left(), place.width(), 0U);
     }
 }
 

@@ -209,7 +209,7 @@ public:
     QString displayName() const;
 
     /// Reads a theme file. A further one is laid over what has been read: what it leaves out stays as it is.
-    /// The first warns of every key that it lacks. Values that begin with an '@' could make `QSettings`
+    /// The first warns of every key that it lacks. Values with an '@' could make `QSettings`
     /// create objects of any type and size: they are not read, which a warning tells.
     void readSettings(QSettings& settings);
 
