@@ -527,9 +527,14 @@ private Q_SLOTS:
     {
         Host host;
         const QPointer<VTestChartTools> tool = host.tool;
-        QPushButton* const odd = host.button(roleNamed(QStringLiteral("odd")));
-        QTimer::singleShot(0, host.tool, [&] { delete host.tool; });
-        tool->slotShowColorDialog(odd);
+        const auto endWithThePicker = [&] {
+            if (host.picker()->isVisible())
+                delete host.tool;
+        };
+        QTimer deletion;
+        connect(&deletion, &QTimer::timeout, host.tool, endWithThePicker);
+        deletion.start(0);
+        host.open(roleNamed(QStringLiteral("odd")));
         QVERIFY(!tool);
     }
 

@@ -208,7 +208,8 @@ private Q_SLOTS:
         QFont font = before;
         font.setPixelSize(16);
         QApplication::setFont(font);
-        RowColSequeSettingBox panel;
+        QWidget host;
+        RowColSequeSettingBox panel(&host);
         panel.adjustSize();
         QApplication::setFont(before);
         QVERIFY2(panel.height() >= panel.heightForWidth(380), qPrintable(QString::number(panel.height())));

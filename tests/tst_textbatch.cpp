@@ -103,15 +103,17 @@ private Q_SLOTS:
         row("letters apart", [](QFont& font) { font.setLetterSpacing(QFont::AbsoluteSpacing, 3); });
         row("small capitals", [](QFont& font) { font.setCapitalization(QFont::SmallCaps); });
         row("stretched", [](QFont& font) { font.setStretch(150); });
-        const QStringList families = QFontDatabase().families();
-        for (const QString& family : families)
-            row(qPrintable(family), [&](QFont& font) { font.setFamily(family); });
+        for (const char* family : {"DejaVu Sans Mono", "DejaVu Serif", "Noto Sans CJK JP", "Noto Sans CJK SC",
+                                   "Noto Serif CJK JP", "Noto Serif CJK SC"})
+            row(family, [&](QFont& font) { font.setFamily(QLatin1String(family)); });
     }
 
     /// Some of which have other digits behind a letter.
     void fonts()
     {
         QFETCH(QFont, font);
+        if (!QFontDatabase().families().contains(font.family()))
+            QSKIP("there is no such font here");
         for (const int pixelSize : {9, 16, 30}) {
             const auto drawAll = [&](auto drawText) {
                 return drawn({900, 420}, pixelSize, [&](QPainter& painter) {

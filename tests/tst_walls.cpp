@@ -35,6 +35,10 @@ private Q_SLOTS:
                                     << QStringList{
                                            "left publicData.resolutionWidth=1920 selfData.selfText=a, b"};
         QTest::newRow("tabulators") << QByteArray("name\twidth\nleft\t1920\n") << left;
+        QTest::newRow("semicolons below an empty line")
+            << QByteArray("\r\n\nname;width\nleft;1920\n") << left;
+        QTest::newRow("commas and tabulators") << QByteArray("name\t,\twidth\nleft\t,\t1920\n") << left;
+        QTest::newRow("lines that end in another way") << QByteArray("name\rle;ft\r") << QStringList{"le;ft"};
         QTest::newRow("a semicolon in a cell")
             << QByteArray("name,selfData.selfText\na,b; c\n") << QStringList{"a selfData.selfText=b; c"};
         QTest::newRow("blanks and quotes") << QByteArray("name , \"width\"\n \"left\",  1920 \n") << left;

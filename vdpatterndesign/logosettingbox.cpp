@@ -36,7 +36,7 @@ enum Page
 
 constexpr QSize captionSize(80, 24);
 constexpr QSize radioSize(115, 24);
-constexpr int buttonMargin = 2;
+constexpr int buttonMargin = 2; ///< also of the radio buttons, whose indicators are not counted
 constexpr QSize shortEntry(70, 24);
 constexpr QSize axisCaption(12, 24);
 constexpr int farthestMove = 16384;

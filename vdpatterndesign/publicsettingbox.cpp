@@ -259,7 +259,8 @@ PublicChartData PublicSettingBox::getData() const
 
 void PublicSettingBox::setData(const PublicChartData& data)
 {
-    // In this order, each only where it differs: painters and shell follow through the controls' own signals.
+    // In this order, each only where it differs. Painters and shell follow through the controls' own signals;
+    // a changed row or column is announced once more.
     if (d->brightness.slider->value() != data.brightness) {
         d->brightness.slider->setValue(data.brightness);
         if (d->brightPainter) // even while the slider is held

@@ -303,7 +303,6 @@ RowColSequeSettingBox::RowColSequeSettingBox(QWidget* parent)
     setFixedWidth(380);
     d->createControls();
     d->arrange();
-    setMinimumHeight(heightForWidth(width())); // its captions wrap, also where no layout asks for the height
     d->connectControls();
 }
 
@@ -322,6 +321,11 @@ void RowColSequeSettingBox::setPaintBasicWidget(PaintBasicWidget* painter)
 void RowColSequeSettingBox::setPaintSelfWidget(PaintSelfWidget* painter)
 {
     d->selfPainter = painter;
+}
+
+QSize RowColSequeSettingBox::sizeHint() const
+{
+    return {minimumWidth(), heightForWidth(minimumWidth())};
 }
 
 void RowColSequeSettingBox::initShow()

@@ -33,6 +33,9 @@ public:
     /// everything switched off. Does nothing before that painter is set.
     void initShow();
 
+    /// As high as its captions are when they wrap.
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// A control was used, whether or not that changed anything.
     void rowColSignal();

@@ -12,8 +12,6 @@ SpinEditBox::SpinEditBox(QWidget* parent)
     setKeyboardTracking(false);
     setCorrectionMode(QAbstractSpinBox::CorrectToPreviousValue);
     setAccelerated(true);
-    // A cleared box keeps its suffix alone when Enter ends the edit.
-    connect(this, &QAbstractSpinBox::editingFinished, this, [this] { setValue(value()); });
     connect(this, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &SpinEditBox::valueChanged);
     // Not `textEdited`: a text that a program puts into the entry is an edit as well. The box itself changes
     // its text without a signal.

@@ -20,6 +20,7 @@ public:
     explicit SpinEditBox(QWidget* parent = nullptr);
 
     QValidator::State validate(QString& input, int& position) const override;
+    /// Leaves prefix and suffix, and the value until another one has been entered.
     void clear() override;
     void fixup(QString& input) const override;
     QString textFromValue(double value) const override;

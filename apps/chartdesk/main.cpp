@@ -90,7 +90,7 @@ int main(int argc, char** argv)
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setFont(chartFont());
 
-    // The editor's log is for its developers, who get it with QT_LOGGING_RULES="default=true".
+    // The editor's and the toolkit's log is for developers, who get it with QT_LOGGING_RULES="default=true".
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
 
     const Options options = parseCommandLine(application);

@@ -47,7 +47,7 @@ void report(const std::vector<BatchPicture>& pictures)
                       << picture.problem.toStdString() << '\n';
     }
     if (const auto left = std::count_if(pictures.begin(), pictures.end(), waits); left > 0)
-        std::cerr << "vdchart: interrupted: " << left << " pictures were not begun\n";
+        std::cerr << "vdchart: interrupted: not begun: " << left << '\n';
     const auto failed = std::count_if(pictures.begin(), pictures.end(), lacks);
     std::cout << std::ptrdiff_t(pictures.size()) - failed << " of " << pictures.size()
               << " pictures written\n";

@@ -12,7 +12,6 @@
 #include <csv.h>
 
 #include <algorithm>
-#include <iterator>
 #include <new>
 
 using namespace vardeno::testcharttools;
@@ -56,10 +55,14 @@ void addRow(int, void* data)
 /// Of the first row, whose names hold none: spreadsheets write the one of the country they are used in.
 char separatorOf(const QByteArray& csv)
 {
-    constexpr char separators[] = {',', ';', '\t'};
-    const auto row = std::find(csv.begin(), csv.end(), '\n');
-    const auto first = std::find_first_of(csv.begin(), row, std::begin(separators), std::end(separators));
-    return first == row ? separators[0] : *first;
+    const auto endsLine = [](char c) { return c == '\r' || c == '\n'; };
+    const auto begin = std::find_if_not(csv.begin(), csv.end(), endsLine);
+    const auto end = std::find_if(begin, csv.end(), endsLine);
+    for (const char separator : {',', ';', '\t'}) {
+        if (std::find(begin, end, separator) != end)
+            return separator;
+    }
+    return ',';
 }
 
 Table parsed(const QByteArray& csv, const QString& source)

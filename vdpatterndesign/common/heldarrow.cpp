@@ -29,27 +29,31 @@ void HeldArrow::resume()
 /// An inert entry handles no event, but its events come by here.
 bool HeldArrow::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool mouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove ||
-                       event->type() == QEvent::MouseButtonRelease;
-    if (!mouse || m_stepping || !watched->isWidgetType())
+    const bool press =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    const bool release = event->type() == QEvent::MouseButtonRelease;
+    if (!watched->isWidgetType() || (!press && !release && event->type() != QEvent::MouseMove))
         return false;
-    const auto* const at = static_cast<QMouseEvent*>(event);
-    if (event->type() == QEvent::MouseButtonRelease) {
+    const auto* const mouse = static_cast<QMouseEvent*>(event);
+    if (release) {
         m_entry = nullptr;
-    } else if (event->type() == QEvent::MouseButtonPress) {
+    } else if (press && !m_stepping) {
         auto* const entry = qobject_cast<QAbstractSpinBox*>(watched); // its text is a widget of its own
-        const bool held = entry && entry->isEnabled() && at->button() == Qt::LeftButton;
+        const bool held = entry && entry->isEnabled() && mouse->button() == Qt::LeftButton;
         m_entry = held && m_tool->isAncestorOf(entry) ? entry : nullptr;
         m_held.start();
     }
     if (m_entry)
-        m_place = m_entry->mapFromGlobal(at->globalPos());
+        m_place = m_entry->mapFromGlobal(mouse->globalPos());
     return false;
 }
 
+/// Not where the mouse was let go while a dialog kept every event from the window.
 void HeldArrow::step()
 {
-    if (!m_entry || !m_entry->isEnabled() || !m_entry->rect().contains(m_place))
+    if (!(QGuiApplication::mouseButtons() & Qt::LeftButton))
+        m_entry = nullptr;
+    if (!m_entry || !m_entry->isEnabled())
         return;
     QMouseEvent press(QEvent::MouseButtonPress, m_place, m_entry->mapToGlobal(m_place), Qt::LeftButton,
                       Qt::LeftButton, Qt::NoModifier);

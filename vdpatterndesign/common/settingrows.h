@@ -43,6 +43,7 @@ class SettingRow
 {
 public:
     using Allowed = PanelControls::Allowed;
+    static constexpr int indicatorMargin = 20; ///< what the text of a radio or combo box leaves free
 
     /// The controls become children of `panel` and are registered with `controls`.
     SettingRow(QWidget* panel, PanelControls& controls, QHBoxLayout* layout);
@@ -74,8 +75,6 @@ public:
     /// A widget that the panel made itself; the lock leaves it alone.
     SettingRow& widget(QWidget* widget);
     SettingRow& gap(int pixels);
-
-    static constexpr int indicatorMargin = 20;
     /// Between what follows; at first 8.
     SettingRow& spacing(int pixels);
 

@@ -20,7 +20,7 @@ qreal shift(int alignment, int farEdge, int centre, int room, qreal length)
     return alignment & centre ? (room - length) / 2 : 0;
 }
 
-/// Text whose glyphs do not depend on their neighbours, except in their distance.
+/// Text of plain ASCII characters, each of which has a glyph of its own.
 bool isSimple(const QString& text)
 {
     return std::all_of(text.begin(), text.end(),
@@ -120,7 +120,8 @@ TextBatch::LaidOut TextBatch::measured(const QString& text)
     return result;
 }
 
-/// Of all tails that begin alike. A font may have other glyphs for a digit that follows a letter.
+/// A font may have other glyphs for a digit that follows a letter. Where two tails begin alike, a head is
+/// taken to do the same to both.
 TextBatch::Joint TextBatch::jointOf(const QString& head, const QString& tail)
 {
     const QString key = head + tail.front();
