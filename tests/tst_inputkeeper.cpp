@@ -1,11 +1,8 @@
-#include "spineditbox.h"
-#include "testcase.h"
-#include "vtestcharttools.h"
+#include "charttool.h"
 
-#include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSlider>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 using namespace vardeno::testcharttools;
@@ -19,28 +16,62 @@ class TestInputKeeper : public TestCase
 private:
     static constexpr int keyDelay = 100; ///< ms: ten characters a second
 
-    /// The tool in a window that is shown and active, its first repaint done.
+    /// The tool in a host's window that is shown and active, its first repaint done.
     struct Shown
     {
+        QWidget window;
+        QLineEdit neighbour; ///< a field of the host
         VTestChartTools tool;
+        charttool::User user{tool};
 
         Shown()
         {
-            tool.show();
-            tool.activateWindow();
-            const bool ready = QTest::qWaitForWindowActive(&tool) && idle();
+            auto* column = new QVBoxLayout(&window);
+            column->addWidget(&neighbour);
+            column->addWidget(&tool);
+            window.show();
+            window.activateWindow();
+            const bool ready = QTest::qWaitForWindowActive(&window) && idle();
             Q_ASSERT(ready);
             Q_UNUSED(ready)
         }
 
-        /// Waits until no control is locked and nothing more is coming.
+        /// Waits until no control is locked, what was held has been given back and nothing more is coming.
         bool idle()
         {
-            QTest::qWait(250);
-            return QTest::qWaitFor([this] { return mask()->isHidden(); });
+            QElapsedTimer quiet;
+            const auto isQuiet = [&] {
+                QCoreApplication::sendPostedEvents(); // what is given back may begin another repaint
+                if (user.mask()->isVisible() || !user.cancel()->isEnabled())
+                    quiet.invalidate();
+                else if (!quiet.isValid())
+                    quiet.start();
+                return quiet.isValid() && quiet.elapsed() > 130;
+            };
+            return QTest::qWaitFor(isQuiet, 20000);
         }
 
-        QWidget* mask() { return tool.findChild<QWidget*>(QStringLiteral("maskWidget")); }
+        /// Locks the panels until `unlock`: begins a repaint cycle whose reports the tool does not listen to.
+        bool lock()
+        {
+            tool.setUpdateFlag(true);
+            tool.slotGetHeightWidth();
+            return QTest::qWaitFor([this] { return !user.cancel()->isEnabled(); });
+        }
+
+        bool unlock()
+        {
+            tool.setUpdateFlag(false);
+            tool.slotGetHeightWidth();
+            return idle();
+        }
+
+        void type(const QString& text)
+        {
+            for (const QChar c : text)
+                QTest::keyClick(window.windowHandle(), c.toLatin1());
+        }
+
         QLineEdit* customText() { return tool.findChild<QLineEdit*>(QStringLiteral("selfInputLineEdit")); }
 
         SpinEditBox* entry(double maximum)
@@ -54,20 +85,21 @@ private:
         }
     };
 
-    static void turn(QWidget* control, int steps)
+    /// A step of the wheel as the platform reports it: to the window, which finds who lies on top there.
+    static void turn(QWidget* control)
     {
-        const QPoint local = control->rect().center();
         QWidget* window = control->window();
-        const QPoint inWindow = control->mapTo(window, local);
+        const QPoint place = control->mapTo(window, control->rect().center());
+        QWheelEvent event(place, window->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(window->windowHandle(), &event);
+    }
+
+    static void turnSlowly(QWidget* control, int steps)
+    {
         for (int i = 0; i < steps; ++i) {
-            // As the platform does it: to the widget that lies on top there.
-            QWidget* target = window->childAt(inWindow);
-            if (qobject_cast<QLineEdit*>(target))
-                target = target->parentWidget(); // an entry's own line edit passes the wheel on to the entry
-            QWheelEvent event(QPointF(target->mapFrom(window, inWindow)),
-                              QPointF(window->mapToGlobal(inWindow)), {}, QPoint(0, -120), Qt::NoButton,
-                              Qt::NoModifier, Qt::NoScrollPhase, false);
-            QApplication::sendEvent(target, &event);
+            turn(control);
             QTest::qWait(40);
         }
     }
@@ -175,10 +207,11 @@ private Q_SLOTS:
         QWidget* control = slider ? static_cast<QWidget*>(shown.tool.findChild<QSlider*>())
                                   : static_cast<QWidget*>(shown.entry(4320));
         const double before = control->property("value").toDouble();
-        turn(control, 1);
+        turn(control);
+        QVERIFY(shown.idle());
         const double step = before - control->property("value").toDouble();
         QVERIFY(step > 0);
-        turn(control, 9);
+        turnSlowly(control, 9);
         QVERIFY(shown.idle());
         QCOMPARE(control->property("value").toDouble(), before - 10 * step);
     }
@@ -205,11 +238,9 @@ private Q_SLOTS:
         width->setFocus();
         width->selectAll();
         QTest::keyClicks(width, QStringLiteral("1600"));
-        const auto* cancel = shown.tool.findChild<QWidget*>(QStringLiteral("saveWidget"))
-                                 ->findChild<QPushButton*>(QStringLiteral("CancleButton"));
         QSignalSpy ended(&shown.tool, &VTestChartTools::sigTestToolEditDone);
-        QWindow* window = shown.tool.windowHandle();
-        const QPoint origin = cancel->mapTo(&shown.tool, QPoint());
+        QWindow* window = shown.window.windowHandle();
+        const QPoint origin = shown.user.cancel()->mapTo(&shown.window, QPoint());
         QTest::mousePress(window, Qt::LeftButton, {}, origin + QPoint(10, 10));
         QTest::qWait(held);
         QTest::mouseMove(window, origin + released);
@@ -221,22 +252,35 @@ private Q_SLOTS:
         QCOMPARE(ended.count(), clicks + 1);
     }
 
+    void turnedWheelStepsInALock_data() { turnedWheelSteps_data(); }
+
+    void turnedWheelStepsInALock()
+    {
+        QFETCH(bool, slider);
+        Shown shown;
+        QWidget* control = slider ? static_cast<QWidget*>(shown.tool.findChild<QSlider*>())
+                                  : static_cast<QWidget*>(shown.entry(4320));
+        const double before = control->property("value").toDouble();
+        turn(control);
+        const double step = before - control->property("value").toDouble();
+        QVERIFY(step > 0);
+        QVERIFY(shown.lock());
+        for (int i = 0; i < 5; ++i)
+            turn(control);
+        QCOMPARE(control->property("value").toDouble(), before - step);
+        QVERIFY(shown.unlock());
+        QCOMPARE(control->property("value").toDouble(), before - 6 * step);
+    }
+
     void focusElsewhereInTheWindowIsLeftThere()
     {
-        QWidget window;
-        auto* row = new QHBoxLayout(&window);
-        auto* other = new QLineEdit;
-        auto* tool = new VTestChartTools;
-        row->addWidget(other);
-        row->addWidget(tool);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        QTest::qWait(250);
-        other->setFocus();
-        tool->setTestChartToolsData(TestChartToolsData());
-        QTest::qWait(400);
-        QVERIFY(other->hasFocus());
+        Shown shown;
+        shown.neighbour.setFocus();
+        QVERIFY(shown.lock());
+        shown.type(QStringLiteral("abc"));
+        QVERIFY(shown.unlock());
+        QVERIFY(shown.neighbour.hasFocus());
+        QCOMPARE(shown.neighbour.text(), QStringLiteral("abc"));
     }
 };
 

@@ -144,6 +144,7 @@ bool InputKeeper::holdWheel(QWidget* target, QEvent* event)
         !m_turned->rect().contains(m_turned->mapFromGlobal(wheel.globalPosition().toPoint())))
         return false;
     m_held.push_back({m_turned, copyOf(wheel, m_turned)});
+    event->accept(); // or it goes on to every parent, to be held again
     return true;
 }
 
