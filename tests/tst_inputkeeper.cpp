@@ -72,6 +72,12 @@ private:
                 QTest::keyClick(window.windowHandle(), c.toLatin1());
         }
 
+        void click(const QWidget* widget)
+        {
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                              widget->mapTo(&window, widget->rect().center()));
+        }
+
         QLineEdit* customText() { return tool.findChild<QLineEdit*>(QStringLiteral("selfInputLineEdit")); }
 
         SpinEditBox* entry(double maximum)
@@ -270,6 +276,19 @@ private Q_SLOTS:
         QCOMPARE(control->property("value").toDouble(), before - step);
         QVERIFY(shown.unlock());
         QCOMPARE(control->property("value").toDouble(), before - 6 * step);
+    }
+
+    void clickOnALockedButtonIsLost()
+    {
+        Shown shown;
+        QSignalSpy ended(&shown.tool, &VTestChartTools::sigTestToolEditDone);
+        QVERIFY(shown.lock());
+        for (int i = 0; i < 3; ++i)
+            shown.click(shown.user.cancel());
+        QVERIFY(shown.unlock());
+        QCOMPARE(ended.count(), 0);
+        shown.click(shown.user.cancel());
+        QCOMPARE(ended.count(), 1);
     }
 
     void focusElsewhereInTheWindowIsLeftThere()

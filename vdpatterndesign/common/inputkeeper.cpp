@@ -109,7 +109,7 @@ bool InputKeeper::eventFilter(QObject* watched, QEvent* event)
 void InputKeeper::watchMouse(QWidget* target, const QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress) {
-        m_pressed = qobject_cast<QAbstractButton*>(target);
+        m_pressed = target->isEnabled() ? qobject_cast<QAbstractButton*>(target) : nullptr;
         return;
     }
     const QPointer<QAbstractButton> button = m_pressed;
