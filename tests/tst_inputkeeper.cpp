@@ -1,5 +1,6 @@
 #include "charttool.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QSlider>
 #include <QVBoxLayout>
@@ -71,6 +72,8 @@ private:
             for (const QChar c : text)
                 QTest::keyClick(window.windowHandle(), c.toLatin1());
         }
+
+        void press(Qt::Key key) { QTest::keyClick(window.windowHandle(), key); }
 
         void click(const QWidget* widget)
         {
@@ -278,6 +281,21 @@ private Q_SLOTS:
         QCOMPARE(control->property("value").toDouble(), before - 6 * step);
     }
 
+    void turnBeforeALockFindsItsFocus()
+    {
+        Shown shown;
+        auto* position = shown.user.logoPanel()->findChild<QComboBox*>();
+        shown.user.reveal(position);
+        position->setFocus(); // it turns for no one else
+        turn(position);
+        QCOMPARE(position->currentIndex(), 1);
+        QVERIFY(shown.user.mask()->isVisible());
+        turn(position);
+        QCOMPARE(position->currentIndex(), 1);
+        QVERIFY(shown.idle());
+        QCOMPARE(position->currentIndex(), 2);
+    }
+
     void clickOnALockedButtonIsLost()
     {
         Shown shown;
@@ -289,6 +307,123 @@ private Q_SLOTS:
         QCOMPARE(ended.count(), 0);
         shown.click(shown.user.cancel());
         QCOMPARE(ended.count(), 1);
+    }
+
+    void clickThatEndsAnEditMayEndTheTool()
+    {
+        QWidget window;
+        QPointer<VTestChartTools> tool = new VTestChartTools(&window);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto* cancel = tool->findChild<QPushButton*>(QStringLiteral("CancleButton"));
+        QVERIFY(QTest::qWaitFor([cancel] { return cancel->isEnabled(); }));
+        connect(tool, &VTestChartTools::sigTestToolEditDone, &window, [&tool] { delete tool; });
+        const QPoint place = cancel->mapTo(&window, QPoint(10, 10));
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, place);
+        cancel->setEnabled(false);
+        cancel->setEnabled(true); // as a lock in between does it
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, place);
+        QVERIFY(QTest::qWaitFor([&tool] { return !tool; }));
+    }
+
+    void fieldClickedInALockKeepsTheFocus()
+    {
+        Shown shown;
+        QLineEdit* entry = shown.customText();
+        entry->setFocus();
+        entry->selectAll();
+        QVERIFY(shown.lock());
+        shown.type(QStringLiteral("ab"));
+        shown.click(&shown.neighbour);
+        shown.type(QStringLiteral("cde"));
+        shown.press(Qt::Key_Left);
+        QVERIFY(shown.unlock());
+        QVERIFY(shown.neighbour.hasFocus());
+        QCOMPARE(entry->text(), QStringLiteral("ab"));
+        QCOMPARE(shown.neighbour.text(), QStringLiteral("cde"));
+        QCOMPARE(shown.neighbour.cursorPosition(), 2);
+        shown.type(QStringLiteral("f"));
+        QCOMPARE(shown.neighbour.text(), QStringLiteral("cdfe"));
+    }
+
+    void clickOnTheCoverLeavesTheFocus()
+    {
+        Shown shown;
+        QLineEdit* entry = shown.customText();
+        shown.user.reveal(entry);
+        entry->setFocus();
+        entry->selectAll();
+        QVERIFY(shown.lock());
+        shown.click(entry);
+        QCOMPARE(shown.window.focusWidget(), static_cast<QWidget*>(shown.user.settings()));
+        shown.type(QStringLiteral("ab"));
+        QVERIFY(shown.unlock());
+        QVERIFY(entry->hasFocus());
+        QCOMPARE(entry->text(), QStringLiteral("ab"));
+    }
+
+    void fieldClickedInALockEndsTheEdit()
+    {
+        Shown shown;
+        SpinEditBox* width = shown.entry(4320);
+        width->setFocus();
+        width->selectAll();
+        shown.type(QStringLiteral("16"));
+        QVERIFY(shown.lock());
+        shown.type(QStringLiteral("00"));
+        shown.click(&shown.neighbour);
+        QVERIFY(shown.unlock());
+        QVERIFY(shown.neighbour.hasFocus());
+        QCOMPARE(shown.tool.getTestChartToolsData().publicData.resolutionWidth, 1600);
+    }
+
+    void tabInALockMovesWhatIsTypedAfterIt()
+    {
+        Shown shown;
+        SpinEditBox* width = shown.entry(4320);
+        width->setFocus();
+        width->selectAll();
+        QVERIFY(shown.lock());
+        shown.type(QStringLiteral("1600"));
+        shown.press(Qt::Key_Tab);
+        shown.type(QStringLiteral("900"));
+        shown.press(Qt::Key_Return);
+        QVERIFY(shown.unlock());
+        const PublicChartData data = shown.tool.getTestChartToolsData().publicData;
+        QCOMPARE(data.resolutionWidth, 1600);
+        QCOMPARE(data.resolutionHeight, 900);
+    }
+
+    void tabInALockLeavesATextEntry()
+    {
+        Shown shown;
+        QLineEdit* entry = shown.customText();
+        entry->setFocus();
+        entry->selectAll();
+        QVERIFY(shown.lock());
+        shown.type(QStringLiteral("ab"));
+        shown.press(Qt::Key_Tab);
+        shown.type(QStringLiteral("7"));
+        QVERIFY(shown.unlock());
+        QCOMPARE(entry->text(), QStringLiteral("ab"));
+        QVERIFY(!entry->hasFocus());
+    }
+
+    void focusGivenAfterAReportOfAnIdleToolStays()
+    {
+        Shown shown;
+        QLineEdit* entry = shown.customText();
+        SpinEditBox* width = shown.entry(4320);
+        entry->setFocus();
+        shown.tool.slotUpdatePaintEventStatus(QStringLiteral("m_pPaintBasicWidget"));
+        width->setFocus();
+        width->selectAll();
+        shown.type(QStringLiteral("1600"));
+        shown.press(Qt::Key_Return);
+        QVERIFY(shown.idle());
+        QVERIFY(width->hasFocus());
+        QCOMPARE(shown.tool.getTestChartToolsData().publicData.resolutionWidth, 1600);
     }
 
     void focusElsewhereInTheWindowIsLeftThere()

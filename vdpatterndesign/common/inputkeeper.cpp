@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
+#include <memory>
+
 namespace vardeno::testcharttools {
 
 namespace {
@@ -28,22 +30,59 @@ bool isTurnable(const QWidget* widget)
            qobject_cast<const QAbstractSlider*>(widget);
 }
 
-/// The event again, for a widget at `local`.
-std::unique_ptr<QEvent> copyOf(const QWheelEvent& event, const QWidget* widget)
+/// The event again, as `widget` would have got it.
+std::shared_ptr<QEvent> copyOf(const QWheelEvent& event, const QWidget* widget)
 {
-    return std::make_unique<QWheelEvent>(QPointF(widget->mapFromGlobal(event.globalPosition().toPoint())),
+    return std::make_shared<QWheelEvent>(QPointF(widget->mapFromGlobal(event.globalPosition().toPoint())),
                                          event.globalPosition(), event.pixelDelta(), event.angleDelta(),
                                          event.buttons(), event.modifiers(), event.phase(), event.inverted());
 }
 
-std::unique_ptr<QEvent> copyOf(const QKeyEvent& event)
+std::shared_ptr<QEvent> copyOf(const QKeyEvent& event)
 {
-    return std::make_unique<QKeyEvent>(event.type(), event.key(), event.modifiers(), event.nativeScanCode(),
+    return std::make_shared<QKeyEvent>(event.type(), event.key(), event.modifiers(), event.nativeScanCode(),
                                        event.nativeVirtualKey(), event.nativeModifiers(), event.text(),
                                        event.isAutoRepeat(), ushort(event.count()));
 }
 
 } // namespace
+
+/// Where the focus was, and how.
+struct InputKeeper::Place
+{
+    explicit Place(QWidget* focus);
+    void restore() const;
+
+    QPointer<QWidget> widget;
+    int cursor = 0;
+    int selectionStart = -1;
+    int selectionLength = 0;
+};
+
+InputKeeper::Place::Place(QWidget* focus)
+    : widget(focus)
+{
+    const QLineEdit* entry = lineEditOf(focus);
+    if (!entry)
+        return;
+    cursor = entry->cursorPosition();
+    selectionStart = entry->selectionStart();
+    selectionLength = entry->selectionLength();
+}
+
+/// In the control, which has the focus again.
+void InputKeeper::Place::restore() const
+{
+    QLineEdit* entry = lineEditOf(widget);
+    if (!entry)
+        return;
+    entry->setCursorPosition(cursor);
+    if (selectionLength > 0) {
+        const bool cursorFirst = cursor == selectionStart;
+        entry->setSelection(cursorFirst ? selectionStart + selectionLength : selectionStart,
+                            cursorFirst ? -selectionLength : selectionLength);
+    }
+}
 
 InputKeeper::InputKeeper(QWidget* tool)
     : m_tool(tool)
@@ -56,10 +95,13 @@ InputKeeper::~InputKeeper() = default;
 void InputKeeper::begin()
 {
     m_ending = false;
-    if (m_active)
+    if (m_active && !isChosen(focus()))
         return;
-    m_active = true;
     rememberFocus();
+    m_active = true;
+    // Inert before the focus leaves it: an entry that loses the focus while it works has ended its edit.
+    if (lineEditOf(m_focus) && m_tool->isAncestorOf(m_focus))
+        m_focus->setEnabled(false);
 }
 
 void InputKeeper::end()
@@ -76,15 +118,16 @@ void InputKeeper::giveBack()
 {
     if (!m_ending)
         return;
+    if (isChosen(focus()))
+        rememberFocus();
     m_ending = false;
     m_active = false;
-    giveFocusBack();
     replay();
 }
 
 bool InputKeeper::eventFilter(QObject* watched, QEvent* event)
 {
-    if (m_replaying || !watched->isWidgetType())
+    if (m_sending || !watched->isWidgetType())
         return false;
     auto* target = static_cast<QWidget*>(watched);
     if (target != m_tool && !m_tool->isAncestorOf(target))
@@ -92,7 +135,7 @@ bool InputKeeper::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        return holdKey(target, event);
+        return holdTyped(event);
     case QEvent::Wheel:
         return holdWheel(target, event);
     case QEvent::MouseButtonPress:
@@ -117,17 +160,26 @@ void InputKeeper::watchMouse(QWidget* target, const QEvent* event)
     const QPoint place = static_cast<const QMouseEvent*>(event)->globalPos();
     if (!button || button->isDown() || !button->rect().contains(button->mapFromGlobal(place)))
         return;
-    m_held.push_back({QPointer<QWidget>(button), nullptr});
-    if (!m_active)
-        QMetaObject::invokeMethod(
-            this, [this] { replay(); }, Qt::QueuedConnection);
+    m_held.push_back([button] {
+        if (button)
+            button->click();
+    });
+    // Another lock that has begun by then gives the click back.
+    const auto replayUnlessLocked = [this] {
+        if (!m_active)
+            replay();
+    };
+    QMetaObject::invokeMethod(this, replayUnlessLocked, Qt::QueuedConnection);
 }
 
-bool InputKeeper::holdKey(QWidget*, QEvent* event)
+bool InputKeeper::holdTyped(QEvent* event)
 {
     if (!m_active || !m_focus)
         return false;
-    m_held.push_back({m_focus, copyOf(*static_cast<QKeyEvent*>(event))});
+    if (isChosen(focus()))
+        rememberFocus();
+    m_held.push_back([this, copy = copyOf(*static_cast<QKeyEvent*>(event))] { type(copy.get()); });
+    event->accept();
     return true;
 }
 
@@ -143,55 +195,64 @@ bool InputKeeper::holdWheel(QWidget* target, QEvent* event)
     if (!covered || !m_turned ||
         !m_turned->rect().contains(m_turned->mapFromGlobal(wheel.globalPosition().toPoint())))
         return false;
-    m_held.push_back({m_turned, copyOf(wheel, m_turned)});
+    m_held.push_back([turned = m_turned, copy = copyOf(wheel, m_turned)] {
+        if (turned && turned->isEnabled())
+            QCoreApplication::sendEvent(turned, copy.get());
+    });
     event->accept(); // or it goes on to every parent, to be held again
     return true;
 }
 
-void InputKeeper::rememberFocus()
+QWidget* InputKeeper::focus() const
 {
-    m_focus = m_tool->window()->focusWidget();
-    m_cursor = Cursor();
-    const QLineEdit* entry = lineEditOf(m_focus);
-    if (!entry)
-        return;
-    m_cursor = {entry->cursorPosition(), entry->selectionStart(), entry->selectionLength()};
-    // Inert before the focus leaves it: an entry that loses the focus while it works has ended its edit.
-    if (m_tool->isAncestorOf(m_focus))
-        m_focus->setEnabled(false);
+    return m_tool->window()->focusWidget();
 }
 
-void InputKeeper::giveFocusBack()
+/// Panels, which the lock gives the focus to, take none from a person, nor is what lies around the control
+/// that had it chosen by a click on the cover.
+bool InputKeeper::isChosen(const QWidget* widget) const
 {
-    if (!m_focus || !m_focus->isEnabled() || m_focus == m_tool->window()->focusWidget())
+    return widget && widget != m_focus && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus &&
+           !widget->isAncestorOf(m_focus);
+}
+
+/// What is held before the controls are inert was done with the focus where it is then.
+void InputKeeper::rememberFocus()
+{
+    m_focus = focus();
+    m_held.insert(m_active ? m_held.end() : m_held.begin(),
+                  [this, place = Place(m_focus)] { giveFocusBack(place); });
+}
+
+void InputKeeper::giveFocusBack(const Place& place)
+{
+    m_focus = place.widget;
+    if (!m_focus || m_focus == focus())
         return;
     m_focus->setFocus(Qt::OtherFocusReason);
-    QLineEdit* entry = lineEditOf(m_focus);
-    if (!entry)
-        return;
-    entry->setCursorPosition(m_cursor.position);
-    if (m_cursor.selectionLength > 0) {
-        const bool cursorFirst = m_cursor.position == m_cursor.selectionStart;
-        entry->setSelection(cursorFirst ? m_cursor.selectionStart + m_cursor.selectionLength
-                                        : m_cursor.selectionStart,
-                            cursorFirst ? -m_cursor.selectionLength : m_cursor.selectionLength);
-    }
+    if (m_focus == focus())
+        place.restore();
+    else
+        m_focus = nullptr; // it is locked for good, or hidden
+}
+
+/// To who has the focus by now: a Tab may have moved it.
+void InputKeeper::type(QEvent* event)
+{
+    if (m_focus && focus())
+        QCoreApplication::sendEvent(focus(), event);
 }
 
 void InputKeeper::replay()
 {
-    std::vector<Held> held;
+    std::vector<std::function<void()>> held;
     held.swap(m_held);
-    m_replaying = true;
-    for (const Held& each : held) {
-        if (!each.target || !each.target->isEnabled())
-            continue;
-        if (each.event)
-            QCoreApplication::sendEvent(each.target, each.event.get());
-        else
-            static_cast<QAbstractButton*>(each.target.data())->click();
-    }
-    m_replaying = false;
+    const QPointer<InputKeeper> alive(this); // a click may end the tool
+    m_sending = true;
+    for (std::size_t i = 0; alive && i < held.size(); ++i)
+        held[i]();
+    if (alive)
+        m_sending = false;
 }
 
 } // namespace vardeno::testcharttools

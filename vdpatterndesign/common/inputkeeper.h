@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include <memory>
+#include <functional>
 #include <vector>
 
 class QAbstractButton;
@@ -13,9 +13,10 @@ class QEvent;
 namespace vardeno::testcharttools {
 
 /// Keeps a person's input through the moments in which the panels are locked: remembers the control that had
-/// the focus, with its cursor and selection, holds the keys that arrive meanwhile, the turns of the wheel on
-/// the control that was being turned and the click whose press began before, and gives all of it back at the
-/// end. So typing, a held arrow key, a turning wheel and the mouse go on as if there were no lock.
+/// the focus, with its cursor and selection, and the one that is given it meanwhile; holds the keys
+/// that arrive, the turns of the wheel on the control that was being turned and the click whose
+/// press began before; and does all of it at the end, in its order. So typing, a held arrow key, a turning
+/// wheel and the mouse go on as if there were no lock.
 class InputKeeper : public QObject
 {
 public:
@@ -24,7 +25,8 @@ public:
     explicit InputKeeper(QWidget* tool);
     ~InputKeeper() override;
 
-    /// The controls are about to become inert, or to lose the focus; again meanwhile changes nothing.
+    /// The controls are about to become inert, or to lose the focus; again meanwhile notes the control that
+    /// has been given the focus since.
     void begin();
     /// The controls work again: what was kept is given back once the current event has been dealt with,
     /// unless the controls become inert again before.
@@ -37,36 +39,28 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Cursor
-    {
-        int position = 0;
-        int selectionStart = -1;
-        int selectionLength = 0;
-    };
-    struct Held
-    {
-        QPointer<QWidget> target;
-        std::unique_ptr<QEvent> event; ///< none for the click on a button
-    };
+    struct Place;
 
-    bool holdKey(QWidget* target, QEvent* event);
+    bool holdTyped(QEvent* event);
     bool holdWheel(QWidget* target, QEvent* event);
     void watchMouse(QWidget* target, const QEvent* event);
+    QWidget* focus() const;
+    bool isChosen(const QWidget* widget) const;
     void rememberFocus();
     void giveBack();
-    void giveFocusBack();
+    void giveFocusBack(const Place& place);
+    void type(QEvent* event);
     void replay();
 
     QWidget* m_tool;
     const QWidget* m_cover = nullptr;
     bool m_active = false;
     bool m_ending = false;
-    bool m_replaying = false;
-    QPointer<QWidget> m_focus;
-    Cursor m_cursor;
+    bool m_sending = false;     ///< what is not to be held again
+    QPointer<QWidget> m_focus;  ///< for which keys are held, or which got them in the replay
     QPointer<QWidget> m_turned; ///< the control that last got a turn of the wheel
     QPointer<QAbstractButton> m_pressed;
-    std::vector<Held> m_held;
+    std::vector<std::function<void()>> m_held; ///< what a person did, to be done at the end
 };
 
 } // namespace vardeno::testcharttools
