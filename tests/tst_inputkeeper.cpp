@@ -1,7 +1,9 @@
 #include "charttool.h"
 
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSlider>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -111,6 +113,21 @@ private:
             turn(control);
             QTest::qWait(40);
         }
+    }
+
+    static void compose(const QString& preedit, const QString& committed)
+    {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(committed);
+        QApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    }
+
+    /// As the platform asks when the focus has moved, to switch the input method on or off.
+    static bool takesComposedText()
+    {
+        QInputMethodQueryEvent query(Qt::ImEnabled);
+        QApplication::sendEvent(QGuiApplication::focusObject(), &query);
+        return query.value(Qt::ImEnabled).toBool();
     }
 
     static void keysToFocus(QWidget* window, const QString& text)
@@ -408,6 +425,53 @@ private Q_SLOTS:
         QVERIFY(shown.unlock());
         QCOMPARE(entry->text(), QStringLiteral("ab"));
         QVERIFY(!entry->hasFocus());
+    }
+
+    void composedTextArrivesWhole()
+    {
+        Shown shown;
+        QLineEdit* entry = shown.customText();
+        entry->setFocus();
+        entry->selectAll();
+        QVERIFY(shown.lock());
+        shown.type(QStringLiteral("a"));
+        compose(QStringLiteral("ni"), QString());
+        compose(QString(), QStringLiteral("\u4f60"));
+        compose(QString(), QStringLiteral("\u597d"));
+        shown.type(QStringLiteral("b"));
+        QVERIFY(shown.unlock());
+        QCOMPARE(entry->text(), QStringLiteral("a\u4f60\u597db"));
+    }
+
+    void inputMethodStaysOnInALock()
+    {
+        Shown shown;
+        shown.customText()->setFocus();
+        QVERIFY(takesComposedText());
+        QVERIFY(shown.lock());
+        QVERIFY(takesComposedText());
+        QVERIFY(shown.unlock());
+        shown.user.cancel()->setFocus();
+        QVERIFY(shown.lock());
+        QVERIFY(!takesComposedText());
+        QVERIFY(shown.unlock());
+    }
+
+    void keysOfAnEntryAreNoShortcutsInALock()
+    {
+        Shown shown;
+        QLineEdit* entry = shown.customText();
+        entry->setText(QStringLiteral("abc"));
+        QVERIFY(shown.idle());
+        entry->setFocus();
+        entry->setCursorPosition(0);
+        QShortcut shortcut(Qt::Key_Delete, &shown.window);
+        QSignalSpy activated(&shortcut, &QShortcut::activated);
+        QVERIFY(shown.lock());
+        shown.press(Qt::Key_Delete);
+        QVERIFY(shown.unlock());
+        QCOMPARE(activated.count(), 0);
+        QCOMPARE(entry->text(), QStringLiteral("bc"));
     }
 
     void focusGivenAfterAReportOfAnIdleToolStays()

@@ -5,9 +5,11 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QWheelEvent>
 
 #include <memory>
@@ -43,6 +45,13 @@ std::shared_ptr<QEvent> copyOf(const QKeyEvent& event)
     return std::make_shared<QKeyEvent>(event.type(), event.key(), event.modifiers(), event.nativeScanCode(),
                                        event.nativeVirtualKey(), event.nativeModifiers(), event.text(),
                                        event.isAutoRepeat(), ushort(event.count()));
+}
+
+std::shared_ptr<QEvent> copyOfTyped(const QEvent& event)
+{
+    if (event.type() == QEvent::InputMethod)
+        return std::make_shared<QInputMethodEvent>(static_cast<const QInputMethodEvent&>(event));
+    return copyOf(static_cast<const QKeyEvent&>(event));
 }
 
 } // namespace
@@ -135,7 +144,11 @@ bool InputKeeper::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
+    case QEvent::InputMethod:
         return holdTyped(event);
+    case QEvent::InputMethodQuery:
+    case QEvent::ShortcutOverride:
+        return askFocus(target, event);
     case QEvent::Wheel:
         return holdWheel(target, event);
     case QEvent::MouseButtonPress:
@@ -178,8 +191,22 @@ bool InputKeeper::holdTyped(QEvent* event)
         return false;
     if (isChosen(focus()))
         rememberFocus();
-    m_held.push_back([this, copy = copyOf(*static_cast<QKeyEvent*>(event))] { type(copy.get()); });
+    m_held.push_back([this, copy = copyOfTyped(*event)] { type(copy.get()); });
     event->accept();
+    return true;
+}
+
+/// Whether an input method is on, and which keys are no shortcuts, says who has the focus; that is now one
+/// which takes no text.
+bool InputKeeper::askFocus(QWidget* target, QEvent* event)
+{
+    if (!m_active || !m_focus || m_focus == focus() || target != focus() ||
+        !m_focus->testAttribute(Qt::WA_InputMethodEnabled))
+        return false;
+    const QScopedValueRollback<bool> sending(m_sending, true);
+    QCoreApplication::sendEvent(m_focus, event);
+    if (event->type() == QEvent::InputMethodQuery)
+        static_cast<QInputMethodQueryEvent*>(event)->setValue(Qt::ImEnabled, true); // though it is locked
     return true;
 }
 

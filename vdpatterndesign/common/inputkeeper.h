@@ -13,8 +13,8 @@ class QEvent;
 namespace vardeno::testcharttools {
 
 /// Keeps a person's input through the moments in which the panels are locked: remembers the control that had
-/// the focus, with its cursor and selection, and the one that is given it meanwhile; holds the keys
-/// that arrive, the turns of the wheel on the control that was being turned and the click whose
+/// the focus, with its cursor and selection, and the one that is given it meanwhile; holds the keys and the
+/// composed text that arrive, the turns of the wheel on the control that was being turned and the click whose
 /// press began before; and does all of it at the end, in its order. So typing, a held arrow key, a turning
 /// wheel and the mouse go on as if there were no lock.
 class InputKeeper : public QObject
@@ -43,6 +43,7 @@ private:
 
     bool holdTyped(QEvent* event);
     bool holdWheel(QWidget* target, QEvent* event);
+    bool askFocus(QWidget* target, QEvent* event);
     void watchMouse(QWidget* target, const QEvent* event);
     QWidget* focus() const;
     bool isChosen(const QWidget* widget) const;
