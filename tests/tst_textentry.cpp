@@ -185,6 +185,14 @@ private Q_SLOTS:
         QCOMPARE(finished.at(0).at(0).toString(), QStringLiteral("first"));
     }
 
+    void aDeletedEntryTellsNothing()
+    {
+        QSignalSpy finished(m_watcher, &TextEntryWatcher::editFinished);
+        type(QStringLiteral("second"));
+        delete m_entry;
+        QCOMPARE(finished.count(), 0);
+    }
+
     void livesAsLongAsTheEntry()
     {
         const QPointer<TextEntryWatcher> watcher = m_watcher;

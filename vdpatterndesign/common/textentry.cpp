@@ -18,10 +18,11 @@ TextEntryWatcher::TextEntryWatcher(QLineEdit* entry)
     entry->installEventFilter(this);
 }
 
-/// The entry itself tells of the focus only once in an edit, and that is when it is locked.
+/// The entry itself tells of the focus only once in an edit, and that is when it is locked. An entry that is
+/// being deleted loses the focus when it is no more than a widget.
 bool TextEntryWatcher::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusOut) {
+    if (event->type() == QEvent::FocusOut && qobject_cast<QLineEdit*>(watched)) {
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
             finish();
