@@ -278,6 +278,29 @@ private Q_SLOTS:
         QCOMPARE(ended.count(), clicks + 1);
     }
 
+    void secondPressOfADoubleClickArrives()
+    {
+        Shown shown;
+        SpinEditBox* width = shown.entry(4320);
+        width->setFocus();
+        width->selectAll();
+        QTest::keyClicks(width, QStringLiteral("1600"));
+        QSignalSpy ended(&shown.tool, &VTestChartTools::sigTestToolEditDone);
+        QPushButton* cancel = shown.user.cancel();
+        const auto send = [cancel](QEvent::Type type, Qt::MouseButtons buttons) {
+            const QPoint place(10, 10);
+            QMouseEvent event(type, place, cancel->mapToGlobal(place), Qt::LeftButton, buttons,
+                              Qt::NoModifier);
+            QApplication::sendEvent(cancel, &event);
+        };
+        cancel->setFocus(Qt::MouseFocusReason);
+        send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+        QVERIFY(shown.lock());
+        send(QEvent::MouseButtonRelease, Qt::NoButton);
+        QVERIFY(shown.unlock());
+        QTRY_COMPARE(ended.count(), 1);
+    }
+
     void turnedWheelStepsInALock_data() { turnedWheelSteps_data(); }
 
     void turnedWheelStepsInALock()

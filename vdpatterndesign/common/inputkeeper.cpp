@@ -152,6 +152,7 @@ bool InputKeeper::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Wheel:
         return holdWheel(target, event);
     case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
         watchMouse(target, event);
         return false;
@@ -164,7 +165,7 @@ bool InputKeeper::eventFilter(QObject* watched, QEvent* event)
 /// the mouse does.
 void InputKeeper::watchMouse(QWidget* target, const QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (event->type() != QEvent::MouseButtonRelease) {
         m_pressed = target->isEnabled() ? qobject_cast<QAbstractButton*>(target) : nullptr;
         return;
     }
