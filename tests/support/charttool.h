@@ -132,16 +132,15 @@ public:
         return QTest::qWaitForWindowExposed(m_tool.window()) && settle();
     }
 
-    /// Waits until the tool has been idle for longer than a repaint cycle takes to show.
+    /// Waits until the tool has been idle for longer than a repaint cycle takes to show: at so many looks, 10
+    /// ms or more apart, between which its timers had their turn.
     bool settle()
     {
-        QElapsedTimer idle;
-        idle.start();
+        int idleLooks = 0;
         return QTest::qWaitFor(
             [&] {
-                if (mask()->isVisible() || !cancel()->isEnabled())
-                    idle.restart();
-                return idle.elapsed() > 130;
+                idleLooks = mask()->isVisible() || !cancel()->isEnabled() ? 0 : idleLooks + 1;
+                return idleLooks > 14;
             },
             20000);
     }
