@@ -20,7 +20,6 @@
 #include <vtestcharttools.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLayout>
 #include <QListWidget>
