@@ -120,11 +120,12 @@ TextBatch::LaidOut TextBatch::measured(const QString& text)
     return result;
 }
 
-/// A font may have other glyphs for a digit that follows a letter. Where two tails begin alike, a head is
-/// taken to do the same to both.
+/// A font may have other glyphs for a digit that follows a letter. Heads that end alike are taken to do the
+/// same, if they have letters or if they have none, and to all tails that begin alike.
 TextBatch::Joint TextBatch::jointOf(const QString& head, const QString& tail)
 {
-    const QString key = head + tail.front();
+    const bool letters = std::any_of(head.begin(), head.end(), [](QChar c) { return c.isLetter(); });
+    const QString key = QString(QLatin1Char(letters ? 'A' : '1')) + head.back() + tail.front();
     const auto known = m_joints.constFind(key);
     if (known != m_joints.cend())
         return *known;
