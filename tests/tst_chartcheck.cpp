@@ -35,6 +35,14 @@ std::string pictureFile(const QTemporaryDir& folder, const QSize& size)
     return path.toStdString();
 }
 
+/// With the logo's picture, and no labels for it to lie over.
+void showPicture(TestChartToolsData& record, const std::string& path)
+{
+    record.logoData.showLogo = true;
+    record.logoData.picturePath = path;
+    record.inLineData.showSerialNumber = false;
+}
+
 std::string noiseFile(const QTemporaryDir& folder)
 {
     const QString path = folder.filePath(QStringLiteral("noise.png"));
@@ -212,27 +220,22 @@ private Q_SLOTS:
     {
         addColumns();
         const std::string wide = pictureFile(m_folder, {1200, 600});
-        const auto show = [](TestChartToolsData& r, const std::string& path) {
-            r.logoData.showLogo = true;
-            r.logoData.picturePath = path;
-            r.inLineData.showSerialNumber = false;
-        };
-        add("a third exactly", [=](auto& r) { show(r, pictureFile(m_folder, {960, 720})); }, {});
-        add("more than a third", [=](auto& r) { show(r, wide); },
+        add("a third exactly", [=](auto& r) { showPicture(r, pictureFile(m_folder, {960, 720})); }, {});
+        add("more than a third", [=](auto& r) { showPicture(r, wide); },
             {"logoData.scale: at 100 percent the logo covers 1200 x 600 pixels of the chart, 34 percent, "
              "more "
              "than a third of it"});
-        add("scaled", [=](auto& r) { show(r, wide), r.logoData.scale = 150; },
+        add("scaled", [=](auto& r) { showPicture(r, wide), r.logoData.scale = 150; },
             {"logoData.scale: at 150 percent the logo covers 1800 x 900 pixels of the chart, 78 percent, "
              "more "
              "than a third of it"});
-        add("cut by the chart", [=](auto& r) { show(r, wide), r.logoData.scale = 200; },
+        add("cut by the chart", [=](auto& r) { showPicture(r, wide), r.logoData.scale = 200; },
             {"logoData.scale: at 200 percent the logo covers 1920 x 1080 pixels of the chart, 100 percent, "
              "more than a third of it"});
-        add("scaled down", [=](auto& r) { show(r, wide), r.logoData.scale = 97; }, {});
+        add("scaled down", [=](auto& r) { showPicture(r, wide), r.logoData.scale = 97; }, {});
         add("over labels",
             [=](auto& r) {
-                show(r, wide);
+                showPicture(r, wide);
                 r.logoData.scale = 10;
                 r.logoData.displayPosition = 1;
                 r.inLineData.showSerialNumber = true;
@@ -240,21 +243,38 @@ private Q_SLOTS:
             {"logoData.showLogo: the logo lies over the labels of 1 of 144 cabinets, first A-A"});
         add("moved between labels",
             [=](auto& r) {
-                show(r, wide);
+                showPicture(r, wide);
                 r.logoData.scale = 10;
                 r.logoData.displayPosition = 1;
                 r.logoData.offsetY = 80;
                 r.inLineData.showSerialNumber = true;
             },
             {});
-        add("scale 0", [=](auto& r) { show(r, wide), r.logoData.scale = 0; },
+        add("scale 0", [=](auto& r) { showPicture(r, wide), r.logoData.scale = 0; },
             {"logoData.scale: 0 percent draws no logo"});
-        add("opacity 0", [=](auto& r) { show(r, wide), r.logoData.opacity = 0; },
+        add("opacity 0", [=](auto& r) { showPicture(r, wide), r.logoData.opacity = 0; },
             {"logoData.opacity: 0 percent draws no logo"});
-        add("missing", [=](auto& r) { show(r, "/nowhere/logo.png"); },
+        add("two styles", [=](auto& r) { showPicture(r, wide), r.logoData.textLogo = true; },
+            {"logoData.pictureLogo: logoData.textLogo is true as well; the text is drawn"});
+        add("no style",
+            [=](auto& r) {
+                showPicture(r, wide);
+                r.logoData.scale = 50;
+                r.logoData.pictureLogo = false;
+            },
+            {"logoData.pictureLogo: logoData.textLogo is false as well; the record does not say what to "
+             "draw"});
+    }
+    void pictureLogo() { check(); }
+
+    /// Of which some draw no logo.
+    void pictureFiles_data()
+    {
+        addColumns();
+        add("missing", [=](auto& r) { showPicture(r, "/nowhere/logo.png"); },
             {"logoData.picturePath: \"/nowhere/logo.png\" does not exist; no logo is drawn"});
         const std::string source = VD_SOURCE_DIR "/README.md";
-        add("no picture", [=](auto& r) { show(r, source); },
+        add("no picture", [=](auto& r) { showPicture(r, source); },
             {QStringLiteral(
                  "logoData.picturePath: \"%1\" is not a picture that can be read; no logo is drawn")
                  .arg(QString::fromStdString(source))});
@@ -263,39 +283,29 @@ private Q_SLOTS:
         const std::string cut = m_folder.filePath(QStringLiteral("cut.png")).toStdString();
         QVERIFY(QFile::copy(QString::fromStdString(whole), QString::fromStdString(cut)));
         QVERIFY(QFile::resize(QString::fromStdString(cut), 5000));
-        add("cut off", [=](auto& r) { show(r, cut); },
+        add("cut off", [=](auto& r) { showPicture(r, cut); },
             {QStringLiteral("logoData.picturePath: \"%1\" cannot be read to its end; no logo is drawn")
                  .arg(QString::fromStdString(cut))});
-        add("not cut off", [=](auto& r) { show(r, whole); }, {});
+        add("not cut off", [=](auto& r) { showPicture(r, whole); }, {});
         const std::string pipe = m_folder.filePath(QStringLiteral("pipe.png")).toStdString();
         QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
-        add("a pipe, which nobody writes to", [=](auto& r) { show(r, pipe); },
+        add("a pipe, which nobody writes to", [=](auto& r) { showPicture(r, pipe); },
             {QStringLiteral(
                  "logoData.picturePath: \"%1\" is not a picture that can be read; no logo is drawn")
                  .arg(QString::fromStdString(pipe))});
         const std::string large = pictureFile(m_folder, {3841, 8});
-        add("too large", [=](auto& r) { show(r, large); },
+        add("too large", [=](auto& r) { showPicture(r, large); },
             {QStringLiteral(
                  "logoData.picturePath: \"%1\" is larger than 3840 x 3840 pixels; no logo is drawn")
                  .arg(QString::fromStdString(large))});
         add("missing and off",
             [=](auto& r) {
-                show(r, "/nowhere/logo.png");
+                showPicture(r, "/nowhere/logo.png");
                 r.logoData.showLogo = false;
             },
             {});
-        add("two styles", [=](auto& r) { show(r, wide), r.logoData.textLogo = true; },
-            {"logoData.pictureLogo: logoData.textLogo is true as well; the text is drawn"});
-        add("no style",
-            [=](auto& r) {
-                show(r, wide);
-                r.logoData.scale = 50;
-                r.logoData.pictureLogo = false;
-            },
-            {"logoData.pictureLogo: logoData.textLogo is false as well; the record does not say what to "
-             "draw"});
     }
-    void pictureLogo() { check(); }
+    void pictureFiles() { check(); }
 
     void textLogo_data()
     {

@@ -1,6 +1,4 @@
-#include "spineditbox.h"
-#include "testcase.h"
-#include "vtestcharttools.h"
+#include "charttool.h"
 
 #include <QDialog>
 #include <QProxyStyle>
@@ -34,27 +32,11 @@ class TestHeldArrow : public TestCase
     Q_OBJECT
 
 private:
-    /// The tool in a window that is shown and active, its first repaint done.
     struct Shown
     {
         VTestChartTools tool;
-
-        Shown()
-        {
-            tool.show();
-            tool.activateWindow();
-            const bool ready = QTest::qWaitForWindowActive(&tool) && idle();
-            Q_ASSERT(ready);
-            Q_UNUSED(ready)
-        }
-
-        /// Waits until no control is locked and nothing more is coming.
-        bool idle()
-        {
-            QTest::qWait(250);
-            auto* const mask = tool.findChild<QWidget*>(QStringLiteral("maskWidget"));
-            return QTest::qWaitFor([mask] { return mask->isHidden(); });
-        }
+        charttool::User user{tool};
+        const bool ready = user.show();
 
         SpinEditBox* columns() { return tool.findChild<SpinEditBox*>(QStringLiteral("Col")); }
 
@@ -76,11 +58,12 @@ private Q_SLOTS:
     void stepsUntilItIsLetGo()
     {
         Shown shown;
+        QVERIFY(shown.ready);
         QTest::mousePress(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
         QCOMPARE(shown.columns()->value(), 17.0);
         QTRY_COMPARE_WITH_TIMEOUT(shown.columns()->value(), 20.0, 20000);
         QTest::mouseRelease(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
-        QVERIFY(shown.idle());
+        QVERIFY(shown.user.settle());
         const double value = shown.columns()->value();
         QTest::qWait(1000);
         QCOMPARE(shown.columns()->value(), value);
@@ -90,6 +73,7 @@ private Q_SLOTS:
     void doesNotStepBesideTheEntry()
     {
         Shown shown;
+        QVERIFY(shown.ready);
         QTest::mousePress(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
         const QPoint beside(-40, 5);
         QMouseEvent move(QEvent::MouseMove, beside, shown.columns()->mapToGlobal(beside), Qt::NoButton,
@@ -105,11 +89,12 @@ private Q_SLOTS:
     {
         QApplication::setStyle(new PatientStyle(QStringLiteral("fusion")));
         Shown shown;
+        QVERIFY(shown.ready);
         QTest::mousePress(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
-        QVERIFY(shown.idle());
+        QVERIFY(shown.user.settle());
         QTest::qWait(500);
         QTest::mouseRelease(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
-        QVERIFY(shown.idle());
+        QVERIFY(shown.user.settle());
         QCOMPARE(shown.columns()->value(), 17.0);
         QApplication::setStyle(QStringLiteral("fusion"));
     }
@@ -117,8 +102,9 @@ private Q_SLOTS:
     void theSecondPressOfADoubleClickIsHeldToo()
     {
         Shown shown;
+        QVERIFY(shown.ready);
         QTest::mouseClick(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
-        QVERIFY(shown.idle());
+        QVERIFY(shown.user.settle());
         const QPoint place = shown.up();
         QMouseEvent second(QEvent::MouseButtonDblClick, place, shown.columns()->mapToGlobal(place),
                            Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
@@ -133,6 +119,7 @@ private Q_SLOTS:
     void aReleaseThatNobodySeesEndsIt()
     {
         Shown shown;
+        QVERIFY(shown.ready);
         QTest::mousePress(shown.columns(), Qt::LeftButton, Qt::NoModifier, shown.up());
         QDialog dialog(&shown.tool);
         dialog.setModal(true);
