@@ -1,7 +1,7 @@
 // What a change of the chart costs: one layer's render, and the snapshot of the whole chart; in the editor,
 // and in the straightforward reference.
 
-#include "common/cabinetpainter.h"
+#include "layers/cabinetpainter.h"
 #include "paintbasicwidget.h"
 #include "paintinlinewidget.h"
 #include "paintpublicbrightwidget.h"

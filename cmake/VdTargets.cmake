@@ -1,5 +1,10 @@
 # What every target of the project has in common.
 
+option(VD_PRECOMPILED_HEADERS "Precompile the toolkit's headers" ${PROJECT_IS_TOP_LEVEL})
+if(PROJECT_IS_TOP_LEVEL)
+  find_program(VD_MOLD mold) # links many times as fast, where it is there
+endif()
+
 # vd_defaults(<target>): language level, warnings, sanitizers, hidden symbols, Qt's code generators.
 function(vd_defaults target)
   set_target_properties(${target} PROPERTIES
@@ -15,6 +20,12 @@ function(vd_defaults target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wold-style-cast
     $<$<BOOL:${VD_WARNINGS_AS_ERRORS}>:-Werror>)
+  if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+  endif()
+  if(VD_MOLD AND CMAKE_BUILD_TYPE STREQUAL Debug)
+    target_link_options(${target} PRIVATE -fuse-ld=mold)
+  endif()
   if(VD_SANITIZERS)
     target_compile_options(${target} PUBLIC -fsanitize=${VD_SANITIZERS} -fno-omit-frame-pointer
       -fno-sanitize-recover=all)
@@ -24,28 +35,35 @@ function(vd_defaults target)
   endif()
 endfunction()
 
-# vd_library(<name> SOURCES … PUBLIC_HEADERS … LINK …): a library with export header, alias and install rules.
-# Its objects are also a target of their own, <name>_objects, for tests of what is not exported.
+# vd_precompile(<target> <header …> | REUSE_FROM <target>): the headers that its sources mostly wait for.
+function(vd_precompile target)
+  if(NOT VD_PRECOMPILED_HEADERS)
+    return()
+  endif()
+  if("${ARGV1}" STREQUAL REUSE_FROM)
+    target_precompile_headers(${target} REUSE_FROM ${ARGV2})
+  else()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
+# vd_library(<name> [ROOMS …] SOURCES … PUBLIC_HEADERS … LINK …): a library with export header, alias and install rules.
+#   ROOMS  the folders of its sources; a header is found by its name alone, and installed so
 function(vd_library name)
-  cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC_HEADERS;LINK" ${ARGN})
+  cmake_parse_arguments(arg "" "" "ROOMS;SOURCES;PUBLIC_HEADERS;LINK" ${ARGN})
 
-  add_library(${name}_objects OBJECT ${arg_SOURCES} ${arg_PUBLIC_HEADERS})
-  vd_defaults(${name}_objects)
-  target_include_directories(${name}_objects PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}" "${CMAKE_CURRENT_BINARY_DIR}")
-  target_link_libraries(${name}_objects PUBLIC ${arg_LINK})
-
-  add_library(${name})
+  add_library(${name} ${arg_SOURCES} ${arg_PUBLIC_HEADERS})
   add_library(vardeno::${name} ALIAS ${name})
-  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:${name}_objects> PUBLIC ${arg_LINK})
-  target_compile_features(${name} PUBLIC cxx_std_17)
+  vd_defaults(${name})
+  target_link_libraries(${name} PUBLIC ${arg_LINK})
+  list(TRANSFORM arg_ROOMS PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/" OUTPUT_VARIABLE rooms)
   target_include_directories(${name} PUBLIC
-    "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR};${CMAKE_CURRENT_BINARY_DIR}>"
+    "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR};${CMAKE_CURRENT_BINARY_DIR};${rooms}>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name}>")
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
-    INSTALL_RPATH "$ORIGIN"
-    LINKER_LANGUAGE CXX)
+    INSTALL_RPATH "$ORIGIN")
   if(BUILD_SHARED_LIBS AND NOT VD_SANITIZERS)
     target_link_options(${name} PRIVATE -Wl,--no-undefined)
   endif()
@@ -53,20 +71,13 @@ function(vd_library name)
   string(TOUPPER ${name} upper)
   generate_export_header(${name} BASE_NAME ${name})
   if(NOT BUILD_SHARED_LIBS)
-    target_compile_definitions(${name}_objects PUBLIC ${upper}_STATIC_DEFINE)
     target_compile_definitions(${name} PUBLIC ${upper}_STATIC_DEFINE)
-  else()
-    target_compile_definitions(${name}_objects PRIVATE ${name}_EXPORTS)
   endif()
 
   install(TARGETS ${name} EXPORT vdpatterndesign-targets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-  foreach(header IN LISTS arg_PUBLIC_HEADERS)
-    get_filename_component(folder ${header} DIRECTORY)
-    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name}/${folder})
-  endforeach()
-  install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h"
+  install(FILES ${arg_PUBLIC_HEADERS} "${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h"
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name})
 endfunction()

@@ -1,6 +1,6 @@
-#include "theme/theme.h"
+#include "theme.h"
 
-#include "common/safesettings.h"
+#include "support/safesettings.h"
 
 #include <QDebug>
 #include <QMetaEnum>

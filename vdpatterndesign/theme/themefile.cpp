@@ -1,8 +1,8 @@
 #include "theme/themefile.h"
 
-#include "common/resources.h"
-#include "theme/theme.h"
-#include "theme/theming.h"
+#include "theme.h"
+#include "theme/resources.h"
+#include "theming.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -1,6 +1,6 @@
-#include "theme/theming.h"
+#include "theming.h"
 
-#include "theme/theme.h"
+#include "theme.h"
 
 #include <QColor>
 #include <QCoreApplication>

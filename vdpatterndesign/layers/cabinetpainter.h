@@ -1,0 +1,15 @@
+#pragma once
+
+#include "geometry/cabinetlabels.h"
+#include "vdchartcore_export.h"
+
+class QColor;
+class QPainter;
+
+namespace vardeno::testcharttools {
+
+/// Draws the label of every cabinet of `grid` in `font` and `color`.
+VDCHARTCORE_EXPORT void drawCabinetLabels(QPainter& painter, const CabinetGrid& grid, const LabelStyle& style,
+                                          const QFont& font, const QColor& color);
+
+} // namespace vardeno::testcharttools

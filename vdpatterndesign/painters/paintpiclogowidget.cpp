@@ -1,0 +1,181 @@
+#include "paintpiclogowidget.h"
+
+#include "geometry/logoplacement.h"
+#include "support/defaultlogo.h"
+#include "support/imagefile.h"
+#include "support/translation.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPainter>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+/// The folder of the uploaded pictures; created if need be.
+QString uploadFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                           QLatin1String("/vtestcharttools/logo");
+    QDir().mkpath(folder);
+    return folder;
+}
+
+} // namespace
+
+class PaintPicLogoWidget::Impl : public QObject
+{
+public:
+    QString path() const { return QString::fromStdString(picPath); }
+
+    int moveX = 0;
+    int moveY = 0;
+    LogoPlacement placement; ///< of the last render
+    float scale = 1.0F;
+    float opacity = 1.0F;
+    QString dialogTitle;
+    std::string picPath;
+    CachedPicture picture;
+    int position = 0;
+};
+
+PaintPicLogoWidget::PaintPicLogoWidget(QWidget* parent)
+    : LayerPainter(parent)
+    , d(new Impl)
+{
+}
+
+PaintPicLogoWidget::~PaintPicLogoWidget() = default;
+
+void PaintPicLogoWidget::setPicPath(std::string path)
+{
+    assign(d->picPath, path);
+}
+
+std::string PaintPicLogoWidget::picPath() const
+{
+    return d->picPath;
+}
+
+bool PaintPicLogoWidget::showsDefaultPicLogo() const
+{
+    return d->path() == defaultLogo();
+}
+
+void PaintPicLogoWidget::setPosition(int index)
+{
+    assign(d->position, index);
+}
+
+void PaintPicLogoWidget::setMoveX(int pixels)
+{
+    assign(d->moveX, pixels);
+}
+
+void PaintPicLogoWidget::setMoveY(int pixels)
+{
+    assign(d->moveY, pixels);
+}
+
+int PaintPicLogoWidget::appliedMoveX() const
+{
+    return d->placement.applied.x();
+}
+
+int PaintPicLogoWidget::appliedMoveY() const
+{
+    return d->placement.applied.y();
+}
+
+void PaintPicLogoWidget::setOpacity(int percent)
+{
+    // Compared before it is narrowed, here and for the scale: it is meant.
+    if (percent * 0.01 == double(d->opacity))
+        return;
+    d->opacity = float(percent * 0.01);
+    layerChanged();
+}
+
+void PaintPicLogoWidget::setScale(int percent)
+{
+    if (percent * 0.01 == double(d->scale))
+        return;
+    d->scale = float(percent * 0.01);
+    layerChanged();
+}
+
+void PaintPicLogoWidget::setDefaultPicLogo()
+{
+    d->picPath = defaultLogo().toStdString();
+    const QPixmap whole = QPixmap::fromImage(d->picture.load(d->path()));
+    qDebug() << Q_FUNC_INFO << "picPixmap isNull:" << whole.isNull();
+    qDebug() << Q_FUNC_INFO << "picPixmap isNull:" << width();
+    setPixmap(whole);
+}
+
+void PaintPicLogoWidget::uploadPicLogo()
+{
+    QSettings settings(QStringLiteral("image"), QStringLiteral("path"));
+    const QString lastFolder = settings.value(QStringLiteral("lastImagePath"), QDir::homePath()).toString();
+    const QString chosen = QFileDialog::getOpenFileName(nullptr, d->dialogTitle, lastFolder,
+                                                        QStringLiteral("Files(*.jpg *.bmp *.png)"));
+    if (chosen.isEmpty()) {
+        qDebug() << Q_FUNC_INFO << "fileName open fail";
+        return;
+    }
+    if (examinePicture(chosen) == PictureFile::TooLarge)
+        return;
+    const QImage image(chosen);
+    if (image.isNull()) {
+        QMessageBox::information(this, QStringLiteral("result"), QStringLiteral("Error"), QMessageBox::Ok);
+        return;
+    }
+    const QFileInfo file(chosen);
+    const QString copy = uploadFolder() + QLatin1Char('/') + file.fileName();
+    writeImageWhole(image, copy, "PNG");
+    setPicPath(copy.toStdString());
+    update(); // the file may be new where its path is not
+    settings.setValue(QStringLiteral("lastImagePath"), file.absolutePath());
+}
+
+void PaintPicLogoWidget::translateTitle()
+{
+    d->dialogTitle = translated(QStringLiteral("SelectImage"));
+}
+
+/// The label's picture is the scaled logo alone; where it stands is decided when it is painted.
+void PaintPicLogoWidget::renderPicture()
+{
+    const QImage& image = d->picture.load(d->path());
+    const QSize scaled = scaledPicture(image.size(), d->scale);
+    QPixmap logo;
+    if (!image.isNull()) // scaling none would warn
+        logo = QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    d->placement = placedPicture(size(), logo.size(), d->position, {d->moveX, d->moveY});
+    setPixmap(logo);
+}
+
+void PaintPicLogoWidget::draw(QPainter& painter, const QSize& size)
+{
+    painter.translate(QPoint(size.width() / 2, size.height() / 2));
+    painter.setOpacity(double(d->opacity));
+    painter.drawPixmap(d->placement.at, pixmap(Qt::ReturnByValue));
+}
+
+void PaintPicLogoWidget::paintStored(QPaintEvent*)
+{
+    QPainter painter(this);
+    draw(painter, size());
+}
+
+bool PaintPicLogoWidget::sourceChanged() const
+{
+    return d->picture.isOutdated(d->path());
+}
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,611 @@
+#include "basicsettingbox.h"
+
+#include "controls/colorlist.h"
+#include "controls/swatch.h"
+#include "customdialog.h"
+#include "geometry/moverange.h"
+#include "imagewidget.h"
+#include "paintbasicwidget.h"
+#include "panels/settingrows.h"
+#include "testcharttoolsdata.h"
+
+#include <QColorDialog>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QLocale>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QStackedWidget>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+enum Page
+{
+    ChessPage,
+    GradientPage,
+    ColorBarPage
+};
+enum Mode
+{
+    ChessMode,
+    GradientMode,
+    StripeMode
+};
+
+constexpr QSize previewSize(80, 45);
+constexpr QSize modeCaption(80, 20);
+constexpr QSize pageCaption(70, 20);
+constexpr QSize stepButton(20, 20);
+constexpr QSize editButton(55, 20);
+constexpr QSize listSize(112, 20);
+
+QPixmap picture(const char* name)
+{
+    return QPixmap(QStringLiteral(":/resources/images/") + QLatin1String(name));
+}
+
+ImageWidget* preview(QWidget* parent, const char* pictureName)
+{
+    auto* widget = new ImageWidget(parent);
+    widget->setFixedSize(previewSize);
+    widget->setPixmap(picture(pictureName));
+    return widget;
+}
+
+/// A row of colours that is moved through with buttons, never with scroll bars.
+QListWidget* colorList(QWidget* parent, const char* objectName)
+{
+    auto* list = new QListWidget(parent);
+    list->setObjectName(QLatin1String(objectName));
+    list->setViewMode(QListView::IconMode);
+    list->setFlow(QListView::LeftToRight);
+    list->setWrapping(false);
+    list->setDragEnabled(false);
+    list->setMovement(QListView::Static);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    return list;
+}
+
+/// Takes every item's own colour again and gives the current one the frame of `style`.
+void frameCurrentItem(QListWidget* list, const QString& style)
+{
+    for (int row = 0; row < list->count(); ++row)
+        list->item(row)->setBackground(list->item(row)->background());
+    if (const QListWidgetItem* current = list->currentItem())
+        list->setStyleSheet(style.arg(current->background().color().name()));
+}
+
+/// Where a window of `size` opens beside `button`: on its right, and no farther than the screen goes, to its
+/// last pixel.
+QPoint placeBeside(const QWidget* button, const QSize& size)
+{
+    const QScreen* screen = QGuiApplication::screenAt(button->mapToGlobal(button->rect().center()));
+    const QRect room = (screen ? screen : button->screen())->availableGeometry();
+    return keptInRange(button->mapToGlobal(QPoint(button->width(), 0)), size, room.adjusted(0, 0, 1, 1));
+}
+
+} // namespace
+
+class BasicSettingBox::Impl : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Impl(BasicSettingBox* box)
+        : owner(box)
+    {
+    }
+
+    void build(PanelControls& controls);
+    void buildModeRow(QVBoxLayout* column, PanelControls& controls);
+    QWidget* buildChessPage(PanelControls& controls);
+    QWidget* buildGradientPage(PanelControls& controls);
+    QWidget* buildColorBarPage(PanelControls& controls);
+    void connectControls();
+
+    QPushButton* chessButton(const QString& which) const;
+    void showColorBar(Mode mode);
+    void setMode(Mode mode);
+    void showBarPreview(bool asGradient);
+    void listChanged();
+    void gradientListChanged();
+
+    ImageWidget* chessPreview = nullptr;
+    ImageWidget* gradientPreview = nullptr;
+    ImageWidget* barPreview = nullptr;
+    QStackedWidget* pages = nullptr;
+    QListWidget* gradientList = nullptr;
+    QListWidget* stripeList = nullptr;
+    QRadioButton* chessRadio = nullptr;
+    QRadioButton* barRadio = nullptr;
+    QPushButton* oddButton = nullptr;
+    QPushButton* evenButton = nullptr;
+    QPushButton* gradientLeft = nullptr;
+    QPushButton* gradientRight = nullptr;
+    QPushButton* gradientAdd = nullptr;
+    QPushButton* gradientRemove = nullptr;
+    QPushButton* stripeLeft = nullptr;
+    QPushButton* stripeRight = nullptr;
+    QPushButton* addButton = nullptr;
+    QPushButton* removeButton = nullptr;
+    BasicSettingBox* owner;
+    QPointer<PaintBasicWidget> painter;
+    bool firstTime = true; ///< until a colour bar mode has been shown
+    QPushButton* gradientSwitch = nullptr;
+    QString dialogStyleSheet = QStringLiteral(" ");
+    QColor oddBeforePicking = QColor(255, 170, 255, 255);
+    QColor evenBeforePicking;
+    std::vector<std::unique_ptr<QListWidgetItem>> leftovers; ///< the last items taken out of a list
+
+public Q_SLOTS:
+    void slotShowchessModel(bool bChecked);
+    void slotShowGradientModel(bool bChecked);
+    void slotShowColorStripeModel(bool bChecked);
+    void gradientAddDefaultColors();
+    void colorStripeAddDefaultColors(bool isFirst = false);
+    void slotGradientAddColor();
+    void slotGradientRemoveColor();
+    void slotColorStripeAddColor();
+    void slotColorStripeRemoveColor();
+    void slotScrollGradientLeft() { stepListLeft(gradientList); }
+    void slotScrollGradientRight() { stepListRight(gradientList); }
+    void slotScrollColorStripeLeft() { stepListLeft(stripeList); }
+    void slotScrollColorStripeRight() { stepListRight(stripeList); }
+    void slotSelectOddColor();
+    void slotSelectEvenColor();
+    void slotGradientItemChanged();
+    void slotColorStripeItemChanged();
+    void slotColorStripeItemEntered(QListWidgetItem* item);
+    void showConfigDialog();
+};
+
+void BasicSettingBox::Impl::build(PanelControls& controls)
+{
+    auto* column = new QVBoxLayout(owner);
+    column->setContentsMargins(10, 7, 10, 7);
+    column->setSpacing(5);
+    buildModeRow(column, controls);
+
+    pages = new QStackedWidget(owner);
+    pages->setFixedWidth(410);
+    pages->addWidget(buildChessPage(controls));
+    pages->addWidget(buildGradientPage(controls));
+    pages->addWidget(buildColorBarPage(controls));
+    column->addWidget(pages);
+
+    auto* line = new QFrame(owner);
+    line->setObjectName(QStringLiteral("basicLine"));
+    line->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    line->setFixedSize(353, 1);
+    line->setForegroundRole(QPalette::Midlight);
+    column->addWidget(line, 0, Qt::AlignHCenter);
+}
+
+void BasicSettingBox::Impl::buildModeRow(QVBoxLayout* column, PanelControls& controls)
+{
+    auto* caption = new QLabel(owner);
+    caption->setFixedSize(modeCaption);
+    caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    controls.captions.add(QStringLiteral("Mode selection"), [caption](const QString& text) {
+        showElided(caption, text + QLatin1String("  "));
+    });
+
+    chessRadio = new QRadioButton(owner);
+    chessRadio->setObjectName(QStringLiteral("chessRadioButton"));
+    chessRadio->setChecked(true);
+    barRadio = new QRadioButton(owner);
+    barRadio->setObjectName(QStringLiteral("colorStripeRadioButton"));
+    const auto textOf = [](QRadioButton* radio) {
+        return [radio](const QString& text) { radio->setText(text); };
+    };
+    controls.captions.add(QStringLiteral("Chess"), textOf(chessRadio));
+    controls.captions.add(QStringLiteral("Color bar"), textOf(barRadio));
+
+    chessPreview = preview(owner, "chess.png");
+    gradientPreview = preview(owner, "gradient.png");
+    gradientPreview->setObjectName(QStringLiteral("_gradientLayout"));
+    gradientPreview->hide(); // the colour bar's preview shows its picture instead
+    barPreview = preview(owner, "colorstripe.png");
+    barPreview->setObjectName(QStringLiteral("_colorStripeLayout"));
+
+    auto* grid = new QGridLayout;
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(3);
+    grid->addWidget(caption, 0, 0);
+    grid->addWidget(chessRadio, 0, 1);
+    grid->addWidget(barRadio, 0, 2);
+    grid->addWidget(chessPreview, 1, 1);
+    grid->addWidget(barPreview, 1, 2);
+    grid->setColumnMinimumWidth(1, 110);
+    grid->setColumnStretch(3, 1);
+    column->addLayout(grid);
+}
+
+QWidget* BasicSettingBox::Impl::buildChessPage(PanelControls& controls)
+{
+    auto* page = new QWidget;
+    page->setObjectName(QStringLiteral("checkerboardWidget"));
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(10, 0, 0, 0);
+    SettingRows(page, controls, column, pageCaption)
+        .row(QString())
+        .caption(QStringLiteral("Odd"), QSize(40, 20))
+        .swatch(oddButton, QStringLiteral("oddColorPushButton"), QStringLiteral("odd"))
+        .caption(QStringLiteral("Even"), QSize(60, 20))
+        .swatch(evenButton, QStringLiteral("evenColorPushButton"), QStringLiteral("even"));
+    column->addStretch();
+    return page;
+}
+
+QWidget* BasicSettingBox::Impl::buildGradientPage(PanelControls& controls)
+{
+    auto* page = new QWidget;
+    gradientList = colorList(page, "_gradientListWidget");
+    gradientList->setMaximumWidth(200);
+    gradientList->setFixedHeight(listSize.height());
+    const auto add = [&](const QString& text, const char* objectName, const QSize& size) {
+        auto* button = new QPushButton(text, page);
+        button->setObjectName(QLatin1String(objectName));
+        button->setFixedSize(size);
+        controls.add(button);
+        return button;
+    };
+    gradientLeft = add(QStringLiteral("<"), "_gradientLeftPushButton", stepButton);
+    gradientRight = add(QStringLiteral(">"), "_gradientRightPushButton", stepButton);
+    gradientAdd = add(QStringLiteral("增加"), "_gradientAddPushButton", QSize(44, 20));
+    gradientRemove = add(QStringLiteral("删除"), "_gradientRemovePushButton", QSize(44, 20));
+
+    auto* row = new QHBoxLayout(page);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(new QLabel(QStringLiteral("渐变"), page));
+    for (QWidget* widget : {static_cast<QWidget*>(gradientLeft), static_cast<QWidget*>(gradientList),
+                            static_cast<QWidget*>(gradientRight), static_cast<QWidget*>(gradientAdd),
+                            static_cast<QWidget*>(gradientRemove)})
+        row->addWidget(widget);
+    return page;
+}
+
+QWidget* BasicSettingBox::Impl::buildColorBarPage(PanelControls& controls)
+{
+    auto* page = new QWidget;
+    page->setObjectName(QStringLiteral("colorStripeWidget"));
+    stripeList = colorList(page, "_colorStripeListWidget");
+    stripeList->setFixedSize(listSize);
+    stripeList->setMouseTracking(true);
+    stripeList->installEventFilter(owner);
+    stripeList->viewport()->installEventFilter(owner);
+
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(10, 0, 0, 0);
+    column->setSpacing(4);
+    SettingRows rows(page, controls, column, pageCaption);
+    rows.row(QStringLiteral("Gradient")).toggle(gradientSwitch, false);
+    rows.row(QStringLiteral("Color bar"))
+        .iconButton(stripeLeft, QStringLiteral(":/resources/images/icon_zuo_nor.png"),
+                    QStringLiteral("Previous color"), QStringLiteral("_colorStripeLeftPushButton"))
+        .widget(stripeList)
+        .iconButton(stripeRight, QStringLiteral(":/resources/images/icon_you_nor.png"),
+                    QStringLiteral("Next color"), QStringLiteral("_colorStripeRightPushButton"))
+        .button(addButton, QStringLiteral("Add"), editButton, QStringLiteral("ADDButton"))
+        .button(removeButton, QStringLiteral("Delete"), editButton, QStringLiteral("CancleButton"));
+    addButton->setProperty("btnProperty", QStringLiteral("add"));
+    column->addStretch();
+    return page;
+}
+
+void BasicSettingBox::Impl::connectControls()
+{
+    connect(chessRadio, &QRadioButton::toggled, this, &Impl::slotShowchessModel);
+    connect(barRadio, &QRadioButton::toggled, this, &Impl::slotShowColorStripeModel);
+    connect(gradientSwitch, &QPushButton::toggled, this, &Impl::slotShowGradientModel);
+    connect(oddButton, &QPushButton::clicked, this, &Impl::slotSelectOddColor);
+    connect(evenButton, &QPushButton::clicked, this, &Impl::slotSelectEvenColor);
+    connect(addButton, &QPushButton::clicked, this, &Impl::slotColorStripeAddColor);
+    connect(removeButton, &QPushButton::clicked, this, &Impl::showConfigDialog);
+    connect(gradientLeft, &QPushButton::clicked, this, &Impl::slotScrollGradientLeft);
+    connect(gradientRight, &QPushButton::clicked, this, &Impl::slotScrollGradientRight);
+    connect(stripeLeft, &QPushButton::clicked, this, &Impl::slotScrollColorStripeLeft);
+    connect(stripeRight, &QPushButton::clicked, this, &Impl::slotScrollColorStripeRight);
+    connect(gradientAdd, &QPushButton::clicked, this, &Impl::slotGradientAddColor);
+    connect(gradientRemove, &QPushButton::clicked, this, &Impl::slotGradientRemoveColor);
+    connect(gradientList, &QListWidget::currentItemChanged, this, &Impl::slotGradientItemChanged);
+    connect(stripeList, &QListWidget::currentItemChanged, this, &Impl::slotColorStripeItemChanged);
+    connect(stripeList, &QListWidget::itemEntered, this, &Impl::slotColorStripeItemEntered);
+}
+
+QPushButton* BasicSettingBox::Impl::chessButton(const QString& which) const
+{
+    if (which == QLatin1String("odd"))
+        return oddButton;
+    return which == QLatin1String("even") ? evenButton : nullptr;
+}
+
+void BasicSettingBox::Impl::showColorBar(Mode mode)
+{
+    pages->setCurrentIndex(ColorBarPage);
+    if (firstTime && stripeList->count() == 0)
+        colorStripeAddDefaultColors();
+    firstTime = false;
+    setMode(mode);
+}
+
+void BasicSettingBox::Impl::setMode(Mode mode)
+{
+    if (painter)
+        painter->setMode(mode);
+}
+
+void BasicSettingBox::Impl::showBarPreview(bool asGradient)
+{
+    barPreview->setPixmap(picture(asGradient ? "gradient.png" : "colorstripe.png"));
+}
+
+void BasicSettingBox::Impl::listChanged()
+{
+    if (painter)
+        painter->setColorStripeList(stripeList);
+    Q_EMIT owner->basicSignal();
+}
+
+void BasicSettingBox::Impl::gradientListChanged()
+{
+    if (painter)
+        painter->setGradientList(gradientList);
+    Q_EMIT owner->basicSignal();
+}
+
+void BasicSettingBox::Impl::slotShowchessModel(bool bChecked)
+{
+    if (!bChecked)
+        return;
+    pages->setCurrentIndex(ChessPage);
+    setMode(ChessMode);
+    Q_EMIT owner->basicSignal();
+}
+
+void BasicSettingBox::Impl::slotShowGradientModel(bool bChecked)
+{
+    if (barRadio->isChecked()) {
+        showColorBar(bChecked ? GradientMode : StripeMode);
+        showBarPreview(bChecked);
+    }
+    Q_EMIT owner->basicSignal();
+}
+
+void BasicSettingBox::Impl::slotShowColorStripeModel(bool bChecked)
+{
+    if (!bChecked)
+        return;
+    if (gradientSwitch->isChecked() && barRadio->isChecked()) {
+        slotShowGradientModel(true);
+        return;
+    }
+    showColorBar(StripeMode);
+    Q_EMIT owner->basicSignal();
+}
+
+void BasicSettingBox::Impl::gradientAddDefaultColors()
+{
+    for (const Qt::GlobalColor color : {Qt::magenta, Qt::cyan, Qt::yellow, Qt::green, Qt::red})
+        appendListColor(gradientList, color);
+    gradientListChanged();
+}
+
+void BasicSettingBox::Impl::colorStripeAddDefaultColors(bool isFirst)
+{
+    if (isFirst)
+        stripeList->clear();
+    for (const Qt::GlobalColor color : {Qt::yellow, Qt::green, Qt::cyan, Qt::magenta, Qt::red})
+        appendListColor(stripeList, color);
+    listChanged();
+}
+
+void BasicSettingBox::Impl::slotGradientAddColor()
+{
+    QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
+    const QColor color = QColorDialog::getColor(Qt::white, nullptr, QStringLiteral("select color"));
+    if (color.isValid())
+        appendListColor(gradientList, color);
+    gradientListChanged();
+}
+
+void BasicSettingBox::Impl::slotGradientRemoveColor()
+{
+    removeCurrentColor(gradientList, leftovers);
+    gradientListChanged();
+}
+
+void BasicSettingBox::Impl::slotColorStripeAddColor()
+{
+    Q_EMIT owner->addSignal(addButton);
+}
+
+void BasicSettingBox::Impl::slotColorStripeRemoveColor()
+{
+    removeCurrentColor(stripeList, leftovers);
+    listChanged();
+}
+
+void BasicSettingBox::Impl::slotSelectOddColor()
+{
+    oddBeforePicking = swatchColor(oddButton);
+    Q_EMIT owner->oddSignal(oddButton);
+}
+
+void BasicSettingBox::Impl::slotSelectEvenColor()
+{
+    evenBeforePicking = swatchColor(evenButton);
+    Q_EMIT owner->evenSignal(evenButton);
+}
+
+void BasicSettingBox::Impl::slotGradientItemChanged()
+{
+    frameCurrentItem(gradientList, QStringLiteral("QListWidget::item:selected {border: 1px solid "
+                                                  "#489BC5;background-color: %1;}"));
+}
+
+void BasicSettingBox::Impl::slotColorStripeItemChanged()
+{
+    frameCurrentItem(stripeList,
+                     QStringLiteral("QListWidget::item::selected {border: 1px solid #3ABCF0;outline: "
+                                    "0px;background-color: %1;}"));
+}
+
+void BasicSettingBox::Impl::slotColorStripeItemEntered(QListWidgetItem* item)
+{
+    if (item)
+        stripeList->setStyleSheet(
+            QStringLiteral("QListWidget::item:hover {background-color: %1;border: 1px solid "
+                           "#75CFF9;}")
+                .arg(item->background().color().name()));
+}
+
+void BasicSettingBox::Impl::showConfigDialog()
+{
+    const auto* button = qobject_cast<QPushButton*>(sender());
+    if (!button)
+        return;
+    auto* dialog = new CustomDialog;
+    dialog->setDialogStyleSheet(dialogStyleSheet);
+    connect(dialog, &CustomDialog::configDelete, this, &Impl::slotColorStripeRemoveColor);
+    dialog->move(placeBeside(removeButton, dialog->size()));
+    dialog->show();
+    dialog->raise();
+}
+
+BasicSettingBox::BasicSettingBox(QWidget* parent)
+    : SettingPanel(parent)
+    , d(new Impl(this))
+{
+    setObjectName(QStringLiteral("basicWidget"));
+    setStyleSheet(
+        QStringLiteral("QWidget#basicWidget{background: transparent; border-left : 1px solid #535465; "
+                       "border-right : 1px solid #535465;}"));
+    setAttribute(Qt::WA_StyledBackground);
+    setFixedWidth(410);
+    connect(this, &BasicSettingBox::basicSignal, this, &SettingPanel::changed);
+    connect(this, &BasicSettingBox::oddSignal, this, &SettingPanel::colorRequested);
+    connect(this, &BasicSettingBox::evenSignal, this, &SettingPanel::colorRequested);
+    connect(this, &BasicSettingBox::addSignal, this, &SettingPanel::colorRequested);
+    d->build(controls());
+    paintSwatch(d->oddButton, toQColor(BasicChartData().oddColor));
+    paintSwatch(d->evenButton, toQColor(BasicChartData().evenColor));
+    d->connectControls();
+    controls().captions.add(QStringLiteral("Widget"), [this](const QString& text) { setWindowTitle(text); });
+    retranslate();
+}
+
+BasicSettingBox::~BasicSettingBox() = default;
+
+void BasicSettingBox::setDialogStyleSheet(const QString& sheet)
+{
+    d->dialogStyleSheet = sheet;
+}
+
+void BasicSettingBox::setPaintWidget(PaintBasicWidget* painter)
+{
+    if (painter)
+        d->painter = painter;
+}
+
+void BasicSettingBox::setColor(const QColor& color, const QString& which)
+{
+    QPushButton* const button = d->chessButton(which);
+    if (!button)
+        return;
+    paintSwatch(button, color);
+    if (d->painter && button == d->oddButton)
+        d->painter->setOddColor(color);
+    else if (d->painter)
+        d->painter->setEvenColor(color);
+    Q_EMIT basicSignal();
+}
+
+void BasicSettingBox::restoreColor(const QString& which)
+{
+    const QColor before = which == QLatin1String("odd") ? d->oddBeforePicking : d->evenBeforePicking;
+    if (before.isValid())
+        setColor(before, which);
+}
+
+void BasicSettingBox::addColor(const QColor& color, const QString& which)
+{
+    if (which != QLatin1String("add") || !color.isValid())
+        return;
+    appendListColor(d->stripeList, color);
+    d->listChanged();
+}
+
+void BasicSettingBox::colorStripeAddDefaultColors(bool isFirst)
+{
+    d->colorStripeAddDefaultColors(isFirst);
+}
+
+void BasicSettingBox::getData(BasicChartData& data) const
+{
+    data.colorStripeColors = listColors(d->stripeList);
+    data.gradientColors = listColors(d->gradientList);
+    data.oddColor = toRgbaColor(swatchColor(d->oddButton));
+    data.evenColor = toRgbaColor(swatchColor(d->evenButton));
+    data.chessChecked = d->chessRadio->isChecked();
+    data.colorBarChecked = d->barRadio->isChecked();
+    data.gradientChecked = d->gradientSwitch->isChecked();
+}
+
+void BasicSettingBox::setData(const BasicChartData& data)
+{
+    d->chessRadio->setChecked(data.chessChecked);
+    d->barRadio->setChecked(data.colorBarChecked);
+    d->gradientSwitch->setChecked(data.gradientChecked);
+    d->showBarPreview(data.gradientChecked);
+    if (toQColor(data.oddColor) != swatchColor(d->oddButton))
+        setColor(toQColor(data.oddColor), QStringLiteral("odd"));
+    if (toQColor(data.evenColor) != swatchColor(d->evenButton))
+        setColor(toQColor(data.evenColor), QStringLiteral("even"));
+
+    const bool barDiffers = listColors(d->stripeList) != data.colorStripeColors;
+    setListColors(d->stripeList, data.colorStripeColors);
+    setListColors(d->gradientList, data.gradientColors);
+    if (d->painter) {
+        d->painter->setGradientList(d->gradientList);
+        d->painter->setColorStripeList(d->stripeList);
+    }
+    if (barDiffers)
+        Q_EMIT basicSignal();
+}
+
+void BasicSettingBox::collectInto(TestChartToolsData& record) const
+{
+    getData(record.basicData);
+}
+
+void BasicSettingBox::pushFrom(const TestChartToolsData& record)
+{
+    setData(record.basicData);
+}
+
+void BasicSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    setColor(color, role);
+}
+
+bool BasicSettingBox::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool ofStripeList = watched == d->stripeList || watched == d->stripeList->viewport();
+    const bool dragsIn = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
+                         event->type() == QEvent::Drop;
+    return (ofStripeList && dragsIn) || SettingPanel::eventFilter(watched, event);
+}
+
+} // namespace vardeno::testcharttools
+
+#include "basicsettingbox.moc"

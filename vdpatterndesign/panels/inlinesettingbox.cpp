@@ -1,0 +1,464 @@
+#include "inlinesettingbox.h"
+
+#include "controls/swatch.h"
+#include "controls/wholevalue.h"
+#include "paintinlinewidget.h"
+#include "panels/settingrows.h"
+#include "testcharttoolsdata.h"
+
+#include <combobox.h>
+
+#include <QFrame>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+constexpr QSize captionSize(80, 24);
+constexpr QSize entrySize(110, 24);
+constexpr QSize radioSize(95, 24);
+constexpr QSize comboSize(200, 24);
+constexpr int captionMargin = 2;
+constexpr int smallestRadius = 16;
+
+/// A colour button, and what it showed before a colour dialog opened for it.
+struct ColorRole
+{
+    QPushButton* button = nullptr;
+    SwitchedSwatch swatch;
+    QColor beforePicking;
+    void (PaintInLineWidget::*apply)(const QColor& color) = nullptr;
+};
+
+} // namespace
+
+class InLineSettingBox::Impl : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Impl(InLineSettingBox* box)
+        : owner(box)
+    {
+    }
+
+    void build(PanelControls& controls);
+    void buildCircleRows(SettingRows& rows);
+    void buildDiagonalRows(SettingRows& rows);
+    void buildSerialRows(SettingRows& rows);
+    void connectControls();
+
+    ColorRole* role(const QString& which);
+    void showColor(ColorRole& role, const QColor& color);
+    void showDiffering(ColorRole& role, const RgbaColor& color);
+    void switchGroup(ColorRole& role, bool on);
+    void checkLettersAtFirst(bool on);
+    template <typename Argument, typename Value>
+    void tell(void (PaintInLineWidget::*setter)(Argument), Value value);
+    void askForColor(ColorRole& role, void (InLineSettingBox::*signal)(QPushButton*));
+
+    QPushButton* circleSwitch = nullptr;
+    SpinEditBox* circleRadius = nullptr;
+    SpinEditBox* circleWidth = nullptr;
+    ColorRole circle;
+    QPushButton* diagonalSwitch = nullptr;
+    SpinEditBox* diagonalWidth = nullptr;
+    ColorRole diagonal;
+    QPushButton* serialSwitch = nullptr;
+    SpinEditBox* serialSize = nullptr;
+    ColorRole serial;
+    QRadioButton* letterMode = nullptr;
+    QRadioButton* numMode = nullptr;
+    QRadioButton* combinationMode = nullptr;
+    ComboBox* position = nullptr;
+    ComboBox* sort = nullptr;
+    QPointer<PaintInLineWidget> painter;
+    InLineSettingBox* owner;
+    int rowCount = 9;
+    int columnCount = 16;
+    bool firstTime = true; ///< until the labels have been switched on
+
+public Q_SLOTS:
+    void slotUpdateDiagonalLineWidth();
+    void slotUpdateCircleLineWidth();
+    void slotUpdateCircleRadius();
+    void slotUpdateCircleColor() { askForColor(circle, &InLineSettingBox::inlineCircleSignal); }
+    void slotUpdateDiagonalColor() { askForColor(diagonal, &InLineSettingBox::inlineDialongSignal); }
+    void slotUpdateCircleVisible(bool bChecked);
+    void slotUpdateDiagonalVisible(bool bChecked);
+    void slotSequeSize();
+    void slotSequeEnabel(bool bChecked);
+    void slotSequeColor() { askForColor(serial, &InLineSettingBox::inlineSequeSignal); }
+    void soltShowLetterModel() { tell(&PaintInLineWidget::setSerialMode, 0); }
+    void soltShowNumberModel() { tell(&PaintInLineWidget::setSerialMode, 1); }
+    void soltShowCombinationModel() { tell(&PaintInLineWidget::setSerialMode, 2); }
+    void slotSecletPosition(int index);
+    void slotSecletSort();
+    void slotSequeVisible();
+    void slotColorBtnSelected(QColor color, QPushButton* button);
+    void slotRadiusEditFinished(QString) {}
+    void slotCircleLineWidthEditFinished(QString) {}
+    void slotDialogLineWidthEditFinished(QString) {}
+    void slotSequeSizeEditFinished(QString) {}
+    void slotCircleColor(bool bChecked) { circle.swatch.keep(bChecked); }
+    void slotDialongColor(bool bChecked) { diagonal.swatch.keep(bChecked); }
+    void slotSequeShowColor(bool bChecked) { serial.swatch.keep(bChecked); }
+    void slotRadiusResetEditFinished();
+};
+
+void InLineSettingBox::Impl::build(PanelControls& controls)
+{
+    auto* column = new QVBoxLayout(owner);
+    column->setContentsMargins(10, 7, 10, 7);
+    column->setSpacing(6);
+    SettingRows rows(owner, controls, column, captionSize, captionMargin);
+    buildCircleRows(rows);
+    buildDiagonalRows(rows);
+    buildSerialRows(rows);
+    column->addStretch();
+
+    auto* line = new QFrame(owner);
+    line->setObjectName(QStringLiteral("inlineLine"));
+    line->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    line->setForegroundRole(QPalette::Midlight);
+    line->setFixedSize(360, 1);
+    column->addWidget(line, 0, Qt::AlignHCenter);
+
+    circle.apply = &PaintInLineWidget::setCircleColor;
+    diagonal.apply = &PaintInLineWidget::setDiagonalColor;
+    serial.apply = &PaintInLineWidget::setSerialColor;
+    for (ColorRole* each : {&circle, &diagonal, &serial})
+        each->swatch = SwitchedSwatch(each->button);
+    circle.swatch.paint(QColor(0x00, 0xff, 0x00));
+    diagonal.swatch.paint(QColor(0x00, 0xff, 0x00));
+    serial.swatch.paint(Qt::black);
+    for (ColorRole* each : {&circle, &diagonal, &serial})
+        each->beforePicking = each->swatch.color();
+}
+
+void InLineSettingBox::Impl::buildCircleRows(SettingRows& rows)
+{
+    const auto whenOn = [this] { return circleSwitch->isChecked(); };
+    rows.row(QStringLiteral("Show Circle")).toggle(circleSwitch, true);
+    rows.row(QStringLiteral("Circle"))
+        .spin(circleRadius, entrySize, range(1, 16384).value(540).suffix(QStringLiteral("px")), whenOn);
+    // This button carries no "btnProperty": its role follows from its name.
+    rows.row(QStringLiteral("BorderWidth"))
+        .spin(circleWidth, entrySize, range(1, 100).value(2).suffix(QStringLiteral("px")), whenOn)
+        .caption(QStringLiteral("Color"), captionSize, captionMargin)
+        .swatch(circle.button, QStringLiteral("circleColorButton"), QString(), whenOn);
+}
+
+void InLineSettingBox::Impl::buildDiagonalRows(SettingRows& rows)
+{
+    const auto whenOn = [this] { return diagonalSwitch->isChecked(); };
+    rows.row(QStringLiteral("Show Diagonal")).toggle(diagonalSwitch, true);
+    rows.row(QStringLiteral("BorderWidth"))
+        .spin(diagonalWidth, entrySize, range(1, 100).value(10).suffix(QStringLiteral("px")), whenOn)
+        .caption(QStringLiteral("Color"), captionSize, captionMargin)
+        .swatch(diagonal.button, QStringLiteral("diagonalColorButton"), QStringLiteral("diagonal"), whenOn);
+}
+
+void InLineSettingBox::Impl::buildSerialRows(SettingRows& rows)
+{
+    const auto whenOn = [this] { return serialSwitch->isChecked(); };
+    rows.row(QStringLiteral("Show Serial Number")).toggle(serialSwitch, true);
+    rows.row(QStringLiteral("Serial Size"))
+        .spin(serialSize, entrySize, range(1, 100).value(15).suffix(QStringLiteral("px")), whenOn)
+        .caption(QStringLiteral("Color"), captionSize, captionMargin)
+        .swatch(serial.button, QStringLiteral("sequeColorBtn"), QStringLiteral("seque"), whenOn);
+    rows.row(QStringLiteral("Show Model"))
+        .radio(letterMode, QStringLiteral("Letter Mode"), radioSize)
+        .radio(numMode, QStringLiteral("Num Mode"), radioSize)
+        .radio(combinationMode, QStringLiteral("Combination Mode"), radioSize);
+    letterMode->setChecked(true);
+    rows.row(QStringLiteral("Show Position"))
+        .combo(position,
+               {QStringLiteral("Center"), QStringLiteral("Left Up Right Down"),
+                QStringLiteral("Left Down Right Up")},
+               comboSize);
+    rows.row(QStringLiteral("Sort by"))
+        .combo(sort,
+               {QStringLiteral("From up to down increase Frome left to right increase"),
+                QStringLiteral("from up to down increase frome left to right decrease"),
+                QStringLiteral("from down to up increase frome left to right increase"),
+                QStringLiteral("from down to up increase frome left to right decrease")},
+               comboSize);
+}
+
+void InLineSettingBox::Impl::connectControls()
+{
+    connect(circleSwitch, &QPushButton::toggled, this, &Impl::slotCircleColor);
+    connect(circleSwitch, &QPushButton::toggled, this, &Impl::slotUpdateCircleVisible);
+    connect(diagonalSwitch, &QPushButton::toggled, this, &Impl::slotDialongColor);
+    connect(diagonalSwitch, &QPushButton::toggled, this, &Impl::slotUpdateDiagonalVisible);
+    connect(serialSwitch, &QPushButton::toggled, this, &Impl::slotSequeShowColor);
+    connect(serialSwitch, &QPushButton::toggled, this, &Impl::slotSequeEnabel);
+    connect(circleRadius, &SpinEditBox::valueChanged, this, &Impl::slotUpdateCircleRadius);
+    connect(circleRadius, &SpinEditBox::editFinished, this, &Impl::slotRadiusResetEditFinished);
+    connect(circleWidth, &SpinEditBox::valueChanged, this, &Impl::slotUpdateCircleLineWidth);
+    connect(diagonalWidth, &SpinEditBox::valueChanged, this, &Impl::slotUpdateDiagonalLineWidth);
+    connect(serialSize, &SpinEditBox::valueChanged, this, &Impl::slotSequeSize);
+    connect(circle.button, &QPushButton::clicked, this, &Impl::slotUpdateCircleColor);
+    connect(diagonal.button, &QPushButton::clicked, this, &Impl::slotUpdateDiagonalColor);
+    connect(serial.button, &QPushButton::clicked, this, &Impl::slotSequeColor);
+    connect(letterMode, &QRadioButton::toggled, this, &Impl::soltShowLetterModel);
+    connect(numMode, &QRadioButton::toggled, this, &Impl::soltShowNumberModel);
+    connect(combinationMode, &QRadioButton::toggled, this, &Impl::soltShowCombinationModel);
+    connect(position, QOverload<int>::of(&ComboBox::currentIndexChanged), this, &Impl::slotSecletPosition);
+    connect(sort, QOverload<int>::of(&ComboBox::currentIndexChanged), this, &Impl::slotSecletSort);
+}
+
+ColorRole* InLineSettingBox::Impl::role(const QString& which)
+{
+    if (which == QLatin1String("circle"))
+        return &circle;
+    if (which == QLatin1String("diagonal"))
+        return &diagonal;
+    return which == QLatin1String("seque") ? &serial : nullptr;
+}
+
+void InLineSettingBox::Impl::showColor(ColorRole& role, const QColor& color)
+{
+    role.swatch.paint(color);
+    tell(role.apply, color);
+}
+
+void InLineSettingBox::Impl::showDiffering(ColorRole& role, const RgbaColor& color)
+{
+    if (toQColor(color) != role.swatch.color())
+        showColor(role, toQColor(color));
+}
+
+/// What a group's switch does besides its layer's visibility.
+void InLineSettingBox::Impl::switchGroup(ColorRole& role, bool on)
+{
+    owner->controls().update();
+    role.swatch.show(on);
+    const bool hasRole = role.button->property("btnProperty").isValid();
+    if (on && hasRole && painter)
+        (painter->*role.apply)(role.swatch.color());
+    Q_EMIT owner->inlineSignal();
+}
+
+void InLineSettingBox::Impl::checkLettersAtFirst(bool on)
+{
+    if (!on)
+        return;
+    if (firstTime)
+        letterMode->setChecked(true);
+    firstTime = false;
+}
+
+/// Hands the painter a value and tells of the change.
+template <typename Argument, typename Value>
+void InLineSettingBox::Impl::tell(void (PaintInLineWidget::*setter)(Argument), Value value)
+{
+    if (painter)
+        (painter->*setter)(static_cast<std::decay_t<Argument>>(value));
+    Q_EMIT owner->inlineSignal();
+}
+
+void InLineSettingBox::Impl::askForColor(ColorRole& role, void (InLineSettingBox::*signal)(QPushButton*))
+{
+    role.beforePicking = swatchColor(role.button);
+    Q_EMIT(owner->*signal)(role.button);
+}
+
+void InLineSettingBox::Impl::slotUpdateDiagonalLineWidth()
+{
+    tell(&PaintInLineWidget::setDiagonalLineWidth, wholeValue(diagonalWidth));
+}
+
+void InLineSettingBox::Impl::slotUpdateCircleLineWidth()
+{
+    tell(&PaintInLineWidget::setCircleLineWidth, wholeValue(circleWidth));
+}
+
+void InLineSettingBox::Impl::slotUpdateCircleRadius()
+{
+    tell(&PaintInLineWidget::setCircleRadius, wholeValue(circleRadius));
+}
+
+void InLineSettingBox::Impl::slotUpdateCircleVisible(bool bChecked)
+{
+    if (painter)
+        painter->setCircleVisible(bChecked);
+    switchGroup(circle, bChecked);
+}
+
+void InLineSettingBox::Impl::slotUpdateDiagonalVisible(bool bChecked)
+{
+    if (painter)
+        painter->setDiagonalVisible(bChecked);
+    switchGroup(diagonal, bChecked);
+}
+
+void InLineSettingBox::Impl::slotSequeSize()
+{
+    tell(&PaintInLineWidget::setSerialSize, wholeValue(serialSize));
+}
+
+void InLineSettingBox::Impl::slotSequeEnabel(bool bChecked)
+{
+    if (painter)
+        painter->setSerialVisible(bChecked);
+    checkLettersAtFirst(bChecked);
+    switchGroup(serial, bChecked);
+}
+
+void InLineSettingBox::Impl::slotSecletPosition(int)
+{
+    const QVariant data = position->currentData();
+    if (painter && (data == 0 || data == 1 || data == 2))
+        painter->setSerialPosition(data.toUInt());
+    Q_EMIT owner->inlineSignal();
+}
+
+void InLineSettingBox::Impl::slotSecletSort()
+{
+    const QVariant data = sort->currentData();
+    if (painter && (data == 0 || data == 2 || data == 3 || data == 1))
+        painter->setSerialSort(data.toUInt());
+    Q_EMIT owner->inlineSignal();
+}
+
+void InLineSettingBox::Impl::slotSequeVisible()
+{
+    checkLettersAtFirst(serialSwitch->isChecked());
+    tell(&PaintInLineWidget::setSerialVisible, serialSwitch->isChecked());
+}
+
+void InLineSettingBox::Impl::slotColorBtnSelected(QColor color, QPushButton* button)
+{
+    paintFullSwatch(button, color);
+}
+
+void InLineSettingBox::Impl::slotRadiusResetEditFinished()
+{
+    if (circleRadius->value() < smallestRadius)
+        circleRadius->setValue(smallestRadius);
+}
+
+InLineSettingBox::InLineSettingBox(QWidget* parent)
+    : SettingPanel(parent)
+    , d(new Impl(this))
+{
+    setObjectName(QStringLiteral("inlinesettingbox"));
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(
+        QStringLiteral("QWidget#inlinesettingbox{border-left : 1px solid #535465; border-right : 1px solid "
+                       "#535465;}"));
+    setFixedWidth(410);
+    connect(this, &InLineSettingBox::inlineSignal, this, &SettingPanel::changed);
+    connect(this, &InLineSettingBox::inlineCircleSignal, this, &SettingPanel::colorRequested);
+    connect(this, &InLineSettingBox::inlineDialongSignal, this, &SettingPanel::colorRequested);
+    connect(this, &InLineSettingBox::inlineSequeSignal, this, &SettingPanel::colorRequested);
+    d->build(controls());
+    d->connectControls();
+    controls().captions.add(QStringLiteral("Widget"), [this](const QString& text) { setWindowTitle(text); });
+    retranslate();
+}
+
+InLineSettingBox::~InLineSettingBox() = default;
+
+void InLineSettingBox::setPaintWidget(PaintInLineWidget* painter)
+{
+    if (painter)
+        d->painter = painter;
+}
+
+void InLineSettingBox::initPaintWidget()
+{
+    if (!d->painter)
+        return;
+    d->soltShowLetterModel();
+    d->slotSequeVisible();
+}
+
+void InLineSettingBox::setColor(const QColor& color, const QString& which)
+{
+    if (ColorRole* role = d->role(which))
+        d->showColor(*role, color);
+}
+
+void InLineSettingBox::restoreColor(const QString& which)
+{
+    ColorRole* role = d->role(which);
+    if (role && role->beforePicking.isValid())
+        d->showColor(*role, role->beforePicking);
+}
+
+void InLineSettingBox::setRows(int rows)
+{
+    d->rowCount = rows;
+}
+
+void InLineSettingBox::setColumns(int columns)
+{
+    d->columnCount = columns;
+}
+
+void InLineSettingBox::getData(InLineChartData& data) const
+{
+    data.showCircle = d->circleSwitch->isChecked();
+    data.circleSize = wholeValue(d->circleRadius);
+    data.circleWidth = wholeValue(d->circleWidth);
+    data.circleColor = toRgbaColor(d->circle.swatch.color());
+    data.showDiagonal = d->diagonalSwitch->isChecked();
+    data.diagonalWidth = wholeValue(d->diagonalWidth);
+    data.diagonalColor = toRgbaColor(d->diagonal.swatch.color());
+    data.showSerialNumber = d->serialSwitch->isChecked();
+    data.serialSize = wholeValue(d->serialSize);
+    data.serialColor = toRgbaColor(d->serial.swatch.color());
+    data.letterMode = d->letterMode->isChecked();
+    data.numMode = d->numMode->isChecked();
+    data.combinationMode = d->combinationMode->isChecked();
+    data.serialPosition = d->position->currentIndex();
+    data.serialSort = d->sort->currentIndex();
+}
+
+void InLineSettingBox::setData(const InLineChartData& data)
+{
+    // In this order, each only where it differs: the painter follows through the controls' own signals.
+    d->circleSwitch->setChecked(data.showCircle);
+    d->circleRadius->setValue(data.circleSize);
+    d->circleWidth->setValue(data.circleWidth);
+    d->showDiffering(d->circle, data.circleColor);
+    d->diagonalSwitch->setChecked(data.showDiagonal);
+    d->diagonalWidth->setValue(data.diagonalWidth);
+    d->showDiffering(d->diagonal, data.diagonalColor);
+    d->serialSwitch->setChecked(data.showSerialNumber);
+    d->serialSize->setValue(data.serialSize);
+    d->showDiffering(d->serial, data.serialColor);
+    d->letterMode->setChecked(data.letterMode);
+    d->numMode->setChecked(data.numMode);
+    d->combinationMode->setChecked(data.combinationMode);
+    d->position->setCurrentIndex(std::clamp(data.serialPosition, 0, d->position->count() - 1));
+    d->sort->setCurrentIndex(std::clamp(data.serialSort, 0, d->sort->count() - 1));
+}
+
+void InLineSettingBox::collectInto(TestChartToolsData& record) const
+{
+    getData(record.inLineData);
+}
+
+void InLineSettingBox::pushFrom(const TestChartToolsData& record)
+{
+    setData(record.inLineData);
+}
+
+void InLineSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    setColor(color, role);
+}
+
+} // namespace vardeno::testcharttools
+
+#include "inlinesettingbox.moc"

@@ -1,0 +1,355 @@
+#include "selfsettingbox.h"
+
+#include "controls/swatch.h"
+#include "controls/textentry.h"
+#include "controls/wholevalue.h"
+#include "paintselfwidget.h"
+#include "panels/settingrows.h"
+#include "support/translation.h"
+#include "testcharttoolsdata.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+constexpr QSize captionSize(80, 24);
+constexpr QSize inputSize(266, 24);
+constexpr QSize entrySize(110, 24);
+constexpr int longestText = 50;
+
+} // namespace
+
+class SelfSettingBox::Impl : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Impl(SelfSettingBox* box)
+        : owner(box)
+    {
+    }
+
+    void buildRows(PanelControls& controls);
+    void connectControls();
+    SwitchedSwatch* swatchOf(const QPushButton* button);
+    QColor colorOf(const QPushButton* button);
+    void pushColor(const QColor& color, QPushButton* button);
+    void tellColor(const QColor& color, const QPushButton* button);
+    void switchGroup(QPushButton* button, bool on);
+
+    QCheckBox* textSwitch = nullptr;
+    QLineEdit* text = nullptr;
+    SpinEditBox* textSize = nullptr;
+    QPushButton* textColor = nullptr;
+    QCheckBox* resolutionSwitch = nullptr;
+    SpinEditBox* resolutionSize = nullptr;
+    QPushButton* resolutionColor = nullptr;
+    QPointer<PaintSelfWidget> painter;
+    SelfSettingBox* owner;
+    int rows = 9;
+    int columns = 16;
+    QSize resolution = QSize(1920, 1080);
+    QColor textBeforePicking;
+    QColor resolutionBeforePicking;
+    SwitchedSwatch textSwatch;
+    SwitchedSwatch resolutionSwatch;
+
+public Q_SLOTS:
+    void slotResolutionVisible(bool bChecked);
+    void slotChangeResolutionColor();
+    void slotChangeResolutionSize();
+    void slotUserDefineVisible(bool bChecked);
+    void soltChangeSelfText();
+    void soltChangeSelfTextSize(int value);
+    void slotChangeSelfTextColor();
+    void slotTextInputEditFinished(QString strOldName);
+    void slotTextSizeEditFinished(QString strOldName) { textSize->setValue(strOldName.toInt()); }
+    void slotResolutionEditFinished(QString strOldName) { resolutionSize->setValue(strOldName.toInt()); }
+    void slotText(bool bChecked) { textSwatch.keep(bChecked); }
+    void slotResolution(bool bChecked) { resolutionSwatch.keep(bChecked); }
+    void slotBoxNum() {}
+};
+
+void SelfSettingBox::Impl::buildRows(PanelControls& controls)
+{
+    auto* inner = new QWidget(owner);
+    inner->setObjectName(QStringLiteral("selfsettingbox"));
+    inner->setStyleSheet(
+        QStringLiteral("QWidget#selfsettingbox{border-left : 1px solid #535465; border-right : 1px "
+                       "solid #535465;border-bottom : 1px solid #535465;}"));
+    inner->setFixedWidth(410);
+    auto* column = new QVBoxLayout(inner);
+    column->setContentsMargins(10, 7, 10, 7);
+    column->setSpacing(5);
+
+    const auto whenTextOn = [this] { return textSwitch->isChecked(); };
+    const auto whenResolutionOn = [this] { return resolutionSwitch->isChecked(); };
+    const SpinRange sizes = range(1, 200).value(50).suffix(QStringLiteral("px"));
+    SettingRows rowsOf(inner, controls, column, captionSize);
+    rowsOf.row(QStringLiteral("Display custom text")).toggle(textSwitch, true);
+    rowsOf.row(QStringLiteral("Text Input"))
+        .text(text, QString::fromStdString(SelfChartData().selfText), inputSize, whenTextOn);
+    text->setObjectName(QStringLiteral("selfInputLineEdit"));
+    text->setMaxLength(longestText);
+    rowsOf.row(QStringLiteral("Text Size"))
+        .spin(textSize, entrySize, sizes, whenTextOn)
+        .caption(QStringLiteral("Color"), captionSize)
+        .swatch(textColor, QStringLiteral("selfTextColorButton"), QStringLiteral("selfText"), whenTextOn);
+    rowsOf.row(QStringLiteral("Show Resolution")).toggle(resolutionSwitch, true);
+    rowsOf.row(QStringLiteral("Show Size"))
+        .spin(resolutionSize, entrySize, sizes, whenResolutionOn)
+        .caption(QStringLiteral("Color"), captionSize)
+        .swatch(resolutionColor, QStringLiteral("resolutionColorButton"), QStringLiteral("resolution"),
+                whenResolutionOn);
+    textSwatch = SwitchedSwatch(textColor);
+    resolutionSwatch = SwitchedSwatch(resolutionColor);
+    textSwatch.paint(Qt::black);
+    resolutionSwatch.paint(Qt::black);
+
+    auto* outer = new QVBoxLayout(owner);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(inner);
+}
+
+void SelfSettingBox::Impl::connectControls()
+{
+    connect(textSwitch, &QCheckBox::toggled, this, &Impl::slotText);
+    connect(textSwitch, &QCheckBox::toggled, this, &Impl::slotUserDefineVisible);
+    connect(text, &QLineEdit::textChanged, this, &Impl::soltChangeSelfText);
+    connect(new TextEntryWatcher(text), &TextEntryWatcher::editFinished, this,
+            &Impl::slotTextInputEditFinished);
+    connect(textSize, &SpinEditBox::valueChanged, this, &Impl::soltChangeSelfTextSize);
+    connect(textColor, &QPushButton::clicked, this, &Impl::slotChangeSelfTextColor);
+    connect(resolutionSwitch, &QCheckBox::toggled, this, &Impl::slotResolution);
+    connect(resolutionSwitch, &QCheckBox::toggled, this, &Impl::slotResolutionVisible);
+    connect(resolutionSize, &SpinEditBox::valueChanged, this, &Impl::slotChangeResolutionSize);
+    connect(resolutionColor, &QPushButton::clicked, this, &Impl::slotChangeResolutionColor);
+}
+
+/// Null for a button that is none of the panel's own.
+SwitchedSwatch* SelfSettingBox::Impl::swatchOf(const QPushButton* button)
+{
+    if (button == textColor)
+        return &textSwatch;
+    return button == resolutionColor ? &resolutionSwatch : nullptr;
+}
+
+QColor SelfSettingBox::Impl::colorOf(const QPushButton* button)
+{
+    const SwitchedSwatch* swatch = swatchOf(button);
+    return swatch ? swatch->color() : swatchColor(button);
+}
+
+/// Tells the painter in any case, and the shell of a change.
+void SelfSettingBox::Impl::pushColor(const QColor& color, QPushButton* button)
+{
+    const bool differs = color != colorOf(button);
+    if (SwitchedSwatch* swatch = swatchOf(button))
+        swatch->paint(color);
+    else
+        paintSwatch(button, color);
+    tellColor(color, button);
+    if (differs)
+        Q_EMIT owner->selfSignal();
+}
+
+void SelfSettingBox::Impl::tellColor(const QColor& color, const QPushButton* button)
+{
+    const QString role = button->property("btnProperty").toString();
+    if (!painter)
+        return;
+    if (role == QLatin1String("selfText"))
+        painter->setSelfTextColor(color);
+    else if (role == QLatin1String("resolution"))
+        painter->setResolutionColor(color);
+    else if (role == QLatin1String("boxnum"))
+        painter->setBoxNumColor(color);
+}
+
+/// What a group's switch does besides its line's visibility.
+void SelfSettingBox::Impl::switchGroup(QPushButton* button, bool on)
+{
+    owner->controls().update();
+    swatchOf(button)->show(on);
+    Q_EMIT owner->selfSignal();
+}
+
+void SelfSettingBox::Impl::slotResolutionVisible(bool bChecked)
+{
+    if (painter)
+        painter->setResolutionVisible(bChecked);
+    switchGroup(resolutionColor, bChecked);
+}
+
+void SelfSettingBox::Impl::slotChangeResolutionColor()
+{
+    resolutionBeforePicking = swatchColor(resolutionColor);
+    Q_EMIT owner->resolutionSignal(resolutionColor);
+}
+
+void SelfSettingBox::Impl::slotChangeResolutionSize()
+{
+    if (painter)
+        painter->setResolutionSize(ushort(wholeValue(resolutionSize)));
+    Q_EMIT owner->selfSignal();
+}
+
+void SelfSettingBox::Impl::slotUserDefineVisible(bool bChecked)
+{
+    if (painter)
+        painter->setSelfTextVisible(bChecked);
+    switchGroup(textColor, bChecked);
+}
+
+void SelfSettingBox::Impl::soltChangeSelfText()
+{
+    if (wholeValue(textSize) <= 0)
+        return;
+    if (painter)
+        painter->setSelfText(text->text());
+    Q_EMIT owner->selfSignal();
+}
+
+void SelfSettingBox::Impl::soltChangeSelfTextSize(int)
+{
+    if (painter)
+        painter->setSelfTextSize(ushort(wholeValue(textSize)));
+    Q_EMIT owner->selfSignal();
+}
+
+void SelfSettingBox::Impl::slotChangeSelfTextColor()
+{
+    textBeforePicking = swatchColor(textColor);
+    Q_EMIT owner->selfTextSignal(textColor);
+}
+
+void SelfSettingBox::Impl::slotTextInputEditFinished(QString strOldName)
+{
+    if (text->text().isEmpty())
+        text->setText(strOldName);
+}
+
+SelfSettingBox::SelfSettingBox(QWidget* parent)
+    : SettingPanel(parent)
+    , d(new Impl(this))
+{
+    setFixedWidth(410);
+    connect(this, &SelfSettingBox::selfSignal, this, &SettingPanel::changed);
+    connect(this, &SelfSettingBox::selfTextSignal, this, &SettingPanel::colorRequested);
+    connect(this, &SelfSettingBox::resolutionSignal, this, &SettingPanel::colorRequested);
+    connect(this, &SelfSettingBox::boxNumSignal, this, [this] { Q_EMIT colorRequested(nullptr); });
+    d->buildRows(controls());
+    d->connectControls();
+    SettingPanel::retranslate();
+}
+
+SelfSettingBox::~SelfSettingBox() = default;
+
+void SelfSettingBox::setPaintSelfWidget(PaintSelfWidget* painter)
+{
+    if (!painter)
+        return;
+    d->painter = painter;
+    if (isTranslated())
+        painter->retranslate();
+}
+
+SelfChartData SelfSettingBox::getData() const
+{
+    SelfChartData data;
+    data.showSelfText = d->textSwitch->isChecked();
+    data.selfText = d->text->text().toStdString();
+    data.selfTextSize = wholeValue(d->textSize);
+    data.selfTextColor = toRgbaColor(d->textSwatch.color());
+    data.showResolution = d->resolutionSwitch->isChecked();
+    data.resolutionTextSize = wholeValue(d->resolutionSize);
+    data.resolutionTextColor = toRgbaColor(d->resolutionSwatch.color());
+    return data;
+}
+
+void SelfSettingBox::setData(const SelfChartData& data)
+{
+    d->textSwitch->setChecked(data.showSelfText);
+    d->text->setText(QString::fromStdString(data.selfText));
+    d->textSize->setValue(data.selfTextSize);
+    if (d->painter)
+        d->painter->setSelfTextSize(ushort(wholeValue(d->textSize)));
+    d->pushColor(toQColor(data.selfTextColor), d->textColor);
+    d->resolutionSwitch->setChecked(data.showResolution);
+    d->resolutionSize->setValue(data.resolutionTextSize);
+    if (d->painter)
+        d->painter->setResolutionSize(ushort(wholeValue(d->resolutionSize)));
+    d->pushColor(toQColor(data.resolutionTextColor), d->resolutionColor);
+}
+
+void SelfSettingBox::setButtonColor(const QColor& color, QPushButton* button)
+{
+    if (button && color.isValid() && color != d->colorOf(button))
+        d->pushColor(color, button);
+}
+
+void SelfSettingBox::restoreButtonColor(const QString& key)
+{
+    if (key == QLatin1String("selfText"))
+        setButtonColor(d->textBeforePicking, d->textColor);
+    else if (key == QLatin1String("resolution"))
+        setButtonColor(d->resolutionBeforePicking, d->resolutionColor);
+}
+
+void SelfSettingBox::setResolution(int width, int height)
+{
+    d->resolution = QSize(width, height);
+}
+
+void SelfSettingBox::setRows(int rows)
+{
+    d->rows = rows;
+}
+
+void SelfSettingBox::setColumns(int columns)
+{
+    d->columns = columns;
+}
+
+void SelfSettingBox::retranslate()
+{
+    SettingPanel::retranslate();
+    if (d->painter)
+        d->painter->retranslate();
+}
+
+void SelfSettingBox::collectInto(TestChartToolsData& record) const
+{
+    record.selfData = getData();
+}
+
+void SelfSettingBox::pushFrom(const TestChartToolsData& record)
+{
+    setData(record.selfData);
+}
+
+void SelfSettingBox::setRoleColor(const QString& role, const QColor& color)
+{
+    if (role == QLatin1String("selfText"))
+        setButtonColor(color, d->textColor);
+    else if (role == QLatin1String("resolution"))
+        setButtonColor(color, d->resolutionColor);
+}
+
+void SelfSettingBox::focusAfterLock(bool locked)
+{
+    for (QWidget* entry : std::initializer_list<QWidget*>{d->text, d->textSize, d->resolutionSize})
+        entry->clearFocus();
+    if (locked)
+        SettingPanel::focusAfterLock(locked);
+}
+
+} // namespace vardeno::testcharttools
+
+#include "selfsettingbox.moc"

@@ -1,0 +1,235 @@
+#include "panels/settingrows.h"
+
+#include <combobox.h>
+#include <spineditbox.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+constexpr QSize sliderSize(146, 24);
+constexpr QSize iconButtonSize(20, 20);
+constexpr QSize swatchSize(16, 16);
+constexpr QSize switchSize(28, 14);
+constexpr int rowSpacing = 8;
+
+QIcon switchIcon()
+{
+    QIcon icon;
+    icon.addFile(QStringLiteral(":/resources/images/Switch_on.png"), QSize(), QIcon::Normal, QIcon::On);
+    icon.addFile(QStringLiteral(":/resources/images/Switch_off.png"), QSize(), QIcon::Normal, QIcon::Off);
+    return icon;
+}
+
+/// What a button's caption leaves free: an upload button has a picture beside it.
+int captionMargin(const QPushButton* button)
+{
+    return button->property("btnProperty") == QLatin1String("uplogo") ? 68 : 2;
+}
+
+/// A current item too wide for its box, which the box shows elided, is told whole.
+void tellWideItem(ComboBox* box)
+{
+    const QString text = box->currentText();
+    const bool fits =
+        box->fontMetrics().boundingRect(text).width() <= box->width() - SettingRow::indicatorMargin;
+    box->setToolTip(fits ? QString() : text);
+}
+
+} // namespace
+
+SettingRow::SettingRow(QWidget* panel, PanelControls& controls, QHBoxLayout* layout)
+    : m_panel(panel)
+    , m_controls(&controls)
+    , m_layout(layout)
+{
+}
+
+SettingRow& SettingRow::caption(const QString& source, const QSize& size, int margin)
+{
+    m_caption = new QLabel(m_panel);
+    m_caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    append(m_caption, size);
+    if (!source.isEmpty())
+        m_controls->captions.add(m_caption, source, margin);
+    return *this;
+}
+
+SettingRow& SettingRow::spin(SpinEditBox*& box, const QSize& size, const SpinRange& range, Allowed allowed)
+{
+    box = new SpinEditBox(m_panel);
+    box->setRange(range.minimum, range.maximum);
+    box->setSuffix(range.unit);
+    box->setValue(range.initial);
+    appendLocked(box, size, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::slider(QSlider*& slider, int maximum, Allowed allowed)
+{
+    slider = new QSlider(Qt::Horizontal, m_panel);
+    slider->setRange(0, maximum);
+    slider->setValue(100);
+    appendLocked(slider, sliderSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::text(QLineEdit*& entry, const QString& initial, const QSize& size, Allowed allowed)
+{
+    entry = new QLineEdit(initial, m_panel);
+    appendLocked(entry, size, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::iconButton(QPushButton*& button, const QString& picture, const QString& hint,
+                                   const QString& objectName, Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setObjectName(objectName);
+    button->setFlat(true);
+    button->setIcon(QIcon(picture));
+    appendLocked(button, iconButtonSize, std::move(allowed));
+    QPushButton* const shown = button;
+    m_controls->captions.add(hint, [shown](const QString& text) {
+        shown->setToolTip(text);
+        shown->setAccessibleName(text);
+    });
+    return *this;
+}
+
+SettingRow& SettingRow::swatch(QPushButton*& button, const QString& objectName, const QString& role,
+                               Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setObjectName(objectName);
+    if (!role.isEmpty())
+        button->setProperty("btnProperty", role);
+    button->setFlat(true);
+    appendLocked(button, swatchSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::radio(QRadioButton*& radio, const QString& source, const QSize& size, Allowed allowed,
+                              int margin)
+{
+    radio = new QRadioButton(m_panel);
+    appendLocked(radio, size, std::move(allowed));
+    m_controls->captions.add(radio, source, margin);
+    return *this;
+}
+
+SettingRow& SettingRow::combo(ComboBox*& box, const QStringList& sources, const QSize& size, Allowed allowed)
+{
+    box = new ComboBox(m_panel);
+    appendLocked(box, size, std::move(allowed));
+    ComboBox* const shown = box;
+    for (int row = 0; row < sources.size(); ++row) {
+        box->addItem(sources.at(row), row);
+        m_controls->captions.add(sources.at(row), [shown, row](const QString& text) {
+            shown->setItemText(row, text);
+            tellWideItem(shown);
+        });
+    }
+    QObject::connect(box, QOverload<int>::of(&ComboBox::currentIndexChanged), box,
+                     [shown] { tellWideItem(shown); });
+    return *this;
+}
+
+SettingRow& SettingRow::button(QPushButton*& button, const QString& source, const QSize& size,
+                               const QString& objectName, Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setObjectName(objectName);
+    appendLocked(button, size, std::move(allowed));
+    QPushButton* const shown = button;
+    m_controls->captions.add(source,
+                             [shown](const QString& text) { showElided(shown, text, captionMargin(shown)); });
+    return *this;
+}
+
+SettingRow& SettingRow::toggle(QCheckBox*& box, bool checked)
+{
+    box = new QCheckBox(m_panel);
+    box->setProperty("switchStyle", QStringLiteral("general"));
+    box->setChecked(checked);
+    appendLocked(box, switchSize, {});
+    return *this;
+}
+
+SettingRow& SettingRow::toggle(QPushButton*& button, bool checked, Allowed allowed)
+{
+    button = new QPushButton(m_panel);
+    button->setProperty("switchStyle", QStringLiteral("general"));
+    button->setCheckable(true);
+    button->setChecked(checked);
+    button->setFlat(true);
+    button->setIcon(switchIcon());
+    button->setIconSize(switchSize);
+    appendLocked(button, switchSize, std::move(allowed));
+    return *this;
+}
+
+SettingRow& SettingRow::widget(QWidget* widget)
+{
+    m_layout->insertWidget(m_layout->count() - 1, widget);
+    return *this;
+}
+
+SettingRow& SettingRow::gap(int pixels)
+{
+    m_layout->insertSpacing(m_layout->count() - 1, pixels);
+    return *this;
+}
+
+SettingRow& SettingRow::spacing(int pixels)
+{
+    m_layout->setSpacing(pixels);
+    return *this;
+}
+
+void SettingRow::append(QWidget* control, const QSize& size)
+{
+    control->setFixedSize(size);
+    widget(control);
+}
+
+void SettingRow::appendLocked(QWidget* control, const QSize& size, Allowed allowed)
+{
+    append(control, size);
+    m_controls->add(control, std::move(allowed));
+    if (m_caption)
+        m_caption->setBuddy(control);
+    m_caption = nullptr;
+}
+
+SettingRows::SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column,
+                         const QSize& captionSize, int captionMargin)
+    : m_panel(panel)
+    , m_controls(&controls)
+    , m_column(column)
+    , m_captionSize(captionSize)
+    , m_captionMargin(captionMargin)
+{
+}
+
+SettingRow SettingRows::row(const QString& captionSource)
+{
+    auto* layout = new QHBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(rowSpacing);
+    layout->addStretch();
+    m_column->addLayout(layout);
+    SettingRow row(m_panel, *m_controls, layout);
+    row.caption(captionSource, m_captionSize, m_captionMargin);
+    return row;
+}
+
+} // namespace vardeno::testcharttools

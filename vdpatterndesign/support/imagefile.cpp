@@ -1,0 +1,63 @@
+#include "support/imagefile.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QSaveFile>
+
+#include <cstdlib>
+
+namespace vardeno::testcharttools {
+
+/// Encodes in memory first: saving straight to a file reports success when the disk fills up in its last
+/// kilobytes, and so does a `commit` alone.
+bool writeImageWhole(const QImage& image, const QString& path, const char* format, int quality)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, quality))
+        return false;
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+           file.commit();
+}
+
+PictureFile examinePicture(const QString& path)
+{
+    if (!QFileInfo(path).isFile()) // a pipe keeps its reader waiting
+        return PictureFile::Unreadable;
+    const QSize size = QImageReader(path).size();
+    const int height = std::abs(size.height()); // below 0 where a BMP file has its rows from the top
+    if (size == QSize() || size.width() <= 0 || height == 0)
+        return PictureFile::Unreadable;
+    const bool small = size.width() <= largestPicture && height <= largestPicture;
+    return small ? PictureFile::Readable : PictureFile::TooLarge;
+}
+
+const QImage& CachedPicture::load(const QString& path)
+{
+    const State state = stateOf(path);
+    if (state == m_state)
+        return m_image;
+    m_state = state;
+    m_image = examinePicture(path) == PictureFile::Readable ? QImage(path) : QImage();
+    return m_image;
+}
+
+bool CachedPicture::isOutdated(const QString& path) const
+{
+    return !(stateOf(path) == m_state);
+}
+
+bool CachedPicture::State::operator==(const State& other) const
+{
+    return path == other.path && size == other.size && modified == other.modified;
+}
+
+CachedPicture::State CachedPicture::stateOf(const QString& path)
+{
+    const QFileInfo file(path);
+    return {path, file.exists() ? file.size() : -1, file.lastModified()};
+}
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "vdchartcore_export.h"
+
+#include <QDateTime>
+#include <QImage>
+#include <QString>
+
+namespace vardeno::testcharttools {
+
+/// Writes `image` whole or not at all; a write that fails leaves what was there before. `format` and
+/// `quality` as for `QImage::save`.
+VDCHARTCORE_EXPORT bool writeImageWhole(const QImage& image, const QString& path, const char* format,
+                                        int quality = -1);
+
+/// The longest side of a picture that is read, in pixels.
+constexpr int largestPicture = 3840;
+
+/// Whether the file is a picture of at most `largestPicture` in each direction, from its header alone.
+enum class PictureFile
+{
+    Readable,
+    TooLarge,
+    Unreadable
+};
+VDCHARTCORE_EXPORT PictureFile examinePicture(const QString& path);
+
+/// A picture file that is decoded again only when the file has changed.
+class VDCHARTCORE_EXPORT CachedPicture
+{
+public:
+    /// The picture in `path` as it is now; null for a file that is missing, unreadable or too large, which is
+    /// not decoded.
+    const QImage& load(const QString& path);
+
+    /// Whether `load` would read the file anew.
+    bool isOutdated(const QString& path) const;
+
+private:
+    struct State
+    {
+        QString path;
+        qint64 size = -1;
+        QDateTime modified;
+        bool operator==(const State& other) const;
+    };
+    static State stateOf(const QString& path);
+
+    State m_state;
+    QImage m_image;
+};
+
+} // namespace vardeno::testcharttools
