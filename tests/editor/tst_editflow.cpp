@@ -27,6 +27,8 @@ QStringList enabledButtons(const User& user)
     return names;
 }
 
+const QStringList everyButton = {"cancel", "add confirm", "replace confirm", "replace apply", "save"};
+
 /// Remembers what had been logged about edits when a button was disabled.
 class DisabledWatch : public QObject
 {
@@ -191,6 +193,86 @@ private Q_SLOTS:
         open(false);
         m_tool->updateShowSaveBtnStatus(!enabled);
         m_tool->updateShowSaveBtnStatus(enabled);
+        QCOMPARE(enabledButtons(*m_user), buttons);
+    }
+
+    void hostBringsTheButtonsBackAfterAFailure()
+    {
+        open(false);
+        m_tool->setSavePath(oldChart(), QString());
+        m_user->click(m_user->replaceConfirm());
+        QVERIFY(m_host->hears(1));
+        QCOMPARE(enabledButtons(*m_user), QStringList({"cancel", "add confirm", "save"}));
+        m_tool->updateShowSaveBtnStatus(true);
+        QCOMPARE(enabledButtons(*m_user), everyButton);
+        m_tool->setSavePath(root(), QString());
+        m_user->click(m_user->replaceConfirm());
+        QVERIFY(m_host->hears(3));
+        QCOMPARE(m_host->last().type, int(ReplaceConfirm));
+    }
+
+    void endOfARepaint_data()
+    {
+        QTest::addColumn<bool>("followsState");
+        QTest::addColumn<bool>("unsaved");
+        QTest::addColumn<QStringList>("buttons");
+        const QStringList edits = {"cancel", "add confirm", "replace confirm", "replace apply"};
+        QTest::newRow("nothing to save") << false << false << edits;
+        QTest::newRow("changed") << false << true << everyButton;
+        QTest::newRow("nothing to save, following the state")
+            << true << false << QStringList({"cancel", "replace confirm"});
+        QTest::newRow("changed, following the state") << true << true << everyButton;
+    }
+
+    void endOfARepaint()
+    {
+        QFETCH(bool, followsState);
+        QFETCH(bool, unsaved);
+        QFETCH(QStringList, buttons);
+        QVERIFY(!m_tool->saveButtonsFollowState());
+        m_tool->setProperty("saveButtonsFollowState", followsState);
+        QCOMPARE(m_tool->saveButtonsFollowState(), followsState);
+        open(false);
+        m_tool->updateShowSaveBtnStatus(unsaved);
+        m_tool->slotGetHeightWidth();
+        QTRY_VERIFY(!m_user->cancel()->isEnabled()); // locked
+        QVERIFY(!m_user->replaceConfirm()->isEnabled());
+        QVERIFY(!m_user->replaceApply()->isEnabled());
+        QVERIFY(m_user->settle());
+        QCOMPARE(enabledButtons(*m_user), buttons);
+    }
+
+    void buttonsThatFollowTheStateComeBackAfterAFailure()
+    {
+        m_tool->setSaveButtonsFollowState(true);
+        open(false);
+        m_tool->setSavePath(oldChart(), QString());
+        m_user->click(m_user->replaceApply());
+        QCOMPARE(enabledButtons(*m_user), QStringList({"cancel", "save"}));
+        QVERIFY(m_host->hears(1));
+        QCOMPARE(m_host->heard(), QStringList("sigFail"));
+        QCOMPARE(enabledButtons(*m_user), everyButton);
+    }
+
+    void buttonsThatFollowTheStateTellOfALaterChange_data()
+    {
+        QTest::addColumn<bool>("changed");
+        QTest::addColumn<QStringList>("buttons");
+        QTest::newRow("nothing changed") << false << QStringList({"cancel", "replace confirm"});
+        QTest::newRow("changed while it was written") << true << everyButton;
+    }
+
+    void buttonsThatFollowTheStateTellOfALaterChange()
+    {
+        QFETCH(bool, changed);
+        QFETCH(QStringList, buttons);
+        m_tool->setSaveButtonsFollowState(true);
+        open(false);
+        m_tool->slotReplaceApplyButtonClicked();
+        if (changed)
+            change(*m_user);
+        QVERIFY(m_host->hears(2));
+        QVERIFY(m_user->settle());
         QCOMPARE(enabledButtons(*m_user), buttons);
     }
 
@@ -455,6 +537,7 @@ private Q_SLOTS:
         const QString saveRoot = m_folder->filePath(root);
         m_tool->setSavePath(saveRoot, QString());
         QVERIFY(m_tool->failedPath().isEmpty());
+        QVERIFY(m_tool->failedReason().isEmpty());
         QString failedPath;
         m_host->reaction = [&](const Host::Message&) { failedPath = m_tool->failedPath(); };
 
@@ -464,6 +547,7 @@ private Q_SLOTS:
         QVERIFY(m_host->hears(1));
         QCOMPARE(m_host->heard(), QStringList("sigFail"));
         QCOMPARE(enabledButtons(*m_user), buttons);
+        QCOMPARE(m_tool->failedReason(), QStringLiteral("A file or folder of that name is in the way."));
         QVERIFY(failedPath.startsWith(saveRoot + QLatin1Char('/')));
         QVERIFY(failedPath.endsWith(edit == AddConfirm ? "/TestImage3.png" : "/chart.png"));
         QVERIFY(staysSilent(1));
@@ -482,6 +566,7 @@ private Q_SLOTS:
         QVERIFY(m_host->hears(1));
         QCOMPARE(m_host->heard(), QStringList("sigFail"));
         QVERIFY(m_tool->failedPath().endsWith(QLatin1String("/missing/chart.png")));
+        QCOMPARE(m_tool->failedReason(), QStringLiteral("The folder is not there."));
     }
 
     void changeAfterAFailureLightsTheButtons()

@@ -711,6 +711,27 @@ private Q_SLOTS:
         m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintBasicWidget"));
         QVERIFY(paintLog(log().messages()).contains("PaintBasicWidget is done"));
     }
+
+    void chartImageLeavesTheUpdateFlag_data()
+    {
+        QTest::addColumn<bool>("updating");
+        QTest::newRow("set") << true;
+        QTest::newRow("not set") << false;
+    }
+
+    void chartImageLeavesTheUpdateFlag()
+    {
+        QFETCH(bool, updating);
+        User user(*m_tool);
+        QVERIFY(user.show());
+        m_tool->setUpdateFlag(updating);
+        m_tool->slotGetHeightWidth();
+        log().clear();
+        QVERIFY(!m_tool->chartImage().isNull());
+        QVERIFY(!paintLog(log().messages()).contains("PaintBasicWidget is done"));
+        m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintBasicWidget"));
+        QCOMPARE(paintLog(log().messages()).contains("PaintBasicWidget is done"), !updating);
+    }
 };
 
 VD_TEST_MAIN(TestSaveChart)

@@ -18,6 +18,8 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
+const QString noPermission = QStringLiteral("You have no permission to write there.");
+
 /// A picture that does not compress to nothing.
 QImage noise(const QSize& size)
 {
@@ -225,17 +227,25 @@ private Q_SLOTS:
     void failures_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("missing folder") << "none/chart.png";
-        QTest::newRow("a file for a folder") << "file.txt/chart.png";
-        QTest::newRow("a folder of that name") << "folder.png";
+        QTest::addColumn<QString>("reason");
+        const QString inTheWay = QStringLiteral("A file or folder of that name is in the way.");
+        QTest::newRow("missing folder") << "none/chart.png"
+                                        << "The folder is not there.";
+        QTest::newRow("a file for a folder") << "file.txt/chart.png" << inTheWay;
+        QTest::newRow("below a file") << "file.txt/none/none/chart.png" << inTheWay;
+        QTest::newRow("a folder of that name") << "folder.png" << inTheWay;
+        QTest::newRow("a name that is too long")
+            << QString(300, QLatin1Char('x')) + QLatin1String(".png") << "File name too long";
     }
 
     void failures()
     {
         QFETCH(QString, name);
+        QFETCH(QString, reason);
         QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder.png")));
         write("file.txt", "text");
         QVERIFY(!saves(m_image, at(name)));
+        QCOMPARE(m_reason, reason);
         QCOMPARE(files(), QStringList("file.txt"));
         QCOMPARE(contents(at("file.txt")), QByteArray("text"));
         QVERIFY(QDir(at("folder.png")).isEmpty());
@@ -245,6 +255,7 @@ private Q_SLOTS:
     {
         write("chart.png", "earlier");
         QVERIFY(!saves(QImage(), at("chart.png")));
+        QCOMPARE(m_reason, QStringLiteral("The picture cannot be stored in this format."));
         QCOMPARE(contents(at("chart.png")), QByteArray("earlier"));
         QCOMPARE(files(), QStringList("chart.png"));
     }
@@ -273,9 +284,29 @@ private Q_SLOTS:
             QVERIFY(user.isOrdinary);
             QCOMPARE(saves(m_image, at("chart.png")), succeeds);
         }
+        QCOMPARE(m_reason, succeeds ? QString() : noPermission);
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7700)));
         QCOMPARE(contents(at("chart.png")), succeeds ? encoded(m_image, "PNG") : QByteArray("earlier"));
         QCOMPARE(files(), QStringList("chart.png"));
+    }
+
+    void folderThatCannotBeMade_data()
+    {
+        QTest::addColumn<int>("rights");
+        QTest::newRow("no new entries") << 0x5555;
+        QTest::newRow("may not be entered") << 0x7700;
+    }
+
+    void folderThatCannotBeMade()
+    {
+        QFETCH(int, rights);
+        QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(rights)));
+        {
+            const OrdinaryUser user;
+            QVERIFY(user.isOrdinary);
+            QVERIFY(!saves(m_image, at("none/chart.png")));
+        }
+        QCOMPARE(m_reason, noPermission);
     }
 
     void fullDisk_data()
@@ -311,9 +342,11 @@ private Q_SLOTS:
             const FullDisk disk(rlim_t(qMax(size * percent / 100 - 1, 0)));
             QVERIFY(!saves(image, at(name)));
         }
+        QCOMPARE(m_reason, QStringLiteral("There is no space left."));
         QCOMPARE(contents(at(name)), earlier ? QByteArray("earlier") : QByteArray());
         QCOMPARE(files(), earlier ? QStringList(name) : QStringList());
         QVERIFY(saves(image, at(name)));
+        QCOMPARE(m_reason, QString());
         QCOMPARE(contents(at(name)).size(), size);
     }
 
@@ -424,14 +457,17 @@ private:
         return spy.first().first().toBool();
     }
 
-    static bool saves(const QImage& image, const QString& path)
+    bool saves(const QImage& image, const QString& path)
     {
         SaveImageThread thread(image, path);
-        return reports(thread);
+        const bool saved = reports(thread);
+        m_reason = thread.failedReason();
+        return saved;
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QImage m_image;
+    QString m_reason; ///< of the last save
 };
 
 VD_TEST_MAIN(TestSaveImageThread)

@@ -22,10 +22,15 @@ const char* formatOf(const QString& path)
 
 } // namespace
 
+class SaveImageThread::Fault : public WriteFault
+{
+};
+
 SaveImageThread::SaveImageThread(const QImage& image, const QString& path, QObject* parent)
     : QThread(parent)
     , m_image(image)
     , m_path(path)
+    , m_fault(std::make_unique<Fault>())
 {
 }
 
@@ -37,7 +42,13 @@ SaveImageThread::~SaveImageThread()
 void SaveImageThread::run()
 {
     const char* const format = formatOf(m_path);
-    Q_EMIT saveFinished(!format || writeImageWhole(m_image, m_path, format, quality));
+    *m_fault = {};
+    Q_EMIT saveFinished(!format || writeImageWhole(m_image, m_path, format, quality, m_fault.get()));
+}
+
+QString SaveImageThread::failedReason() const
+{
+    return writeFaultText(*m_fault);
 }
 
 } // namespace vardeno::testcharttools

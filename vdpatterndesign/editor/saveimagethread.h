@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QThread>
 
+#include <memory>
+
 namespace vardeno::testcharttools {
 
 /// Writes one image to one file and reports how that went.
@@ -27,6 +29,10 @@ public:
     /// returns.
     void run() override;
 
+    /// Why the last run could not write, empty if it could: a sentence in the current language. For the GUI
+    /// thread, once `saveFinished` has come.
+    QString failedReason() const;
+
 Q_SIGNALS:
     /// Sent once by every run, from where it runs.
     void saveFinished(bool success);
@@ -34,6 +40,8 @@ Q_SIGNALS:
 private:
     QImage m_image;
     QString m_path;
+    class Fault;
+    std::unique_ptr<Fault> m_fault;
 };
 
 } // namespace vardeno::testcharttools

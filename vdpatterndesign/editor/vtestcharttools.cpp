@@ -1,10 +1,10 @@
 #include "vtestcharttools.h"
 
 #include "basicsettingbox.h"
-#include "controls/caption.h"
 #include "controls/swatch.h"
 #include "customcolordialog.h"
 #include "editor/chartfolder.h"
+#include "editor/editbuttons.h"
 #include "editor/heldarrow.h"
 #include "editor/inputkeeper.h"
 #include "geometry/previewfit.h"
@@ -37,6 +37,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
@@ -49,11 +50,7 @@ namespace {
 
 constexpr QSize toolSize(1610, 803);
 constexpr QSize viewAreaSize(1199, 766);
-constexpr QSize saveBarSize(1199, 36);
 constexpr QSize settingsSize(410, 802);
-constexpr QSize saveButtonSize(80, 20);
-constexpr QSize editButtonSize(65, 28);
-constexpr int buttonMargin = 8;
 
 constexpr char servedRole[] = "customColorDialog"; ///< of the colour picker: what its colour is for
 
@@ -91,14 +88,13 @@ public:
 
     void createWidget();
     QWidget* createViewColumn();
-    void createSaveBar();
-    QPushButton* createButton(const char* objectName, const char* text, const QSize& size);
     QWidget* createSettingsColumn();
     PropertyBox* createSection(const char* objectName, const QString& title);
     template <typename Panel>
     Panel* addPanel(PropertyBox* section, const char* itemName, int height, int lockRank);
     void createColorDialog();
     void createConnects();
+    void connectButtons();
     void connectReports();
     void connectColorDialog();
     void initTestChartTools();
@@ -137,18 +133,12 @@ public:
     QWidget* viewArea = nullptr;
     QScrollArea* scrollArea = nullptr;
     QWidget* scrollContent = nullptr;
-    QWidget* saveBar = nullptr;
+    EditButtons* buttons = nullptr;
     QWidget* mask = nullptr;
-    QPushButton* saveButton = nullptr;
-    QPushButton* cancelButton = nullptr;
-    QPushButton* addConfirm = nullptr;
-    QPushButton* replaceConfirm = nullptr;
-    QPushButton* replaceApply = nullptr;
     QLabel* previewLabel = nullptr;
     QVBoxLayout* scrollLayout = nullptr;
     InputKeeper input;
     HeldArrow heldArrow;
-    CaptionSet captions; ///< of the edit buttons
     QRect fittedPreviewRect;
     QImage snapshot;
     QString savePath = QStringLiteral(" ");
@@ -156,6 +146,7 @@ public:
     QString currentEditName = QStringLiteral(" ");
     QString lastSavePath = QStringLiteral(" ");
     QString failedPath;
+    QString failedReason;
     TestChartToolsData record;
     QPoint dialogAnchor;
     QColor colorBeforePicking; ///< invalid while there is none to go back to
@@ -225,41 +216,9 @@ QWidget* VTestChartTools::Impl::createViewColumn()
     previewLabel->setObjectName(QStringLiteral("ViewWidget"));
     previewLabel->setScaledContents(true);
     layout->addWidget(viewArea);
-    saveBar = new QWidget(column);
-    saveBar->setObjectName(QStringLiteral("saveWidget"));
-    saveBar->setAttribute(Qt::WA_StyledBackground);
-    saveBar->setFixedSize(saveBarSize);
-    layout->addWidget(saveBar);
-    createSaveBar();
+    buttons = new EditButtons(column);
+    layout->addWidget(buttons);
     return column;
-}
-
-void VTestChartTools::Impl::createSaveBar()
-{
-    saveButton = createButton("saveButton", "Apply", saveButtonSize);
-    saveButton
-        ->hide(); // the host shows it where it offers the preview save; it has no place in the bar's layout
-    cancelButton = createButton("CancleButton", "Cancel", editButtonSize);
-    addConfirm = createButton("ADDButton", "Confirm", editButtonSize);
-    replaceConfirm = createButton("ADDButton", "Confirm", editButtonSize);
-    replaceApply = createButton("ADDButton", "Apply", editButtonSize);
-    replaceApply->setEnabled(true);
-
-    auto* layout = new QHBoxLayout(saveBar);
-    layout->setContentsMargins(9, 0, 9, 0);
-    layout->addStretch();
-    for (QPushButton* button : {cancelButton, addConfirm, replaceConfirm, replaceApply})
-        layout->addWidget(button, 0, Qt::AlignVCenter);
-}
-
-QPushButton* VTestChartTools::Impl::createButton(const char* objectName, const char* text, const QSize& size)
-{
-    auto* button = new QPushButton(saveBar);
-    button->setObjectName(QLatin1String(objectName));
-    button->setFixedSize(size);
-    useFixedFont(button);
-    captions.add(button, QLatin1String(text), buttonMargin);
-    return button;
 }
 
 QWidget* VTestChartTools::Impl::createSettingsColumn()
@@ -318,13 +277,21 @@ Panel* VTestChartTools::Impl::addPanel(PropertyBox* section, const char* itemNam
     return panel;
 }
 
+void VTestChartTools::Impl::connectButtons()
+{
+    const auto connectTo = [this](QPushButton* button, void (VTestChartTools::*slot)()) {
+        connect(button, &QPushButton::clicked, owner, slot);
+    };
+    connectTo(buttons->save(), &VTestChartTools::slotSaveImage);
+    connectTo(buttons->cancel(), &VTestChartTools::slotCancleButtonClicked);
+    connectTo(buttons->addConfirm(), &VTestChartTools::slotAddConfirmButtonClicked);
+    connectTo(buttons->replaceConfirm(), &VTestChartTools::slotReplaceConfirmButtonClicked);
+    connectTo(buttons->replaceApply(), &VTestChartTools::slotReplaceApplyButtonClicked);
+}
+
 void VTestChartTools::Impl::createConnects()
 {
-    connect(saveButton, &QPushButton::clicked, owner, &VTestChartTools::slotSaveImage);
-    connect(cancelButton, &QPushButton::clicked, owner, &VTestChartTools::slotCancleButtonClicked);
-    connect(addConfirm, &QPushButton::clicked, owner, &VTestChartTools::slotAddConfirmButtonClicked);
-    connect(replaceConfirm, &QPushButton::clicked, owner, &VTestChartTools::slotReplaceConfirmButtonClicked);
-    connect(replaceApply, &QPushButton::clicked, owner, &VTestChartTools::slotReplaceApplyButtonClicked);
+    connectButtons();
     for (SettingPanel* panel : panels)
         connect(panel, &SettingPanel::changed, this, &Impl::captureAndDisplay);
     connect(publicPanel, &PublicSettingBox::resolutionSignal, owner, &VTestChartTools::slotGetHeightWidth);
@@ -432,8 +399,7 @@ void VTestChartTools::Impl::lockControls(bool locked)
     input.begin(); // unlocking takes the focus as well, and a cycle may end before its lock has come
     for (const auto& [rank, panel] : panelsByLockRank)
         panel->setControlsDisabled(locked);
-    for (QPushButton* button : {cancelButton, addConfirm, replaceConfirm, replaceApply})
-        button->setEnabled(!locked);
+    buttons->setLocked(locked);
     if (locked)
         return;
     input.end();
@@ -479,15 +445,18 @@ QImage VTestChartTools::Impl::imageForSaving()
 void VTestChartTools::Impl::write(const QImage& image, const QString& path,
                                   const std::function<void()>& written)
 {
+    buttons->beginWriting();
     auto* thread = new SaveImageThread(image, path, owner);
     connect(
         thread, &SaveImageThread::saveFinished, this,
-        [this, path, written](bool success) {
+        [this, thread, path, written](bool success) {
             if (success) {
                 written();
                 return;
             }
             failedPath = path;
+            failedReason = thread->failedReason();
+            buttons->endWriting(false);
             Q_EMIT owner->sigFail();
         },
         Qt::QueuedConnection);
@@ -500,7 +469,7 @@ void VTestChartTools::Impl::chartWritten(EditType type, const QString& path)
     const QString superseded = lastSavePath;      // the host may name the new chart while it is told of it
     const QPointer<VTestChartTools> alive(owner); // or delete the tool
     owner->getTestChartToolsData();
-    owner->updateShowSaveBtnStatus(false);
+    buttons->endWriting(true);
     Q_EMIT owner->sigSave(record);
     if (alive)
         Q_EMIT owner->sigTestToolEditDone(owner->getTestChartToolsData(), path, type);
@@ -537,7 +506,7 @@ VTestChartTools::VTestChartTools(QWidget* parent)
     d->createConnects();
     d->initTestChartTools();
     d->fitToResolution();
-    d->captions.retranslate();
+    d->buttons->retranslate();
     setShowForAdd(false);
 }
 
@@ -581,7 +550,8 @@ void VTestChartTools::applyRecord(const TestChartToolsData& record)
 
 QImage VTestChartTools::chartImage()
 {
-    return d->imageForSaving();
+    const QScopedValueRollback<bool> updating(d->updating, true);
+    return d->layers.image();
 }
 
 void VTestChartTools::setSavePath(const QString& root, const QString& name)
@@ -615,12 +585,15 @@ QString VTestChartTools::failedPath() const
     return d->failedPath;
 }
 
+QString VTestChartTools::failedReason() const
+{
+    return d->failedReason;
+}
+
 void VTestChartTools::setShowForAdd(bool add)
 {
     d->showForAdd = add;
-    d->addConfirm->setVisible(add);
-    d->replaceConfirm->setVisible(!add);
-    d->replaceApply->setVisible(!add);
+    d->buttons->setShowForAdd(add);
 }
 
 bool VTestChartTools::isShowForAdd() const
@@ -630,8 +603,17 @@ bool VTestChartTools::isShowForAdd() const
 
 void VTestChartTools::updateShowSaveBtnStatus(bool enabled)
 {
-    for (QPushButton* button : {d->saveButton, d->addConfirm, d->replaceApply})
-        button->setEnabled(enabled);
+    d->buttons->setUnsaved(enabled);
+}
+
+bool VTestChartTools::saveButtonsFollowState() const
+{
+    return d->buttons->followsState();
+}
+
+void VTestChartTools::setSaveButtonsFollowState(bool follows)
+{
+    d->buttons->setFollowsState(follows);
 }
 
 void VTestChartTools::hideViewWidget()
@@ -676,7 +658,7 @@ void VTestChartTools::switchLanguage(const QString& language)
 
 void VTestChartTools::translateLanguage()
 {
-    d->captions.retranslate();
+    d->buttons->retranslate();
     for (SettingPanel* panel : d->panels)
         panel->retranslate();
     d->layerSection->setTitleText(translated(QStringLiteral("Layer settings")));
@@ -700,8 +682,8 @@ void VTestChartTools::slotSaveImage()
     // The image lies beside the folder of its name, not in it.
     d->write(d->layers.image(), folder + QLatin1String(".png"), [this] {
         getTestChartToolsData();
-        updateShowSaveBtnStatus(false);
-        d->cancelButton->setEnabled(false);
+        d->buttons->endWriting(true);
+        d->buttons->cancel()->setEnabled(false);
         Q_EMIT sigSave(d->record);
     });
 }
@@ -717,20 +699,20 @@ void VTestChartTools::slotAddConfirmButtonClicked()
 {
     qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
              << "EditType::AddConfirm";
-    d->addConfirm->setEnabled(false);
+    d->buttons->addConfirm()->setEnabled(false);
     d->saveImage(AddConfirm, QString());
 }
 
 void VTestChartTools::slotReplaceConfirmButtonClicked()
 {
-    if (!d->replaceApply->isEnabled()) {
+    if (!d->buttons->replaceApply()->isEnabled()) {
         qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
                  << "EditType::ReplaceConfirmOnlyCancle";
         Q_EMIT sigTestToolEditDone(getTestChartToolsData(), QString(), ReplaceConfirmOnlyCancle);
         return;
     }
-    d->replaceConfirm->setEnabled(false);
-    d->replaceApply->setEnabled(false);
+    d->buttons->replaceConfirm()->setEnabled(false);
+    d->buttons->replaceApply()->setEnabled(false);
     qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
              << "EditType::ReplaceConfirm";
     d->saveImage(ReplaceConfirm, d->currentEditName);
@@ -738,7 +720,7 @@ void VTestChartTools::slotReplaceConfirmButtonClicked()
 
 void VTestChartTools::slotReplaceApplyButtonClicked()
 {
-    d->replaceApply->setEnabled(false);
+    d->buttons->replaceApply()->setEnabled(false);
     qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
              << "EditType::ReplaceApply";
     d->saveImage(ReplaceApply, d->currentEditName);

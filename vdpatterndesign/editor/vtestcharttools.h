@@ -22,6 +22,7 @@ namespace vardeno::testcharttools {
 class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool saveButtonsFollowState READ saveButtonsFollowState WRITE setSaveButtonsFollowState)
 
 public:
     explicit VTestChartTools(QWidget* parent = nullptr);
@@ -57,13 +58,25 @@ public:
 
     /// The full path of the image that `sigFail` was last sent for, empty before the first failure.
     QString failedPath() const;
+    /// Why it could not be written, a sentence in the language that was current then: no permission, no
+    /// space, no folder, something in the way, or what the system says.
+    QString failedReason() const;
 
     /// True to add a new chart, false (at first) to replace one.
     void setShowForAdd(bool add);
     bool isShowForAdd() const;
     /// Enables or disables the save, add confirm and apply buttons. Disabled tells that there is nothing to
-    /// save.
+    /// save. Enabling brings the replacement's Confirm back as well, which a failed save has left disabled.
     void updateShowSaveBtnStatus(bool enabled);
+
+    /// Whether the edit buttons always tell what may be done. Off, at first, the end of every repaint enables
+    /// them all, whatever `updateShowSaveBtnStatus` was told, and a failed save leaves those that were
+    /// pressed disabled until something changes. On, Confirm and Apply work while the tool is idle and
+    /// something is unsaved, after a failure as well; the replacement's Confirm works with nothing unsaved,
+    /// too.
+    bool saveButtonsFollowState() const;
+    void setSaveButtonsFollowState(bool follows);
+
     /// Hides the preview.
     void hideViewWidget();
 
@@ -90,7 +103,7 @@ Q_SIGNALS:
     void sigSave(TestChartToolsData& data);
     /// An edit has ended; `fileName` is the full path of the image, empty where none was written.
     void sigTestToolEditDone(TestChartToolsData data, QString fileName, EditType type);
-    /// An image could not be written: `failedPath()` tells which.
+    /// An image could not be written: `failedPath()` tells which, `failedReason()` why.
     void sigFail();
 
 public Q_SLOTS:

@@ -5,21 +5,31 @@
 #include <QImageReader>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <cstdlib>
 
 namespace vardeno::testcharttools {
 
 /// Encodes in memory first: saving straight to a file reports success when the disk fills up in its last
 /// kilobytes, and so does a `commit` alone.
-bool writeImageWhole(const QImage& image, const QString& path, const char* format, int quality)
+bool writeImageWhole(const QImage& image, const QString& path, const char* format, int quality,
+                     WriteFault* fault)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, quality))
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, quality)) {
+        if (fault)
+            *fault = {WriteFault::NotEncodable, QString()};
         return false;
+    }
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
-           file.commit();
+    errno = 0;
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
+    const int errorNumber = errno;
+    if (!written && fault)
+        *fault = writeFaultOf(path, file, errorNumber);
+    return written;
 }
 
 PictureFile examinePicture(const QString& path)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/writefault.h"
 #include "vdchartcore_export.h"
 
 #include <QDateTime>
@@ -9,9 +10,9 @@
 namespace vardeno::testcharttools {
 
 /// Writes `image` whole or not at all; a write that fails leaves what was there before. `format` and
-/// `quality` as for `QImage::save`.
+/// `quality` as for `QImage::save`. A write that fails tells `fault`, where there is one, why.
 VDCHARTCORE_EXPORT bool writeImageWhole(const QImage& image, const QString& path, const char* format,
-                                        int quality = -1);
+                                        int quality = -1, WriteFault* fault = nullptr);
 
 /// The longest side of a picture that is read, in pixels.
 constexpr int largestPicture = 3840;
