@@ -5,6 +5,7 @@
 #include "records/recordfields.h"
 #include "records/recordschema.h"
 #include "records/recordvalues.h"
+#include "records/unknownmembers.h"
 #include "support/nearestname.h"
 
 #include <QDir>
@@ -148,11 +149,24 @@ public:
             reasons = recordvalues::take(parsed(), target, range);
     }
 
-    template <typename Value>
-    void field(const char* name, Value& target, const char*)
+    void field(const char* name, bool& target, const char*)
     {
         if (isMeant(name))
             reasons = recordvalues::take(parsed(), target);
+    }
+
+    void field(const char* name, RgbaColor& target, const char*)
+    {
+        const QJsonArray colors = recordvalues::hexColors(m_text);
+        if (isMeant(name))
+            reasons = recordvalues::take(colors.size() == 1 ? colors.first() : parsed(), target);
+    }
+
+    void field(const char* name, std::map<int, QColor>& target, const char*)
+    {
+        const QJsonArray colors = recordvalues::hexColors(m_text);
+        if (isMeant(name))
+            reasons = recordvalues::take(colors.isEmpty() ? parsed() : QJsonValue(colors), target);
     }
 
     bool found = false;
@@ -184,7 +198,7 @@ private:
 
 Reading failed(const QString& problem, const QJsonObject& document = {})
 {
-    return {TestChartToolsData(), {problem}, document};
+    return {TestChartToolsData(), {problem}, document, {}};
 }
 
 QString tooLarge(qint64 bytes)
@@ -290,7 +304,7 @@ Reading fromJson(const QByteArray& json, const QString& folder)
     if (!findings.error.isEmpty())
         return failed(QStringLiteral("not JSON: ") + findings.error);
     if (!findings.repeated.isEmpty())
-        return {TestChartToolsData(), repetitions(findings.repeated), {}};
+        return {TestChartToolsData(), repetitions(findings.repeated), {}, {}};
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
@@ -302,7 +316,7 @@ Reading fromJson(const QByteArray& json, const QString& folder)
     if (!problem.isEmpty())
         return failed(problem, root);
 
-    Reading reading = {TestChartToolsData(), {}, root};
+    Reading reading = {TestChartToolsData(), {}, root, unknownMembers(root)};
     const QJsonValue schema = root.value(schemaMember);
     if (!schema.isUndefined() && !schema.isString())
         reading.problems.append(schemaMember + QLatin1String(": ") + recordvalues::shown(schema) +

@@ -23,6 +23,9 @@ struct Reading
     /// The document as it was read, with what is unknown here: for `write`. Empty where it was no JSON
     /// object.
     QJsonObject document;
+    /// What of the document is unknown here, each with the name that may have been meant:
+    /// "publicData.boxrow: unknown member, did you mean publicData.boxRow?". It is no problem, and is kept.
+    QStringList unknown;
 };
 
 /// What `original` has besides the known fields, in the document and in its groups, is kept, and so is its
@@ -46,7 +49,7 @@ VDCHARTCORE_EXPORT QString write(const QString& path, const TestChartToolsData& 
                                  const QJsonObject& original = {});
 
 /// Sets one field as an assignment like "publicData.boxRow=12" says. The value is JSON; a text may stand
-/// without quotation marks. A picture path stays as it is. Returns an empty text, or what is wrong in the
+/// without quotation marks, a colour as "#ff0000", and a list of colours as "#ff0000 #00ff00". A picture path stays as it is. Returns an empty text, or what is wrong in the
 /// words of the reader; then the record is as it was.
 VDCHARTCORE_EXPORT QString setField(TestChartToolsData& record, const QString& assignment);
 

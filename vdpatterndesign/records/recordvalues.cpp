@@ -2,7 +2,7 @@
 
 #include "records/jsontext.h"
 
-#include <QJsonArray>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -108,6 +108,18 @@ QStringList take(const QJsonValue& value, std::map<int, QColor>& target)
     if (problems.isEmpty())
         target = std::move(colors);
     return problems;
+}
+
+QJsonArray hexColors(const QString& text)
+{
+    static const QRegularExpression color(QStringLiteral("^#[0-9a-fA-F]{6}$"));
+    QJsonArray colors;
+    for (const QString& word : text.simplified().split(QLatin1Char(' '))) {
+        if (!color.match(word).hasMatch())
+            return {};
+        colors.append(toJson(toRgbaColor(QColor(word))));
+    }
+    return colors;
 }
 
 QString shown(const QJsonValue& value)

@@ -2,6 +2,7 @@
 
 #include "records/recordfields.h"
 
+#include <QJsonArray>
 #include <QJsonValue>
 #include <QString>
 #include <QStringList>
@@ -24,6 +25,10 @@ QStringList take(const QJsonValue& value, int& target, recordfields::Range range
 QStringList take(const QJsonValue& value, std::string& target, recordfields::Length longest);
 QStringList take(const QJsonValue& value, RgbaColor& target);
 QStringList take(const QJsonValue& value, std::map<int, QColor>& target);
+
+/// The opaque colours of a text like "#ff0000" or "#ff0000 #00ff00", as `take` takes them; empty where it is
+/// anything else.
+QJsonArray hexColors(const QString& text);
 
 /// A value as messages show it, elided where it is long.
 QString shown(const QJsonValue& value);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QStringList>
+
+namespace vardeno::testcharttools {
+
+/// The members of a record's document that no field has, each with the name that may have been meant:
+/// "publicData.boxrow: unknown member, did you mean publicData.boxRow?". Of many the first twenty, and how
+/// many more there are.
+QStringList unknownMembers(const QJsonObject& document);
+
+} // namespace vardeno::testcharttools
