@@ -65,6 +65,7 @@ private Q_SLOTS:
     {
         const QStringList expected = {
             "logoData.showLogo: the logo lies over the labels of 12 of 144 cabinets, first D-G",
+            "selfData.showSelfText: \"www.example.com\" lies under the logo",
             "selfData.showResolution: the resolution lies over the labels of 4 of 144 cabinets, first H-G"};
         QCOMPARE(ChartCheck::warnings(TestChartToolsData()), expected);
         QCOMPARE(ChartCheck::warnings(plainRecord()), QStringList());
@@ -120,7 +121,33 @@ private Q_SLOTS:
                 r.publicData.showOutBorder = false;
             },
             {"publicData.brightness: 0 percent leaves a black chart"});
-        add("brightness 1", [](auto& r) { r.publicData.brightness = 1; }, {});
+        add("brightness 1", [](auto& r) { r.publicData.brightness = 1; },
+            {"publicData.brightness: 1 percent leaves 2 of 255 levels, which are hardly seen"});
+        add("brightness 10", [](auto& r) { r.publicData.brightness = 10; }, {});
+        add("one colour twice", [](auto& r) { r.basicData.evenColor = r.basicData.oddColor; },
+            {"basicData.evenColor: the same as basicData.oddColor; the cabinets cannot be told apart by it"});
+        add("one colour twice under alpha 0",
+            [](auto& r) {
+                r.basicData.oddColor = {9, 9, 9, 0};
+                r.basicData.evenColor = {0, 0, 0, 255};
+                r.inLineData.serialColor = {255, 255, 255, 255};
+            },
+            {"basicData.evenColor: the same as basicData.oddColor; the cabinets cannot be told apart by it"});
+        add("one cabinet",
+            [](auto& r) {
+                r.basicData.evenColor = r.basicData.oddColor;
+                r.publicData.boxRow = 1;
+                r.publicData.boxCol = 1;
+            },
+            {});
+        add("a flood",
+            [](auto& r) {
+                r.basicData.evenColor = r.basicData.oddColor;
+                r.inLineData.showCircle = false;
+                r.inLineData.showDiagonal = false;
+                r.inLineData.showSerialNumber = false;
+            },
+            {});
     }
     void pattern() { check(); }
 
@@ -158,7 +185,9 @@ private Q_SLOTS:
     {
         addColumns();
         add("too large, but readable", [](auto& r) { r.inLineData.serialSize = 100; }, {});
-        add("small because it was asked for", [](auto& r) { r.inLineData.serialSize = 5; }, {});
+        add("small because it was asked for", [](auto& r) { r.inLineData.serialSize = 1; },
+            {"inLineData.serialSize: 1 pixels are below the 10 that can be read"});
+        add("just readable", [](auto& r) { r.inLineData.serialSize = 10; }, {});
         add("shrunk",
             [](auto& r) {
                 r.publicData.boxRow = 60;
@@ -175,7 +204,14 @@ private Q_SLOTS:
                 r.inLineData.letterMode = false;
                 r.inLineData.numMode = true;
             },
-            {});
+            {"inLineData.serialSize: 7 pixels are below the 10 that can be read"});
+        add("in the colour of every other cabinet",
+            [](auto& r) { r.inLineData.serialColor = {85, 175, 255, 255}; },
+            {"inLineData.serialColor: the labels of 72 of 144 cabinets can hardly be told from the cabinet, "
+             "first A-B"});
+        add("nearly clear", [](auto& r) { r.inLineData.serialColor.alpha = 5; },
+            {"inLineData.serialColor: the labels of 144 of 144 cabinets can hardly be told from the cabinet, "
+             "first A-A"});
         add("letters wrap",
             [](auto& r) {
                 r.publicData.boxRow = 27;
@@ -377,6 +413,33 @@ private Q_SLOTS:
                 r.inLineData.showSerialNumber = false;
             },
             {});
+        add("small because they were asked for",
+            [](auto& r) {
+                r.selfData.showSelfText = true;
+                r.selfData.selfTextSize = 9;
+                r.selfData.showResolution = true;
+                r.selfData.resolutionTextSize = 1;
+                r.inLineData.showSerialNumber = false;
+            },
+            {"selfData.selfTextSize: 9 pixels are below the 10 that can be read",
+             "selfData.resolutionTextSize: 1 pixels are below the 10 that can be read"});
+        add("under a picture",
+            [=](auto& r) {
+                showPicture(r, pictureFile(m_folder, {600, 600}));
+                r.selfData.showSelfText = true;
+                r.selfData.showResolution = true;
+            },
+            {"selfData.showSelfText: \"www.example.com\" lies under the logo"});
+        add("under a text",
+            [=](auto& r) {
+                r.logoData.showLogo = true;
+                r.logoData.pictureLogo = false;
+                r.logoData.textLogo = true;
+                r.logoData.offsetY = 360;
+                r.inLineData.showSerialNumber = false;
+                r.selfData.showResolution = true;
+            },
+            {"selfData.showResolution: the resolution lies under the logo"});
         add("clear over labels",
             [](auto& r) {
                 r.selfData.showResolution = true;

@@ -1,10 +1,9 @@
 #include "chartcheck.h"
 
+#include "geometry/picturecheck.h"
 #include "geometry/recordcabinets.h"
+#include "geometry/recordcolors.h"
 #include "geometry/recordink.h"
-#include "support/imagefile.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -13,6 +12,7 @@ namespace vardeno::testcharttools::ChartCheck {
 namespace {
 
 constexpr int letterCount = 26;
+constexpr int leastBrightness = 10; ///< percent
 
 class Check
 {
@@ -36,6 +36,8 @@ private:
     }
 
     void checkPattern();
+    void checkStripes();
+    bool isFlood() const;
     void checkBrightness();
     void checkGrid();
     void checkDivision(const char* field, int pixels, int cabinets);
@@ -44,6 +46,7 @@ private:
     void checkLabels();
     void checkLabelMode();
     void checkLabelSize();
+    void checkLabelColor();
     void checkRepeatedLabels();
     void checkLogo();
     void checkPictureLogo();
@@ -52,6 +55,7 @@ private:
     void checkCustomText();
     void checkResolutionLine();
     void checkTextSize(const char* field, const QString& what, int requested, int fitted);
+    void checkText(const char* field, const QString& what, const QRect& ink);
     void checkCovering(const char* field, const QString& what, const QRect& ink);
 
     const TestChartToolsData& m_record;
@@ -71,37 +75,9 @@ QString quoted(const std::string& text)
     return quoted(QString::fromStdString(text));
 }
 
-QString sized(const QSize& size)
+QString tooSmall(int size)
 {
-    return QStringLiteral("%1 x %2 pixels").arg(size.width()).arg(size.height());
-}
-
-bool drawsPicture(const LogoChartData& data)
-{
-    return data.showLogo && !data.textLogo && data.opacity > 0 && data.scale > 0;
-}
-
-/// What keeps the file of the logo's picture from being drawn.
-QString pictureFileProblem(const TestChartToolsData& record)
-{
-    const QString path = logoPicture(record);
-    const QString name =
-        QLatin1String(record.logoData.picturePath.empty() ? "the built-in picture \"" : "\"") + path +
-        QLatin1Char('"');
-    if (!QFileInfo::exists(path))
-        return name + QLatin1String(" does not exist; no logo is drawn");
-    switch (examinePicture(path)) {
-    case PictureFile::TooLarge:
-        return name + QStringLiteral(" is larger than %1; no logo is drawn")
-                          .arg(sized({largestPicture, largestPicture}));
-    case PictureFile::Unreadable:
-        return name + QLatin1String(" is not a picture that can be read; no logo is drawn");
-    case PictureFile::Readable:
-        break;
-    }
-    return CachedPicture().load(path).isNull()
-               ? name + QLatin1String(" cannot be read to its end; no logo is drawn")
-               : QString();
+    return QStringLiteral("%1 pixels are below the %2 that can be read").arg(size).arg(readableTextSize);
 }
 
 QStringList Check::run()
@@ -125,8 +101,24 @@ void Check::checkPattern()
            data.chessChecked ? "basicData.colorBarChecked is true as well; the color bar is drawn"
                              : "basicData.colorBarChecked is false as well; the record does not say what to "
                                "draw");
-    if (!data.colorBarChecked || data.gradientChecked)
-        return;
+    warnIf(hasPlainChess(data) && m_record.publicData.boxRow * m_record.publicData.boxCol > 1 && !isFlood(),
+           "basicData.evenColor", "the same as basicData.oddColor; the cabinets cannot be told apart by it");
+    if (data.colorBarChecked && !data.gradientChecked)
+        checkStripes();
+}
+
+/// Nothing but one colour, and perhaps its frame: who leaves all the rest away means it.
+bool Check::isFlood() const
+{
+    const InLineChartData& lines = m_record.inLineData;
+    return !lines.showCircle && !lines.showDiagonal && !lines.showSerialNumber &&
+           !m_record.logoData.showLogo && !m_record.selfData.showSelfText &&
+           !m_record.selfData.showResolution;
+}
+
+void Check::checkStripes()
+{
+    const BasicChartData& data = m_record.basicData;
     const auto stripes = int(data.colorStripeColors.size());
     const int width = m_record.publicData.resolutionWidth;
     if (stripes == 0)
@@ -148,6 +140,11 @@ void Check::checkBrightness()
     const bool border = data.showOutBorder && data.outBorderColor.alpha > 0;
     warnIf(data.brightness == 0, "publicData.brightness",
            border ? "0 percent leaves nothing but the outer border" : "0 percent leaves a black chart");
+    if (data.brightness > 0 && data.brightness < leastBrightness)
+        warn("publicData.brightness",
+             QStringLiteral("%1 percent leaves %2 of 255 levels, which are hardly seen")
+                 .arg(data.brightness)
+                 .arg(255 * data.brightness / 100));
 }
 
 void Check::checkGrid()
@@ -194,6 +191,7 @@ void Check::checkLabels()
     }
     checkLabelMode();
     checkLabelSize();
+    checkLabelColor();
     checkRepeatedLabels();
 }
 
@@ -213,14 +211,28 @@ void Check::checkLabelSize()
 {
     const int requested = m_record.inLineData.serialSize;
     const int fitted = fittedLabelSize(m_record);
-    if (fitted >= std::min(requested, readableTextSize))
+    if (fitted >= readableTextSize)
         return;
-    warn("inLineData.serialSize",
-         QStringLiteral("%1 pixels do not fit a cabinet of %2; drawn at %3, below the %4 that can be read")
-             .arg(requested)
-             .arg(sized(cabinetGrid(m_record.publicData).cell(0, 0).size()))
-             .arg(fitted)
-             .arg(readableTextSize));
+    if (fitted == requested)
+        warn("inLineData.serialSize", tooSmall(requested));
+    else
+        warn(
+            "inLineData.serialSize",
+            QStringLiteral("%1 pixels do not fit a cabinet of %2; drawn at %3, below the %4 that can be read")
+                .arg(requested)
+                .arg(sized(cabinetGrid(m_record.publicData).cell(0, 0).size()))
+                .arg(fitted)
+                .arg(readableTextSize));
+}
+
+void Check::checkLabelColor()
+{
+    const HiddenLabels hidden = hiddenLabels(m_record);
+    const int cabinets = m_record.publicData.boxRow * m_record.publicData.boxCol;
+    if (hidden.count > 0)
+        warn("inLineData.serialColor",
+             QStringLiteral("the labels of %1 of %2 cabinets can hardly be told from the cabinet, first %3")
+                 .arg(QString::number(hidden.count), QString::number(cabinets), hidden.first));
 }
 
 void Check::checkRepeatedLabels()
@@ -314,7 +326,7 @@ void Check::checkCustomText()
         return;
     checkTextSize("selfData.selfTextSize", quoted(data.selfText), data.selfTextSize,
                   customTextLine(m_record).fitted.pixelSize);
-    checkCovering("selfData.showSelfText", quoted(data.selfText), customTextInk(m_record));
+    checkText("selfData.showSelfText", quoted(data.selfText), customTextInk(m_record));
 }
 
 void Check::checkResolutionLine()
@@ -328,16 +340,27 @@ void Check::checkResolutionLine()
     }
     checkTextSize("selfData.resolutionTextSize", quoted(informationText(m_record)), data.resolutionTextSize,
                   informationLine(m_record).fitted.pixelSize);
-    checkCovering("selfData.showResolution", QStringLiteral("the resolution"), informationInk(m_record));
+    checkText("selfData.showResolution", QStringLiteral("the resolution"), informationInk(m_record));
 }
 
 void Check::checkTextSize(const char* field, const QString& what, int requested, int fitted)
 {
-    if (fitted < std::min(requested, readableTextSize))
+    if (fitted >= readableTextSize)
+        return;
+    if (fitted == requested)
+        warn(field, tooSmall(requested));
+    else
         warn(field,
              QStringLiteral("%1 pixels are too many for %2; drawn at %3, below the %4 that can be read")
                  .arg(QString::number(requested), what, QString::number(fitted))
                  .arg(readableTextSize));
+}
+
+void Check::checkText(const char* field, const QString& what, const QRect& ink)
+{
+    checkCovering(field, what, ink);
+    if (ink.intersects(logoInk(m_record)))
+        warn(field, what + QLatin1String(" lies under the logo"));
 }
 
 void Check::checkCovering(const char* field, const QString& what, const QRect& ink)
@@ -359,7 +382,7 @@ QStringList warnings(const TestChartToolsData& record)
 
 QString pictureProblem(const TestChartToolsData& record)
 {
-    const QString problem = drawsPicture(record.logoData) ? pictureFileProblem(record) : QString();
+    const QString problem = logoFileProblem(record);
     return problem.isEmpty() ? problem : QLatin1String("logoData.picturePath: ") + problem;
 }
 

@@ -13,8 +13,7 @@ namespace vardeno::testcharttools {
 namespace ChartCheck {
 
 /// The smallest font, in chart pixels, whose texts count as readable: a capital letter is seven tenths of its
-/// font high, and below seven rows of pixels letters and digits are no longer told apart. Only texts that had
-/// to be made smaller than they were asked for are told of.
+/// font high, and below seven rows of pixels letters and digits are no longer told apart.
 constexpr int readableTextSize = 10;
 
 /// Each warning names the field, its value and the reason: "publicData.boxCol: 1920 pixels / 7 cabinets leave
