@@ -1,5 +1,6 @@
 #include "languages.h"
 
+#include <translatemanager1.h>
 #include <translator.h>
 
 #include <QDir>
@@ -63,4 +64,11 @@ QString languageFor(const QLocale& locale)
             return code;
     }
     return QStringLiteral("en");
+}
+
+void chooseLanguage(const QString& code)
+{
+    TranslateManager1& manager = TranslateManager1::instance();
+    manager.translator().load(fileOf(code));
+    manager.switchLanguage(code);
 }

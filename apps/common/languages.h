@@ -23,3 +23,7 @@ const QVector<Language>& languages();
 /// The code of the language that suits `locale` best: that of its language and country, else one of its
 /// language, else English.
 QString languageFor(const QLocale& locale);
+
+/// Loads the texts of the language `code` and makes it the language of the process. A chart tool that is
+/// already there has its own way to another language.
+void chooseLanguage(const QString& code);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "changes.h"
+
 #include <string>
 #include <vector>
 
@@ -14,11 +16,14 @@ struct Arguments
     std::string folder;
     std::string walls;
     std::vector<std::string> presets;
-    std::vector<std::string> settings; ///< "group.field=value"
+    Changes changes;
     std::string language = "en";
     std::string format = "png"; ///< of a batch's pictures
     int compression = 1;        ///< of PNG, 0 to 9
     int jobs = 0;               ///< 0 to choose by the machine
     bool namesOnly = false;
     bool errorsOnly = false;
+    bool isStrict = false;       ///< what is unknown is an error
+    bool resume = false;         ///< a batch leaves what is there
+    std::string report = "text"; ///< or "json"
 };

@@ -1,15 +1,17 @@
 #include "arguments.h"
 #include "batch.h"
 #include "commands.h"
-#include "imageoutput.h"
+#include "outputfile.h"
 #include "recordinput.h"
 #include "walls.h"
 
-#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
 
 #include <algorithm>
 #include <csignal>
 #include <cstddef>
+#include <filesystem>
 #include <iostream>
 
 namespace {
@@ -23,6 +25,16 @@ void askToStop(int signal)
 {
     stopWanted = true;
     std::signal(signal, SIG_DFL);
+}
+
+/// Who started the program may have it ignore some of them: `nohup` does, and shells in the background.
+void listenForSignals()
+{
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction inherited = {};
+        if (sigaction(signal, nullptr, &inherited) == 0 && inherited.sa_handler != SIG_IGN)
+            std::signal(signal, askToStop);
+    }
 }
 
 std::vector<Wall> wallsOf(const Arguments& arguments)
@@ -47,38 +59,53 @@ void report(const std::vector<BatchPicture>& pictures)
                       << picture.problem.toStdString() << '\n';
     }
     if (const auto left = std::count_if(pictures.begin(), pictures.end(), waits); left > 0)
-        std::cerr << "vdchart: interrupted: not begun: " << left << '\n';
+        std::cerr << "vdchart: " << (stopWanted ? "interrupted: " : "") << "not begun: " << left << '\n';
     const auto failed = std::count_if(pictures.begin(), pictures.end(), lacks);
     std::cout << std::ptrdiff_t(pictures.size()) - failed << " of " << pictures.size()
               << " pictures written\n";
 }
 
-/// As the second of two batches in the folder of their records would do it.
-void keepRecords(const Arguments& arguments, const QString& manifest)
+void requireFolder(const Arguments& arguments)
 {
-    for (const std::string& record : arguments.records) {
-        if (wouldWriteOver(manifest, QString::fromStdString(record)))
-            throw Failure{ExitCode::Usage, QStringLiteral("%1: the batch would write its manifest over it")
-                                               .arg(QString::fromStdString(record))};
+    std::error_code error;
+    std::filesystem::create_directories(arguments.folder, error);
+    if (error)
+        throw Failure{ExitCode::NotWritten, QStringLiteral("%1: the folder cannot be made: %2")
+                                                .arg(QString::fromStdString(arguments.folder),
+                                                     QString::fromStdString(error.message()))};
+}
+
+/// Not only when the first picture has been drawn, and not only for that one.
+void requireWritable(const Arguments& arguments, const std::vector<PlannedPicture>& plan)
+{
+    const auto refuse = [](const QString& path, const QString& reason) {
+        throw Failure{ExitCode::NotWritten, QStringLiteral("%1: %2").arg(path, reason)};
+    };
+    const QString manifestFile = batchPath(arguments, QLatin1String(manifestName));
+    QStringList paths = {manifestFile};
+    for (const PlannedPicture& planned : plan)
+        paths.append(batchPath(arguments, planned.picture.file));
+    for (const QString& path : paths) {
+        if (QFileInfo(path).isDir())
+            refuse(path, QStringLiteral("it is a folder"));
     }
+    QSaveFile file(manifestFile);
+    if (!file.open(QIODevice::WriteOnly))
+        refuse(manifestFile, file.errorString());
+    file.cancelWriting();
 }
 
 } // namespace
 
 ExitCode runBatch(const Arguments& arguments)
 {
-    const QDir folder(QString::fromStdString(arguments.folder));
-    const QString manifestFile = folder.filePath(QStringLiteral("manifest.json"));
-    keepRecords(arguments, manifestFile);
-    Batch batch(arguments, wallsOf(arguments));
-    if (!folder.mkpath(QStringLiteral(".")))
-        throw Failure{
-            ExitCode::NotWritten,
-            QStringLiteral("%1: the folder cannot be made").arg(QString::fromStdString(arguments.folder))};
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        std::signal(signal, askToStop);
+    std::vector<PlannedPicture> plan = planBatch(arguments, wallsOf(arguments));
+    requireFolder(arguments);
+    requireWritable(arguments, plan);
+    Batch batch(arguments, std::move(plan));
+    listenForSignals();
     const ExitCode code = batch.run(stopWanted);
     report(batch.pictures());
-    writeOutput(manifestFile, manifest(batch.pictures()));
+    writeOutput(batchPath(arguments, QLatin1String(manifestName)), manifest(batch.pictures()));
     return code;
 }

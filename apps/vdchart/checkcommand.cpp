@@ -1,9 +1,14 @@
 #include "arguments.h"
 #include "chartapplication.h"
 #include "commands.h"
+#include "languages.h"
 #include "recordinput.h"
 
 #include <chartcheck.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <iostream>
@@ -12,21 +17,89 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
+/// What was found in a record. Each line begins with its field.
+struct Findings
+{
+    QString record;
+    QString unreadable; ///< why it could not be looked at
+    QStringList errors;
+    QStringList warnings;
+
+    ExitCode code() const
+    {
+        if (!unreadable.isEmpty())
+            return ExitCode::Unreadable;
+        return errors.isEmpty() && warnings.isEmpty() ? ExitCode::Good : ExitCode::Found;
+    }
+};
+
+/// A record with errors has no chart to warn of.
+Findings findingsOf(const QString& path, const Arguments& arguments)
+{
+    const ChartRecordFile::Reading reading = readRecord(path, arguments.changes);
+    Findings findings = {path, QString(), reading.problems, QStringList()};
+    QStringList& unknown = arguments.isStrict ? findings.errors : findings.warnings;
+    unknown += reading.unknown;
+    if (findings.errors.isEmpty())
+        findings.warnings += ChartCheck::warnings(reading.record);
+    if (arguments.errorsOnly)
+        findings.warnings.clear();
+    return findings;
+}
+
+Findings check(const QString& path, const Arguments& arguments)
+{
+    try {
+        return findingsOf(path, arguments);
+    } catch (const Failure& failure) {
+        if (failure.code != ExitCode::Unreadable)
+            throw;
+        std::cerr << "vdchart: " << failure.message.toStdString() << '\n';
+        return {path, failure.message, {}, {}};
+    }
+}
+
 void print(const QString& path, const char* kind, const QStringList& messages)
 {
     for (const QString& message : messages)
         std::cout << inputName(path).toStdString() << ": " << kind << ": " << message.toStdString() << '\n';
 }
 
-ExitCode check(const QString& path, const Arguments& arguments)
+void printText(const std::vector<Findings>& all)
 {
-    const ChartRecordFile::Reading reading = readRecord(path, arguments.settings);
-    print(path, "error", reading.problems);
-    if (!reading.problems.isEmpty())
-        return ExitCode::Found;
-    const QStringList warnings = arguments.errorsOnly ? QStringList() : ChartCheck::warnings(reading.record);
-    print(path, "warning", warnings);
-    return warnings.isEmpty() ? ExitCode::Good : ExitCode::Found;
+    for (const Findings& findings : all) {
+        print(findings.record, "error", findings.errors);
+        print(findings.record, "warning", findings.warnings);
+    }
+}
+
+QJsonArray asJson(const QStringList& messages)
+{
+    QJsonArray list;
+    for (const QString& message : messages) {
+        const QString separator = QStringLiteral(": ");
+        list.append(QJsonObject{{QStringLiteral("field"), message.section(separator, 0, 0)},
+                                {QStringLiteral("text"), message.section(separator, 1)}});
+    }
+    return list;
+}
+
+void printJson(const std::vector<Findings>& all)
+{
+    QJsonArray records;
+    for (const Findings& findings : all) {
+        QJsonObject entry{{QStringLiteral("record"), findings.record},
+                          {QStringLiteral("errors"), asJson(findings.errors)},
+                          {QStringLiteral("warnings"), asJson(findings.warnings)}};
+        if (!findings.unreadable.isEmpty())
+            entry.insert(QStringLiteral("unreadable"), findings.unreadable);
+        records.append(entry);
+    }
+    std::cout << QJsonDocument(QJsonObject{{QStringLiteral("format"), QStringLiteral("testchart-check")},
+                                           {QStringLiteral("version"), 1},
+                                           {QStringLiteral("records"), records}})
+                     .toJson()
+                     .toStdString();
 }
 
 } // namespace
@@ -34,16 +107,16 @@ ExitCode check(const QString& path, const Arguments& arguments)
 ExitCode runCheck(const Arguments& arguments)
 {
     const ChartApplication application; // for the fonts that labels are fitted in
+    chooseLanguage(QString::fromStdString(arguments.language));
+    std::vector<Findings> all;
+    for (const std::string& record : arguments.records)
+        all.push_back(check(QString::fromStdString(record), arguments));
+    if (arguments.report == "json")
+        printJson(all);
+    else
+        printText(all);
     ExitCode worst = ExitCode::Good;
-    for (const std::string& record : arguments.records) {
-        try {
-            worst = std::max(worst, check(QString::fromStdString(record), arguments));
-        } catch (const Failure& failure) {
-            if (failure.code != ExitCode::Unreadable)
-                throw;
-            std::cerr << "vdchart: " << failure.message.toStdString() << '\n';
-            worst = std::max(worst, failure.code);
-        }
-    }
+    for (const Findings& findings : all)
+        worst = std::max(worst, findings.code());
     return worst;
 }

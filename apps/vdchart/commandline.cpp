@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "commands.h"
+#include "fileclaims.h"
 #include "languages.h"
 #include "manual.h"
 
@@ -37,6 +38,27 @@ void requireOneStandardInput(const Arguments& arguments)
                       QStringLiteral("-: stands twice, but there is only one standard input")};
 }
 
+/// As `check a.json >> a.json` would have it.
+void requireOwnOutput(const Arguments& arguments)
+{
+    FileClaims claims;
+    std::vector<std::string> inputs = arguments.records;
+    inputs.insert(inputs.end(), {arguments.record, arguments.image, arguments.walls});
+    for (const std::string& input : inputs)
+        claims.reads(QString::fromStdString(input), QStringLiteral("a file that is read"));
+    claims.protect(QStringLiteral("-"));
+}
+
+/// What is said besides of a command line that is refused, empty where there is nothing.
+std::string hint(const CLI::App& table)
+{
+    const CLI::App* render = table.get_subcommand("render");
+    const bool another = render->parsed() && !render->remaining().empty();
+    return another ? "The file of the picture follows -o: vdchart render RECORD -o " +
+                         render->remaining().back() + '\n'
+                   : std::string();
+}
+
 /// What `--generate` prints.
 std::string generated(const std::string& what, const CLI::App& table)
 {
@@ -70,7 +92,10 @@ ExitCode CommandLine::run(int argc, const char* const* argv)
     try {
         m_app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return m_app.exit(error) == 0 ? ExitCode::Good : ExitCode::Usage;
+        if (m_app.exit(error) == 0)
+            return ExitCode::Good;
+        std::cerr << hint(m_app);
+        return ExitCode::Usage;
     }
     if (const CLI::Option* generate = m_app.get_option("--generate"); generate->count() > 0) {
         std::cout << generated(generate->as<std::string>(), m_app);
@@ -81,6 +106,7 @@ ExitCode CommandLine::run(int argc, const char* const* argv)
         return ExitCode::Usage;
     }
     requireOneStandardInput(m_arguments);
+    requireOwnOutput(m_arguments);
     return m_run(m_arguments);
 }
 
@@ -98,7 +124,7 @@ void CommandLine::addNew()
         ->add_option("-p,--preset", m_arguments.presets, "Start from this preset; several follow one another")
         ->type_name("PRESET")
         ->allow_extra_args(false);
-    addSettings(command);
+    addChanges(command);
 }
 
 void CommandLine::addPresets()
@@ -115,7 +141,13 @@ void CommandLine::addCheck()
         ->type_name("RECORD")
         ->required();
     command->add_flag("--errors", m_arguments.errorsOnly, "Look for errors only");
-    addSettings(command);
+    command->add_flag("--strict", m_arguments.isStrict, "Members that are unknown are errors");
+    command->add_option("-f,--format", m_arguments.report, "How to tell what was found")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+    addChanges(command);
+    addLanguage(command);
 }
 
 void CommandLine::addRender()
@@ -129,7 +161,7 @@ void CommandLine::addRender()
                      "The picture, .png, .jpg or .bmp; - for PNG on the standard output")
         ->type_name("FILE")
         ->required();
-    addSettings(command);
+    addChanges(command);
     addLanguage(command);
     addCompression(command);
 }
@@ -161,7 +193,7 @@ void CommandLine::addBatch()
         ->type_name("NUMBER")
         ->check(CLI::Range(0, 64))
         ->capture_default_str();
-    addSettings(command);
+    addChanges(command);
     addLanguage(command);
     addCompression(command);
 }
@@ -179,17 +211,24 @@ void CommandLine::addVerify()
     command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
         ->type_name("FILE")
         ->check(problemOfPath);
-    addSettings(command);
+    addChanges(command);
     addLanguage(command);
 }
 
-void CommandLine::addSettings(CLI::App* command)
+void CommandLine::addChanges(CLI::App* command)
 {
+    Changes& changes = m_arguments.changes;
     command
-        ->add_option("-s,--set", m_arguments.settings,
-                     "Change a field, such as publicData.boxRow=12; repeatable")
+        ->add_option("-s,--set", changes.settings,
+                     "Change a field, such as rows=12 or basicData.oddColor=#ff0000; repeatable")
         ->type_name("FIELD=VALUE")
         ->allow_extra_args(false);
+    command->add_option("--grid", changes.grid, "Change the columns and rows of cabinets, such as 15x9")
+        ->type_name("COLUMNSxROWS");
+    command
+        ->add_option("--cabinet", changes.cabinet,
+                     "Change the resolution to cabinets of this many pixels, such as 128x128")
+        ->type_name("WIDTHxHEIGHT");
 }
 
 void CommandLine::addLanguage(CLI::App* command)

@@ -27,7 +27,7 @@ private:
     void addRender();
     void addBatch();
     void addVerify();
-    void addSettings(CLI::App* command);
+    void addChanges(CLI::App* command);
     void addLanguage(CLI::App* command);
     void addCompression(CLI::App* command);
 

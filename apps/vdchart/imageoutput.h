@@ -12,10 +12,3 @@ QString imageFormat(const QString& path);
 /// `image` as a file of `format`. `compression` is that of PNG; JPEG has quality 100. Throws Failure where
 /// there is not enough memory. For any thread.
 QByteArray encodeImage(const QImage& image, const QString& format, int compression);
-
-/// Writes the file `path` whole or not at all, or to the standard output for "-". Throws Failure. For any
-/// thread.
-void writeOutput(const QString& path, const QByteArray& bytes);
-
-/// Whether `output` is the file `input`, perhaps by another name.
-bool wouldWriteOver(const QString& output, const QString& input);

@@ -1,25 +1,49 @@
 #include "arguments.h"
+#include "chartapplication.h"
 #include "commands.h"
+#include "newchart.h"
 #include "presets.h"
-#include "recordinput.h"
+
+#include <chartrecordfile.h>
 
 #include <algorithm>
 #include <iostream>
 
 using namespace vardeno::testcharttools;
 
-ExitCode runNew(const Arguments& arguments)
+namespace {
+
+std::vector<const Preset*> chosenPresets(const Arguments& arguments)
 {
-    TestChartToolsData record;
+    std::vector<const Preset*> chosen;
     for (const std::string& name : arguments.presets) {
         const Preset* preset = findPreset(QString::fromStdString(name));
         if (!preset)
             throw Failure{ExitCode::Usage,
                           QStringLiteral("--preset: there is no \"%1\"; \"vdchart presets\" lists them")
                               .arg(QString::fromStdString(name))};
-        preset->apply(record, *preset);
+        chosen.push_back(preset);
     }
-    applySettings(record, arguments.settings);
+    return chosen;
+}
+
+} // namespace
+
+/// The changes are made twice: the chart is made for the wall that they come to, and they stand in it.
+ExitCode runNew(const Arguments& arguments)
+{
+    const std::vector<const Preset*> chosen = chosenPresets(arguments);
+    TestChartToolsData wanted;
+    for (const Preset* preset : chosen)
+        preset->apply(wanted, *preset);
+    applyChanges(wanted, arguments.changes);
+    const ChartApplication application; // for the fonts that texts are placed by
+    TestChartToolsData record = newChart(wanted.publicData);
+    for (const Preset* preset : chosen) {
+        if (!preset->isWall())
+            preset->apply(record, *preset);
+    }
+    applyChanges(record, arguments.changes);
     std::cout << ChartRecordFile::toJson(record).toStdString();
     return ExitCode::Good;
 }

@@ -1,12 +1,11 @@
 #include "recordinput.h"
 
-#include "imageoutput.h"
-
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cstdio>
+#include <iostream>
 
 using namespace vardeno::testcharttools;
 
@@ -59,37 +58,25 @@ QByteArray readInput(const QString& path, qint64 limit)
     return bytes;
 }
 
-ChartRecordFile::Reading readRecord(const QString& path, const std::vector<std::string>& settings)
+ChartRecordFile::Reading readRecord(const QString& path, const Changes& changes)
 {
     const QByteArray json = readInput(path, recordLimit);
     const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
     ChartRecordFile::Reading reading = ChartRecordFile::fromJson(json, folder);
-    applySettings(reading.record, settings);
+    applyChanges(reading.record, changes);
     return reading;
 }
 
-TestChartToolsData requireRecord(const QString& path, const std::vector<std::string>& settings)
+TestChartToolsData requireRecord(const QString& path, const Changes& changes)
 {
-    const ChartRecordFile::Reading reading = readRecord(path, settings);
+    const ChartRecordFile::Reading reading = readRecord(path, changes);
+    for (const QString& unknown : reading.unknown)
+        std::cerr << "vdchart: warning: " << inputName(path).toStdString() << ": " << unknown.toStdString()
+                  << '\n';
     if (reading.problems.isEmpty())
         return reading.record;
     QStringList lines;
     for (const QString& problem : reading.problems)
         lines.append(QStringLiteral("%1: %2").arg(inputName(path), problem));
     throw Failure{ExitCode::Unreadable, lines.join(QStringLiteral("\nvdchart: "))};
-}
-
-void keepPicture(const LogoChartData& logo, const QString& output)
-{
-    if (wouldWriteOver(output, QString::fromStdString(logo.picturePath)))
-        throw Failure{ExitCode::Usage, QStringLiteral("%1: is the picture of the record's logo").arg(output)};
-}
-
-void applySettings(TestChartToolsData& record, const std::vector<std::string>& settings, const Failure& blame)
-{
-    for (const std::string& setting : settings) {
-        const QString problem = ChartRecordFile::setField(record, QString::fromStdString(setting));
-        if (!problem.isEmpty())
-            throw Failure{blame.code, QStringLiteral("%1: %2").arg(blame.message, problem)};
-    }
 }

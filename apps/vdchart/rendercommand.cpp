@@ -1,15 +1,22 @@
 #include "arguments.h"
 #include "chartrenderer.h"
 #include "commands.h"
+#include "fileclaims.h"
 #include "imageoutput.h"
+#include "outputfile.h"
 #include "recordinput.h"
 
 ExitCode runRender(const Arguments& arguments)
 {
     const QString path = QString::fromStdString(arguments.output);
     const QString format = imageFormat(path);
-    const auto record = requireRecord(QString::fromStdString(arguments.record), arguments.settings);
-    keepPicture(record.logoData, path);
+    requireNoTerminal(path);
+    const QString recordPath = QString::fromStdString(arguments.record);
+    const auto record = requireRecord(recordPath, arguments.changes);
+    FileClaims claims;
+    claims.reads(recordPath, QStringLiteral("the record that is drawn"));
+    claims.readsLogo(record.logoData);
+    claims.protect(path);
     const QImage image = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
     writeOutput(path, encodeImage(image, format, arguments.compression));
     return ExitCode::Good;

@@ -2,7 +2,9 @@
 #include "chartcomparison.h"
 #include "chartrenderer.h"
 #include "commands.h"
+#include "fileclaims.h"
 #include "imageoutput.h"
+#include "outputfile.h"
 #include "recordinput.h"
 
 #include <chartcabinets.h>
@@ -38,13 +40,6 @@ QImage readPicture(const QString& path)
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: %2").arg(inputName(path), reader.errorString())};
     return image;
-}
-
-void requireAnotherFile(const QString& difference, const QString& picture)
-{
-    if (wouldWriteOver(difference, picture))
-        throw Failure{ExitCode::Usage,
-                      QStringLiteral("--diff: %1: is the picture that is looked at").arg(difference)};
 }
 
 /// A screen shows something else there, whatever color the pixel has.
@@ -92,8 +87,14 @@ ExitCode runVerify(const Arguments& arguments)
     const QString path = QString::fromStdString(arguments.image);
     const QString difference = QString::fromStdString(arguments.difference);
     const QString format = difference.isEmpty() ? QString() : imageFormat(difference);
-    requireAnotherFile(difference, path);
-    const auto record = requireRecord(QString::fromStdString(arguments.record), arguments.settings);
+    const QString recordPath = QString::fromStdString(arguments.record);
+    FileClaims claims;
+    claims.reads(path, QStringLiteral("the picture that is looked at"));
+    claims.reads(recordPath, QStringLiteral("the record of the chart"));
+    claims.protect(difference);
+    const auto record = requireRecord(recordPath, arguments.changes);
+    claims.readsLogo(record.logoData);
+    claims.protect(difference);
     const QImage expected = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
     const QImage picture = readPicture(path);
     const auto result = ChartComparison::compare(expected, picture, cabinetsOf(record));

@@ -1,11 +1,10 @@
 #include "walls.h"
 
 #include "exitcode.h"
+#include "fields.h"
+#include "filename.h"
 
-#include <chartrecordfile.h>
-
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QHash>
 #include <QStringList>
 #include <QTextCodec>
 
@@ -13,8 +12,6 @@
 
 #include <algorithm>
 #include <new>
-
-using namespace vardeno::testcharttools;
 
 namespace {
 
@@ -75,44 +72,29 @@ Table parsed(const QByteArray& csv, const QString& source)
     const auto length = std::size_t(csv.size());
     const bool read = csv_parse(&parser, csv.constData(), length, addCell, addRow, &collector) == length &&
                       csv_fini(&parser, addCell, addRow, &collector) == 0;
-    const QString reason = QString::fromLatin1(csv_strerror(csv_error(&parser)));
     csv_free(&parser);
     if (collector.isOutOfMemory)
         throw std::bad_alloc();
     if (!read)
         throw Failure{ExitCode::Unreadable,
-                      QStringLiteral("%1: row %2: not CSV: %3")
-                          .arg(source, QString::number(collector.table.size() + 1), reason)};
+                      QStringLiteral("%1: row %2: a quotation mark has no end, or stands in a cell without "
+                                     "quotation marks around it")
+                          .arg(source, QString::number(collector.table.size() + 1))};
     return collector.table;
-}
-
-/// The field that a column is about.
-QString fieldOf(const QString& column)
-{
-    if (column == QLatin1String("width"))
-        return QStringLiteral("publicData.resolutionWidth");
-    if (column == QLatin1String("height"))
-        return QStringLiteral("publicData.resolutionHeight");
-    if (column == QLatin1String("rows"))
-        return QStringLiteral("publicData.boxRow");
-    return column == QLatin1String("columns") ? QStringLiteral("publicData.boxCol") : column;
-}
-
-bool isField(const QString& path)
-{
-    static const QJsonObject fields = QJsonDocument::fromJson(ChartRecordFile::toJson({})).object();
-    return fields.value(path.section(QLatin1Char('.'), 0, 0))
-        .toObject()
-        .contains(path.section(QLatin1Char('.'), 1));
 }
 
 QString problemOfColumns(const QStringList& columns)
 {
     if (!columns.contains(QStringLiteral("name")))
         return QStringLiteral("the first row has no column \"name\"");
+    QHash<QString, QString> columnOf;
     for (const QString& column : columns) {
-        if (columns.count(column) > 1)
+        QString& other = columnOf[fieldOf(column)];
+        if (other == column)
             return QStringLiteral("there are several columns \"%1\"").arg(column);
+        if (!other.isEmpty())
+            return QStringLiteral("the columns \"%1\" and \"%2\" are of one field").arg(other, column);
+        other = column;
         if (column != QLatin1String("name") && !isField(fieldOf(column)))
             return QStringLiteral(
                        "the column \"%1\" is neither name, width, height, rows, columns nor a field of a "
@@ -125,14 +107,7 @@ QString problemOfColumns(const QStringList& columns)
 /// Names become names of files, in one folder, on any file system.
 QString problemOfName(const QString& name)
 {
-    if (name.isEmpty())
-        return QStringLiteral("the name is missing");
-    for (const QChar c : name) {
-        if (c.unicode() < 0x20 || QStringLiteral("/\\:*?\"<>|").contains(c))
-            return QStringLiteral("the name \"%1\" has characters that no file name has").arg(name);
-    }
-    return name.startsWith(QLatin1Char('.')) ? QStringLiteral("the name \"%1\" begins with a dot").arg(name)
-                                             : QString();
+    return name.isEmpty() ? QStringLiteral("the name is missing") : fileNameProblem(name);
 }
 
 QString problemOfRow(const QStringList& row, const QStringList& columns)
@@ -142,9 +117,10 @@ QString problemOfRow(const QStringList& row, const QStringList& columns)
     return problemOfName(row.at(columns.indexOf(QStringLiteral("name"))).trimmed());
 }
 
-Wall wallOf(const QStringList& row, const QStringList& columns)
+Wall wallOf(const QStringList& row, const QStringList& columns, std::size_t number)
 {
     Wall wall;
+    wall.row = int(number);
     for (int i = 0; i < columns.size(); ++i) {
         const QString cell = row.at(i).trimmed();
         if (columns.at(i) == QLatin1String("name"))
@@ -189,7 +165,7 @@ std::vector<Wall> readWalls(const QByteArray& csv, const QString& source)
     std::vector<Wall> walls;
     for (std::size_t row = 1; row < table.size(); ++row) {
         refuse(row + 1, problemOfRow(table[row], columns));
-        walls.push_back(wallOf(table[row], columns));
+        walls.push_back(wallOf(table[row], columns, row + 1));
     }
     return walls;
 }

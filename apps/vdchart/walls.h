@@ -10,6 +10,7 @@
 struct Wall
 {
     QString name;                      ///< as part of a file name
+    int row = 0;                       ///< in its table, from 1
     std::vector<std::string> settings; ///< "group.field=value"
 };
 

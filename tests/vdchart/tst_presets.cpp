@@ -3,7 +3,10 @@
 
 #include <chartrecordfile.h>
 
+#include <QMap>
 #include <QSet>
+
+#include <algorithm>
 
 using namespace vardeno::testcharttools;
 
@@ -100,6 +103,31 @@ private Q_SLOTS:
             QCOMPARE(colors.at(step),
                      QColor(colors.at(step).red(), colors.at(step).red(), colors.at(step).red()));
         }
+    }
+
+    /// Nothing is left over at the right edge, and no step is much wider than another.
+    void rampsOfAnyWidth_data()
+    {
+        QTest::addColumn<int>("width");
+        for (const int width : {16, 17, 1000, 1009, 1080, 1366, 1919, 4320})
+            QTest::addRow("%d pixels", width) << width;
+    }
+
+    void rampsOfAnyWidth()
+    {
+        QFETCH(int, width);
+        TestChartToolsData made;
+        made.publicData.resolutionWidth = width;
+        const Preset& ramp = *findPreset(QStringLiteral("ramp-16"));
+        ramp.apply(made, ramp);
+        const int stripes = int(made.basicData.colorStripeColors.size());
+        QCOMPARE(width % stripes, 0);
+        QMap<int, int> widths; // of each level
+        for (const auto& [row, color] : made.basicData.colorStripeColors)
+            widths[color.red()] += width / stripes;
+        QCOMPARE(widths.size(), 16);
+        const auto ends = std::minmax_element(widths.cbegin(), widths.cend());
+        QVERIFY(*ends.second - *ends.first <= std::max(1, *ends.first / 4));
     }
 
     void bars()

@@ -79,6 +79,11 @@ private Q_SLOTS:
                "columns nor a field of a record";
         QTest::newRow("twice") << QByteArray("name,width,width\n")
                                << "walls.csv: row 1: there are several columns \"width\"";
+        QTest::newRow("one field twice")
+            << QByteArray("name,width,publicData.resolutionWidth\na,1,2\n")
+            << "walls.csv: row 1: the columns \"width\" and \"publicData.resolutionWidth\" are of one field";
+        QTest::newRow("a device") << QByteArray("name\nCON\n")
+                                  << "walls.csv: row 2: the name \"CON\" is a device on some systems";
         QTest::newRow("too few cells")
             << QByteArray("name,width\na,1\nb\n") << "walls.csv: row 3: 1 cells for 2 columns";
         QTest::newRow("too many cells")
@@ -90,10 +95,12 @@ private Q_SLOTS:
             << QByteArray("name\n.a\n") << "walls.csv: row 2: the name \".a\" begins with a dot";
         QTest::newRow("a quote that does not end")
             << QByteArray("name\n\"a\n")
-            << "walls.csv: row 2: not CSV: error parsing data while strict checking enabled";
+            << "walls.csv: row 2: a quotation mark has no end, or stands in a cell without "
+               "quotation marks around it";
         QTest::newRow("a quote within")
             << QByteArray("name\na\"b\n")
-            << "walls.csv: row 2: not CSV: error parsing data while strict checking enabled";
+            << "walls.csv: row 2: a quotation mark has no end, or stands in a cell without "
+               "quotation marks around it";
     }
 
     void refused()
@@ -107,6 +114,14 @@ private Q_SLOTS:
             QCOMPARE(failure.message, message);
             QCOMPARE(failure.code, ExitCode::Unreadable);
         }
+    }
+
+    /// By which messages find them, whatever empty lines there are.
+    void rows()
+    {
+        const std::vector<Wall> walls = readWalls("name\n\na\nb\n", QStringLiteral("walls.csv"));
+        QCOMPARE(walls.at(0).row, 2);
+        QCOMPARE(walls.at(1).row, 3);
     }
 
     /// A path may look like a place for the rest of the message.

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// A start for a new record.
+/// What a new record begins with: a wall for `newChart`, or a picture for what that gives.
 struct Preset
 {
     QString name;
@@ -17,9 +17,12 @@ struct Preset
     QSize cabinets;                                         ///< columns x rows
     std::vector<vardeno::testcharttools::RgbaColor> colors; ///< of the base pattern
     int sort = 0;                                           ///< of the labels
+
+    bool isWall() const { return !resolution.isEmpty(); }
 };
 
-/// All of them: walls (resolution and cabinets) first, then pictures, which leave the wall as it is.
+/// All of them: walls (resolution and cabinets, and nothing else) first, then pictures, which leave the wall
+/// as it is.
 const std::vector<Preset>& presets();
 
 /// The preset of that name, null where there is none.

@@ -6,7 +6,6 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr int letters = 26; ///< labels of more cabinets would not be unique
 constexpr RgbaColor black = {0, 0, 0, 255};
 constexpr RgbaColor white = {255, 255, 255, 255};
 
@@ -16,11 +15,6 @@ void applyWall(TestChartToolsData& record, const Preset& preset)
     record.publicData.resolutionHeight = preset.resolution.height();
     record.publicData.boxCol = preset.cabinets.width();
     record.publicData.boxRow = preset.cabinets.height();
-    record.inLineData.circleSize = std::min(preset.resolution.width(), preset.resolution.height()) / 2;
-    const bool enoughLetters = preset.cabinets.width() <= letters && preset.cabinets.height() <= letters;
-    record.inLineData.letterMode = enoughLetters;
-    record.inLineData.numMode = !enoughLetters;
-    record.inLineData.combinationMode = false;
 }
 
 /// Nothing but the base pattern.
@@ -46,20 +40,43 @@ void applyChess(TestChartToolsData& record, const Preset& preset)
     record.basicData.evenColor = preset.colors.back();
 }
 
-void applyBars(TestChartToolsData& record, const Preset& preset)
+/// How many stripes of one width fill `width` pixels so that bars, each of some of them, are as wide as one
+/// another but for an eighth.
+int stripesFor(int bars, int width)
+{
+    if (width % bars == 0)
+        return bars;
+    int stripes = std::min(8 * bars, width);
+    while (width % stripes != 0)
+        ++stripes;
+    return stripes;
+}
+
+void showBars(TestChartToolsData& record, const std::vector<RgbaColor>& colors)
 {
     hideLayers(record);
     record.basicData.chessChecked = false;
     record.basicData.colorBarChecked = true;
     record.basicData.gradientChecked = false;
     record.basicData.colorStripeColors.clear();
-    for (const RgbaColor& color : preset.colors)
+    for (const RgbaColor& color : colors)
         record.basicData.colorStripeColors[int(record.basicData.colorStripeColors.size())] = toQColor(color);
+}
+
+/// From edge to edge: what a division leaves would stay black.
+void applyBars(TestChartToolsData& record, const Preset& preset)
+{
+    const std::size_t bars = preset.colors.size();
+    const auto stripes = std::size_t(stripesFor(int(bars), record.publicData.resolutionWidth));
+    std::vector<RgbaColor> colors;
+    for (std::size_t stripe = 0; stripe < stripes; ++stripe)
+        colors.push_back(preset.colors[stripe * bars / stripes]);
+    showBars(record, colors);
 }
 
 void applyGradient(TestChartToolsData& record, const Preset& preset)
 {
-    applyBars(record, preset);
+    showBars(record, preset.colors);
     record.basicData.gradientChecked = true;
 }
 
