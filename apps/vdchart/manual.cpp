@@ -1,5 +1,7 @@
 #include "manual.h"
 
+#include "fields.h"
+
 #include <vdpatterndesign_version.h>
 
 #include <algorithm>
@@ -119,6 +121,14 @@ void describeCommand(std::ostream& manual, const CLI::App& command)
     }
 }
 
+std::vector<std::string> fields()
+{
+    std::vector<std::string> names;
+    for (const QString& name : fieldNames())
+        names.push_back(name.toStdString());
+    return names;
+}
+
 bool isFile(const CLI::Option& option)
 {
     const std::string name = valueName(option);
@@ -128,6 +138,8 @@ bool isFile(const CLI::Option& option)
 /// The shell words that complete `option`'s value in bash.
 std::string bashValues(const CLI::Option& option)
 {
+    if (valueName(option) == "FIELD=VALUE")
+        return "compgen -S = -W '" + joined(fields(), " ") + "' -- \"$current\"";
     const std::vector<std::string> values = allowedValues(option);
     if (!values.empty())
         return "compgen -W '" + joined(values, " ") + "' -- \"$current\"";
@@ -152,6 +164,8 @@ void completeInBash(std::ostream& script, const CLI::App& command)
         script << "    " << prefix << joined(names, "|" + prefix) << ") ";
         if (!values.empty())
             script << "mapfile -t COMPREPLY < <(" << values << "); ";
+        if (valueName(*option) == "FIELD=VALUE")
+            script << "compopt -o nospace 2> /dev/null; ";
         script << "return ;;\n";
     }
     script << "    " << prefix << "*) options='" << joined(words, " ") << "' ;;\n";
@@ -169,6 +183,8 @@ std::string zshArgument(const CLI::Option& option)
         action = "(" + joined(values, " ") + ")";
     if (valueName(option) == "PRESET")
         action = "($(vdchart presets --names))";
+    if (valueName(option) == "FIELD=VALUE")
+        action = "{compadd -S = -- " + joined(fields(), " ") + "}";
     const std::string value = takesValue(option) ? ":" + quoted(valueName(option)) + ":" + action : "";
     if (!option.nonpositional())
         return "'" + std::string(option.get_expected_max() > 1 ? "*" : "") + value + "'";
@@ -219,15 +235,18 @@ std::string bashCompletion(const CLI::App& table)
             options.push_back(name);
     }
     std::ostringstream script;
-    script << "# bash completion for vdchart\n"
-           << "_vdchart() {\n"
-           << "  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} options=\n"
-           << "  if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
-           << "    mapfile -t COMPREPLY < <(compgen -W '" << joined(commands, " ") << ' '
-           << joined(options, " ") << "' -- \"$current\")\n"
-           << "    return\n"
-           << "  fi\n"
-           << "  case \"${COMP_WORDS[1]} $previous\" in\n";
+    script
+        << "# bash completion for vdchart\n"
+        << "_vdchart() {\n"
+        << "  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} options=\n"
+        << "  if [ \"$COMP_CWORD\" -eq 1 ]; then\n"
+        << "    mapfile -t COMPREPLY < <(compgen -W '" << joined(commands, " ") << ' ' << joined(options, " ")
+        << "' -- \"$current\")\n"
+        << "    return\n"
+        << "  fi\n"
+        << "  if [ \"$current\" = '=' ]; then current=; fi\n" // the shell takes "--lang=en" for three words
+        << "  if [ \"$previous\" = '=' ]; then previous=${COMP_WORDS[COMP_CWORD - 2]}; fi\n"
+        << "  case \"${COMP_WORDS[1]} $previous\" in\n";
     for (const CLI::App* command : commandsOf(table))
         completeInBash(script, *command);
     script << "  esac\n"
