@@ -1,14 +1,10 @@
 #include "commandline.h"
+#include "standardstreams.h"
 
 #include <QtGlobal>
 
-#include <csignal>
-#include <cstdio>
 #include <iostream>
 #include <new>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
@@ -20,22 +16,9 @@ void printMessage(QtMsgType type, const QMessageLogContext&, const QString& mess
         std::cerr << "vdchart: " << message.toStdString() << '\n';
 }
 
-/// The place of a closed stream would go to what is opened next, which would then be read or written in its
-/// stead.
-void holdClosedStreams()
-{
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (fcntl(stream, F_GETFD) < 0)
-            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY); // so that its use still fails
-    }
-}
-
-/// A full disk, a file size limit and a closed pipe are errors of the write that meets them, with a message.
 void prepareProcess()
 {
-    holdClosedStreams();
-    std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
+    prepareStreams();
     qInstallMessageHandler(printMessage);
     qputenv("QT_QPA_PLATFORM", "offscreen"); // another one has other fonts, and may need a display
 }
