@@ -47,7 +47,10 @@ ExitCode Batch::run(const std::atomic<bool>& stop)
     const ProgressBar bar(int(m_plan.size()));
     int begun = 0;
     for (PlannedPicture& planned : m_plan) {
-        if (stop) {
+        waitForEncoders(m_atOnce - 1);
+        if (planned.picture.isKept) {
+            ++begun;
+        } else if (stop) {
             planned.fail({ExitCode::Interrupted, QStringLiteral("interrupted")});
         } else if (m_unwritable) {
             planned.fail({ExitCode::NotWritten, QStringLiteral("not begun, as another one was not written")});
@@ -69,7 +72,6 @@ void Batch::make(PlannedPicture& planned, ChartRenderer& renderer)
     if (planned.code != ExitCode::Good)
         return;
     try {
-        waitForEncoders(m_atOnce - 1);
         encode(planned, renderer.render(planned.record));
     } catch (const Failure& failure) {
         planned.fail(failure);

@@ -49,7 +49,7 @@ std::vector<Wall> wallsOf(const Arguments& arguments)
     return walls;
 }
 
-void report(const std::vector<BatchPicture>& pictures)
+void printProblems(const std::vector<BatchPicture>& pictures)
 {
     const auto lacks = [](const BatchPicture& picture) { return !picture.problem.isEmpty(); };
     const auto waits = [](const BatchPicture& picture) { return !picture.begun; };
@@ -60,9 +60,19 @@ void report(const std::vector<BatchPicture>& pictures)
     }
     if (const auto left = std::count_if(pictures.begin(), pictures.end(), waits); left > 0)
         std::cerr << "vdchart: " << (stopWanted ? "interrupted: " : "") << "not begun: " << left << '\n';
-    const auto failed = std::count_if(pictures.begin(), pictures.end(), lacks);
-    std::cout << std::ptrdiff_t(pictures.size()) - failed << " of " << pictures.size()
-              << " pictures written\n";
+}
+
+/// What a person reads; a program reads the manifest.
+void printSummary(const std::vector<BatchPicture>& pictures)
+{
+    const auto count = [&pictures](auto is) { return std::count_if(pictures.begin(), pictures.end(), is); };
+    const auto kept = count([](const BatchPicture& picture) { return picture.isKept; });
+    const auto failed = count([](const BatchPicture& picture) { return !picture.problem.isEmpty(); });
+    std::cout << std::ptrdiff_t(pictures.size()) - failed - kept << " of " << pictures.size()
+              << " pictures written";
+    if (kept > 0)
+        std::cout << ", " << kept << " kept";
+    std::cout << '\n';
 }
 
 void requireFolder(const Arguments& arguments)
@@ -105,7 +115,12 @@ ExitCode runBatch(const Arguments& arguments)
     Batch batch(arguments, std::move(plan));
     listenForSignals();
     const ExitCode code = batch.run(stopWanted);
-    report(batch.pictures());
-    writeOutput(batchPath(arguments, QLatin1String(manifestName)), manifest(batch.pictures()));
+    const QByteArray told = manifest(batch.pictures());
+    printProblems(batch.pictures());
+    if (arguments.report == "json")
+        std::cout << told.toStdString();
+    else
+        printSummary(batch.pictures());
+    writeOutput(batchPath(arguments, QLatin1String(manifestName)), told);
     return code;
 }

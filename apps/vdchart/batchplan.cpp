@@ -4,6 +4,7 @@
 #include "fileclaims.h"
 #include "filename.h"
 #include "recordinput.h"
+#include "resume.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -119,6 +120,10 @@ std::vector<PlannedPicture> planBatch(const Arguments& arguments, const std::vec
         applyWall(plan[i], walls[i % walls.size()]);
     requireOwnNames(arguments, plan, walls);
     requireOwnFiles(arguments, plan);
+    for (PlannedPicture& planned : plan)
+        planned.picture.source = sourceHash(planned, arguments);
+    if (arguments.resume)
+        markProven(plan, arguments);
     return plan;
 }
 

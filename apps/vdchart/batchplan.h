@@ -25,7 +25,8 @@ struct PlannedPicture
 };
 
 /// The pictures of every record for every wall; one wall without a name stands for the records as they are.
-/// What is wrong with a record is the problem of its pictures. Throws Failure where two pictures would have
+/// What is wrong with a record is the problem of its pictures. With `arguments.resume` those that are there
+/// already are marked as kept. Throws Failure where two pictures would have
 /// the same name, or a file would be written over another one that the batch reads or writes.
 std::vector<PlannedPicture> planBatch(const Arguments& arguments, const std::vector<Wall>& walls);
 

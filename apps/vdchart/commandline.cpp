@@ -142,10 +142,7 @@ void CommandLine::addCheck()
         ->required();
     command->add_flag("--errors", m_arguments.errorsOnly, "Look for errors only");
     command->add_flag("--strict", m_arguments.isStrict, "Members that are unknown are errors");
-    command->add_option("-f,--format", m_arguments.report, "How to tell what was found")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"text", "json"}))
-        ->capture_default_str();
+    addReport(command);
     addChanges(command);
     addLanguage(command);
 }
@@ -183,10 +180,16 @@ void CommandLine::addBatch()
         ->type_name("FOLDER")
         ->check(problemOfPath)
         ->required();
-    command->add_option("-f,--format", m_arguments.format, "The pictures' format")
+    command
+        ->add_option_function<std::vector<std::string>>(
+            "-f,--format", [this](const auto& formats) { takeFormats(formats); },
+            "The pictures' format; json, alone or besides, to tell what was done in JSON; repeatable")
         ->type_name("FORMAT")
-        ->check(CLI::IsMember({"png", "jpg", "bmp"}))
-        ->capture_default_str();
+        ->check(CLI::IsMember({"png", "jpg", "bmp", "json"}))
+        ->allow_extra_args(false)
+        ->default_str(m_arguments.format);
+    command->add_flag("-r,--resume", m_arguments.resume,
+                      "Keep the pictures that the folder's manifest proves to be up to date");
     command
         ->add_option("-j,--jobs", m_arguments.jobs,
                      "How many pictures are worked on at once; 0 to choose by the machine")
@@ -202,12 +205,15 @@ void CommandLine::addVerify()
 {
     CLI::App* command =
         addCommand("verify", "Tell whether a picture is the chart of a record, pixel for pixel", &runVerify);
-    command->add_option("image", m_arguments.image, "The picture; - for the standard input")
+    command
+        ->add_option("image", m_arguments.image,
+                     "The picture; - for the standard input; or the folder of a batch, to look whether its "
+                     "pictures are still those of its manifest")
         ->type_name("FILE")
         ->required();
     command->add_option("record", m_arguments.record, "The record; - for the standard input")
-        ->type_name("RECORD")
-        ->required();
+        ->type_name("RECORD");
+    addReport(command);
     command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
         ->type_name("FILE")
         ->check(problemOfPath);
@@ -229,6 +235,21 @@ void CommandLine::addChanges(CLI::App* command)
         ->add_option("--cabinet", changes.cabinet,
                      "Change the resolution to cabinets of this many pixels, such as 128x128")
         ->type_name("WIDTHxHEIGHT");
+}
+
+void CommandLine::addReport(CLI::App* command)
+{
+    command->add_option("-f,--format", m_arguments.report, "How to tell what was found")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+}
+
+/// A batch has pictures to make and something to tell, and one option for both.
+void CommandLine::takeFormats(const std::vector<std::string>& formats)
+{
+    for (const std::string& format : formats)
+        (format == "json" ? m_arguments.report : m_arguments.format) = format;
 }
 
 void CommandLine::addLanguage(CLI::App* command)

@@ -28,6 +28,8 @@ private:
     void addBatch();
     void addVerify();
     void addChanges(CLI::App* command);
+    void addReport(CLI::App* command);
+    void takeFormats(const std::vector<std::string>& formats);
     void addLanguage(CLI::App* command);
     void addCompression(CLI::App* command);
 

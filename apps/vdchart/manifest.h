@@ -14,10 +14,18 @@ struct BatchPicture
     QString file;   ///< name in the folder
     QSize size;     ///< chart pixels
     qint64 bytes = 0;
-    QByteArray sha256;  ///< of the file, in hexadecimal digits
-    QString problem;    ///< why it is not there; empty where it is
-    bool begun = false; ///< unless the batch was interrupted before
+    QByteArray sha256;   ///< of the file, in hexadecimal digits
+    QString problem;     ///< why it is not there; empty where it is
+    QByteArray source;   ///< the hash of what it is made of
+    bool begun = false;  ///< unless the batch was interrupted before
+    bool isKept = false; ///< as an earlier batch made it
 };
 
 /// The manifest of a batch as JSON.
 QByteArray manifest(const std::vector<BatchPicture>& pictures);
+
+/// The pictures of the manifest in the file `path`. Throws Failure where it cannot be read or is none.
+std::vector<BatchPicture> readManifest(const QString& path);
+
+/// The SHA-256 of a file in hexadecimal digits; empty where it is none or cannot be read.
+QByteArray fileHash(const QString& path);

@@ -6,10 +6,12 @@
 #include "imageoutput.h"
 #include "outputfile.h"
 #include "recordinput.h"
+#include "verifyfolder.h"
 
 #include <chartcabinets.h>
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImageReader>
 
 #include <algorithm>
@@ -71,6 +73,8 @@ ChartComparison::CabinetGrid cabinetsOf(const TestChartToolsData& record)
 /// The standard streams serve one purpose at a time.
 void requireDistinct(const Arguments& arguments)
 {
+    if (arguments.record.empty())
+        throw Failure{ExitCode::Usage, QStringLiteral("verify: the record of the picture is missing")};
     if (arguments.image == "-" && arguments.record == "-")
         throw Failure{ExitCode::Usage,
                       QStringLiteral("picture and record cannot both come from the standard input")};
@@ -83,6 +87,8 @@ void requireDistinct(const Arguments& arguments)
 
 ExitCode runVerify(const Arguments& arguments)
 {
+    if (QFileInfo(QString::fromStdString(arguments.image)).isDir())
+        return verifyFolder(arguments);
     requireDistinct(arguments);
     const QString path = QString::fromStdString(arguments.image);
     const QString difference = QString::fromStdString(arguments.difference);

@@ -232,6 +232,43 @@ private Q_SLOTS:
         QVERIFY2(outcome.errors.contains(message), qPrintable(outcome.errors));
     }
 
+    /// The libraries' own lines tell a user nothing.
+    void brokenPictures_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("looked at") << "$vdchart verify cut.png small.json"
+                                   << "vdchart: cut.png: Unable to read image data\n";
+        QTest::newRow("a logo")
+            << "$vdchart render small.json -o no.png -s logoData.picturePath=cut.png"
+            << "vdchart: logoData.picturePath: \"cut.png\" cannot be read to its end; no logo is drawn\n";
+    }
+
+    void brokenPictures()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, message);
+        const Outcome outcome = runInShell(QStringLiteral("head -c 2000 logo.png > cut.png; ") + script);
+        QCOMPARE(outcome.code, 3);
+        QCOMPARE(outcome.errors, message);
+    }
+
+    void theBarEndsWithTheBatch()
+    {
+        if (runInShell(QStringLiteral("script -qec true /dev/null")).code != 0)
+            QSKIP("there is no \"script\", or no terminal to be had");
+        QByteArray walls = "name,width,height\n";
+        for (int i = 0; i < 99; ++i)
+            walls += "w" + QByteArray::number(i) + ",1920,1080\n";
+        write(QStringLiteral("long.csv"), walls);
+        const Outcome outcome = runInShell(QStringLiteral(
+            "echo '$vdchart batch small.json -w long.csv -o long & until ls long/*.png > /dev/null 2>&1; do "
+            "sleep 0.02; done; kill -TERM $!; wait $!' > long.sh; script -qec 'bash long.sh' /dev/null"));
+        QCOMPARE(outcome.code, 130);
+        QVERIFY2(outcome.output.contains("1/99") && !outcome.output.contains("98/99"),
+                 outcome.output.constData());
+    }
+
     void theOptionForThePicture()
     {
         for (const QStringList& arguments : {QStringList{"render", "small.json", "a.png"},

@@ -726,7 +726,8 @@ private Q_SLOTS:
         QVERIFY(man.startsWith(".TH VDCHART 1"));
         for (const char* kind : {"bash", "zsh"}) {
             const QByteArray script = run({"--generate", QLatin1String(kind)}).output;
-            for (const char* word : {"render", "--compression", "--walls", "zh_CN", "presets --names"})
+            for (const char* word :
+                 {"render", "--compression", "--walls", "zh_CN", "presets --names", "selfData.selfText"})
                 QVERIFY2(script.contains(word), word);
         }
         for (const char* option : {"\\-\\-compression", "\\-\\-walls", "vdchart verify", ".SH EXIT STATUS"})
@@ -745,6 +746,14 @@ private Q_SLOTS:
                                << "zh_CN";
         QTest::newRow("preset") << "vdchart new --preset ramp-1"
                                 << "ramp-16";
+        QTest::newRow("language behind a sign") << "vdchart render --lang = zh"
+                                                << "zh_CN";
+        QTest::newRow("the sign itself") << "vdchart batch --format ="
+                                         << "png jpg bmp json";
+        QTest::newRow("field") << "vdchart new --set publicData.boxR"
+                               << "publicData.boxRow=";
+        QTest::newRow("short field") << "vdchart render small.json -s col"
+                                     << "columns=";
         QTest::newRow("file") << "vdchart render smal"
                               << "small.json";
     }

@@ -1,0 +1,50 @@
+#include "resume.h"
+
+#include "arguments.h"
+#include "batchplan.h"
+
+#include <chartrecordfile.h>
+#include <vdpatterndesign_version.h>
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+using namespace vardeno::testcharttools;
+
+QByteArray sourceHash(const PlannedPicture& planned, const Arguments& arguments)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const QByteArray& part :
+         {QByteArray("vdchart " VDPATTERNDESIGN_VERSION), QByteArray::fromStdString(arguments.language),
+          QByteArray::fromStdString(arguments.format), QByteArray::number(arguments.compression),
+          ChartRecordFile::toJson(planned.record),
+          fileHash(QString::fromStdString(planned.record.logoData.picturePath))}) {
+        hash.addData(QByteArray::number(part.size()) + ':');
+        hash.addData(part);
+    }
+    return hash.result().toHex();
+}
+
+void markProven(std::vector<PlannedPicture>& plan, const Arguments& arguments)
+{
+    const QString manifestFile = batchPath(arguments, QLatin1String(manifestName));
+    if (!QFileInfo::exists(manifestFile))
+        return;
+    QHash<QString, BatchPicture> made;
+    for (const BatchPicture& picture : readManifest(manifestFile))
+        made.insert(picture.file, picture);
+    for (PlannedPicture& planned : plan) {
+        const BatchPicture there = made.value(planned.picture.file);
+        if (planned.code != ExitCode::Good || !there.problem.isEmpty() || there.sha256.isEmpty() ||
+            there.source != planned.picture.source ||
+            fileHash(batchPath(arguments, there.file)) != there.sha256)
+            continue;
+        planned.picture.size = there.size;
+        planned.picture.bytes = there.bytes;
+        planned.picture.sha256 = there.sha256;
+        planned.picture.isKept = true;
+        planned.picture.begun = true;
+    }
+}
