@@ -21,7 +21,7 @@ QString lookupKey(const QString& qualifiedContext, const QString& source)
     return qualifiedContext + QChar(0x1f) + source;
 }
 
-/// Reads one `.ts` document; `language` stays empty when the document is none.
+/// Reads one `.ts` document.
 class TsReader
 {
 public:
@@ -30,10 +30,11 @@ public:
     {
     }
 
-    bool read()
+    /// What is wrong with the document; empty when it was read.
+    QString read()
     {
         if (!m_xml.readNextStartElement() || m_xml.name() != QLatin1String("TS"))
-            return false;
+            return QStringLiteral("it is no .ts file");
         language = normalised(m_xml.attributes().value(QLatin1String("language")).toString());
         while (m_xml.readNextStartElement()) {
             if (m_xml.name() == QLatin1String("context"))
@@ -43,7 +44,9 @@ public:
         }
         while (!m_xml.atEnd())
             m_xml.readNext(); // what follows the root element must be well-formed as well
-        return !m_xml.hasError() && !language.isEmpty();
+        if (m_xml.hasError())
+            return QStringLiteral("line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString());
+        return language.isEmpty() ? QStringLiteral("it names no language") : QString();
     }
 
     QString language;
@@ -119,11 +122,12 @@ Translator::~Translator() = default;
 bool Translator::load(const QString& file)
 {
     QFile device(file);
-    if (!device.open(QIODevice::ReadOnly))
-        return false;
     TsReader reader(&device);
-    if (!reader.read())
+    const QString problem = device.open(QIODevice::ReadOnly) ? reader.read() : device.errorString();
+    if (!problem.isEmpty()) {
+        qCWarning(lcTranslate).noquote() << file << "is not read:" << problem;
         return false;
+    }
     Texts& texts = m_languages[reader.language];
     for (auto it = reader.texts.cbegin(); it != reader.texts.cend(); ++it)
         texts.insert(it.key(), it.value());

@@ -25,8 +25,9 @@ public:
     ~Translator();
 
     /// Adds the translations in the language file `file`. Texts marked obsolete or vanished and texts without
-    /// a translation are skipped. Returns false and changes nothing when the file is missing, unreadable,
-    /// truncated, not a `.ts` file, or names no language.
+    /// a translation are skipped. Returns false, says why in a warning of the category "vardeno.translate",
+    /// and changes nothing when the file is missing, unreadable, truncated, not a `.ts` file, or names no
+    /// language.
     bool load(const QString& file);
 
     /// Makes `language` ("en", "zh_CN"; "zh-CN" is the same) the language of later look-ups. A language that

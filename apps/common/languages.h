@@ -1,29 +1,30 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
-#include <QVector>
+#include <chartlanguages.h>
+#include <translatemanager1.h>
 
-class QLocale;
+/// The programs speak what the library speaks.
+using Language = vardeno::testcharttools::ChartLanguages::Language;
 
-/// A language that the programs speak.
-struct Language
+inline QStringList languageCodes()
 {
-    QString code; ///< as a language file names it: "en", "zh_CN"
-    QString name; ///< in the language itself
-    QString file; ///< where its texts are, in the program's resources
-};
+    return vardeno::testcharttools::ChartLanguages::codes();
+}
 
-/// The codes of all of them, sorted. A language file in the resources is all that it takes to be one.
-QStringList languageCodes();
+inline const QVector<Language>& languages()
+{
+    return vardeno::testcharttools::ChartLanguages::list();
+}
 
-/// All of them, sorted by code. Reads their names from their files.
-const QVector<Language>& languages();
-
-/// The code of the language that suits `locale` best: that of its language and country, else one of its
-/// language, else English.
-QString languageFor(const QLocale& locale);
+inline QString languageFor(const QLocale& locale)
+{
+    return vardeno::testcharttools::ChartLanguages::codeFor(locale);
+}
 
 /// Loads the texts of the language `code` and makes it the language of the process. A chart tool that is
 /// already there has its own way to another language.
-void chooseLanguage(const QString& code);
+inline void chooseLanguage(const QString& code)
+{
+    vardeno::testcharttools::ChartLanguages::load(code);
+    TranslateManager1::instance().switchLanguage(code);
+}

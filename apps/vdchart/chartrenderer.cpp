@@ -8,7 +8,7 @@ using namespace vardeno::testcharttools;
 
 ChartRenderer::ChartRenderer(const QString& language)
 {
-    m_editor.loadLanguageFiles({QStringLiteral(":/translations/%1.ts").arg(language)});
+    m_editor.loadLanguageFiles({QStringLiteral(":/vardeno/translations/%1.ts").arg(language)});
     m_editor.switchLanguage(language);
 }
 

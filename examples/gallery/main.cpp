@@ -1,5 +1,6 @@
 // Every control of the library in one window of the host's own, which takes the look of the current theme.
 
+#include <chartlanguages.h>
 #include <combobox.h>
 #include <customcolordialog.h>
 #include <customdialog.h>
@@ -320,7 +321,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
-    TranslateManager1::instance().translator().load(QStringLiteral(":/translations/en.ts"));
+    ChartLanguages::load();
     TranslateManager1::instance().switchLanguage(QStringLiteral("en"));
 
     QWidget window;

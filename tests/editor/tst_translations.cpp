@@ -140,7 +140,7 @@ QStringList hostSources()
         QStringLiteral("(?:hostText|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
                        "QStringLiteral\\(((?:\\s*\"[^\"]*\")+)\\)\\)"));
     QStringList found;
-    QFileInfoList sources;
+    QFileInfoList sources = {QFileInfo(sourcePath("vdpatterndesign/support/chartlanguages.cpp"))};
     for (const char* folder : {"apps/chartdesk", "apps/common"})
         sources += QDir(sourcePath(folder)).entryInfoList({QStringLiteral("*.cpp")}, QDir::Files);
     for (const QFileInfo& info : qAsConst(sources)) {
@@ -237,7 +237,7 @@ private Q_SLOTS:
     {
         const QStringList expected = {"de", "en", "es", "ja", "zh_CN"};
         QCOMPARE(codes(), expected);
-        QFile resources(folder + QStringLiteral("/translations.qrc"));
+        QFile resources(folder + QStringLiteral("/vdchartcore_translations.qrc"));
         QVERIFY(resources.open(QIODevice::ReadOnly));
         QStringList files;
         for (const QString& code : expected)

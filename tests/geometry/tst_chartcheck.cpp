@@ -206,7 +206,9 @@ private Q_SLOTS:
             },
             {"inLineData.serialSize: 7 pixels are below the 10 that can be read"});
         add("in the colour of every other cabinet",
-            [](auto& r) { r.inLineData.serialColor = {85, 175, 255, 255}; },
+            [](auto& r) {
+                r.inLineData.serialColor = {85, 175, 255, 255};
+            },
             {"inLineData.serialColor: the labels of 72 of 144 cabinets can hardly be told from the cabinet, "
              "first A-B"});
         add("nearly clear", [](auto& r) { r.inLineData.serialColor.alpha = 5; },

@@ -142,7 +142,7 @@ private Q_SLOTS:
     {
         QApplication::setFont(chartFont());
         VTestChartTools tool;
-        tool.loadLanguageFiles({QStringLiteral(":/translations/en.ts")});
+        tool.loadLanguageFiles({QStringLiteral(":/vardeno/translations/en.ts")});
         tool.switchLanguage(QStringLiteral("en"));
     }
 

@@ -90,7 +90,7 @@ public:
     void closeColorDialog();
 
     /// Loads language files, in order, into the process's translator; a file that cannot be loaded is passed
-    /// over.
+    /// over with a warning. `ChartLanguages` has the library's own.
     void loadLanguageFiles(const std::vector<QString>& files);
     /// Switches the process's language and shows all texts of this tool in it.
     void switchLanguage(const QString& language);

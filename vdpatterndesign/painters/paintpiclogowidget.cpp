@@ -1,7 +1,7 @@
 #include "paintpiclogowidget.h"
 
+#include "defaultlogo.h"
 #include "geometry/logoplacement.h"
-#include "support/defaultlogo.h"
 #include "support/imagefile.h"
 #include "support/translation.h"
 
@@ -64,7 +64,7 @@ std::string PaintPicLogoWidget::picPath() const
 
 bool PaintPicLogoWidget::showsDefaultPicLogo() const
 {
-    return d->path() == defaultLogo();
+    return isDefaultLogo(d->path());
 }
 
 void PaintPicLogoWidget::setPosition(int index)

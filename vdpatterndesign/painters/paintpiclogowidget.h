@@ -37,8 +37,7 @@ public:
     void setOpacity(int percent);
     void setScale(int percent);
 
-    /// Shows the built-in picture, which the host's installation keeps in
-    /// `../share/themes/images/default/testcharttools/logo_1025.png` beside the folder of its executable.
+    /// Shows the built-in picture, `defaultLogo()`.
     void setDefaultPicLogo();
 
     /// Lets the user choose a picture, copies it into the application's data folder as PNG data under its own

@@ -49,8 +49,9 @@ VDCHARTCORE_EXPORT QString write(const QString& path, const TestChartToolsData& 
                                  const QJsonObject& original = {});
 
 /// Sets one field as an assignment like "publicData.boxRow=12" says. The value is JSON; a text may stand
-/// without quotation marks, a colour as "#ff0000", and a list of colours as "#ff0000 #00ff00". A picture path stays as it is. Returns an empty text, or what is wrong in the
-/// words of the reader; then the record is as it was.
+/// without quotation marks, a colour as "#ff0000", and a list of colours as "#ff0000 #00ff00". A picture path
+/// stays as it is. Returns an empty text, or what is wrong in the words of the reader; then the record is as
+/// it was.
 VDCHARTCORE_EXPORT QString setField(TestChartToolsData& record, const QString& assignment);
 
 /// The JSON Schema of the documents: what stands in `docs/chart-record.schema.json`.
