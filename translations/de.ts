@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Cannel</source>
-        <translation>Zurück</translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Center</source>
@@ -368,14 +368,6 @@
         <translation>Hier gibt es noch keine Testbilder. Mit „Neues Testbild“ entsteht das erste.</translation>
     </message>
     <message>
-        <source>This chart could not be written:</source>
-        <translation>Dieses Testbild konnte nicht geschrieben werden:</translation>
-    </message>
-    <message>
-        <source>The record of this chart could not be written, so it cannot be edited later:</source>
-        <translation>Die Daten dieses Testbilds konnten nicht geschrieben werden; es lässt sich später nicht mehr bearbeiten:</translation>
-    </message>
-    <message>
         <source>The record of this chart cannot be read:</source>
         <translation>Die Daten dieses Testbilds können nicht gelesen werden:</translation>
     </message>
@@ -386,6 +378,78 @@
     <message>
         <source>Quit</source>
         <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Discard changes</source>
+        <translation>Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>Continue editing</source>
+        <translation>Weiter bearbeiten</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>This chart has changes that are not saved.</source>
+        <translation>Dieses Testbild hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>This chart could not be saved.</source>
+        <translation>Dieses Testbild konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Save elsewhere…</source>
+        <translation>Anderswo speichern…</translation>
+    </message>
+    <message>
+        <source>You have no permission to write into “%1”.</source>
+        <translation>Sie dürfen nicht in „%1“ schreiben.</translation>
+    </message>
+    <message>
+        <source>“%1” lies on a disk that can only be read.</source>
+        <translation>„%1“ liegt auf einem Datenträger, der nur gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk of “%1”.</source>
+        <translation>Auf dem Datenträger von „%1“ ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be a folder: a file is in its way.</source>
+        <translation>„%1“ kann kein Ordner sein: Eine Datei ist im Weg.</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone.</source>
+        <translation>Den Ordner „%1“ gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>An edit was not finished. Continue with it?</source>
+        <translation>Eine Bearbeitung wurde nicht beendet. Weitermachen?</translation>
+    </message>
+    <message>
+        <source>%1, last changed %2</source>
+        <translation>%1, zuletzt geändert %2</translation>
+    </message>
+    <message>
+        <source>The logo of this chart is missing:</source>
+        <translation>Das Logo dieses Testbilds fehlt:</translation>
+    </message>
+    <message>
+        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
+        <translation>Dieses Testbild wurde inzwischen anderswo geändert und bleibt deshalb neben Ihrem bestehen:</translation>
     </message>
 </context>
 </TS>

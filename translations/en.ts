@@ -368,14 +368,6 @@
         <translation>No charts here yet. Press “New chart” to make the first one.</translation>
     </message>
     <message>
-        <source>This chart could not be written:</source>
-        <translation>This chart could not be written:</translation>
-    </message>
-    <message>
-        <source>The record of this chart could not be written, so it cannot be edited later:</source>
-        <translation>The record of this chart could not be written, so it cannot be edited later:</translation>
-    </message>
-    <message>
         <source>The record of this chart cannot be read:</source>
         <translation>The record of this chart cannot be read:</translation>
     </message>
@@ -386,6 +378,78 @@
     <message>
         <source>Quit</source>
         <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Discard changes</source>
+        <translation>Discard changes</translation>
+    </message>
+    <message>
+        <source>Continue editing</source>
+        <translation>Continue editing</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>This chart has changes that are not saved.</source>
+        <translation>This chart has changes that are not saved.</translation>
+    </message>
+    <message>
+        <source>This chart could not be saved.</source>
+        <translation>This chart could not be saved.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>Save elsewhere…</source>
+        <translation>Save elsewhere…</translation>
+    </message>
+    <message>
+        <source>You have no permission to write into “%1”.</source>
+        <translation>You have no permission to write into “%1”.</translation>
+    </message>
+    <message>
+        <source>“%1” lies on a disk that can only be read.</source>
+        <translation>“%1” lies on a disk that can only be read.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk of “%1”.</source>
+        <translation>There is no space left on the disk of “%1”.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be a folder: a file is in its way.</source>
+        <translation>“%1” cannot be a folder: a file is in its way.</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone.</source>
+        <translation>The folder “%1” is gone.</translation>
+    </message>
+    <message>
+        <source>An edit was not finished. Continue with it?</source>
+        <translation>An edit was not finished. Continue with it?</translation>
+    </message>
+    <message>
+        <source>%1, last changed %2</source>
+        <translation>%1, last changed %2</translation>
+    </message>
+    <message>
+        <source>The logo of this chart is missing:</source>
+        <translation>The logo of this chart is missing:</translation>
+    </message>
+    <message>
+        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
+        <translation>This chart was changed elsewhere meanwhile, so it is kept beside yours:</translation>
     </message>
 </context>
 </TS>

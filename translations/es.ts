@@ -368,14 +368,6 @@
         <translation>Aún no hay cartas de ajuste. Pulse «Nueva carta» para crear la primera.</translation>
     </message>
     <message>
-        <source>This chart could not be written:</source>
-        <translation>No se pudo escribir esta carta:</translation>
-    </message>
-    <message>
-        <source>The record of this chart could not be written, so it cannot be edited later:</source>
-        <translation>No se pudieron escribir los datos de esta carta; no se podrá editar más adelante:</translation>
-    </message>
-    <message>
         <source>The record of this chart cannot be read:</source>
         <translation>No se pueden leer los datos de esta carta:</translation>
     </message>
@@ -386,6 +378,78 @@
     <message>
         <source>Quit</source>
         <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Discard changes</source>
+        <translation>Descartar los cambios</translation>
+    </message>
+    <message>
+        <source>Continue editing</source>
+        <translation>Seguir editando</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>This chart has changes that are not saved.</source>
+        <translation>Esta carta tiene cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>This chart could not be saved.</source>
+        <translation>No se ha podido guardar esta carta.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Save elsewhere…</source>
+        <translation>Guardar en otro lugar…</translation>
+    </message>
+    <message>
+        <source>You have no permission to write into “%1”.</source>
+        <translation>No tiene permiso para escribir en «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” lies on a disk that can only be read.</source>
+        <translation>«%1» está en un disco de solo lectura.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk of “%1”.</source>
+        <translation>No queda espacio en el disco de «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be a folder: a file is in its way.</source>
+        <translation>«%1» no puede ser una carpeta: ya hay un archivo en su lugar.</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone.</source>
+        <translation>La carpeta «%1» ya no existe.</translation>
+    </message>
+    <message>
+        <source>An edit was not finished. Continue with it?</source>
+        <translation>Una edición quedó sin terminar. ¿Continuarla?</translation>
+    </message>
+    <message>
+        <source>%1, last changed %2</source>
+        <translation>%1, última modificación: %2</translation>
+    </message>
+    <message>
+        <source>The logo of this chart is missing:</source>
+        <translation>Falta el logotipo de esta carta:</translation>
+    </message>
+    <message>
+        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
+        <translation>Esta carta se ha modificado entretanto en otro lugar, así que se conserva junto a la suya:</translation>
     </message>
 </context>
 </TS>

@@ -368,14 +368,6 @@
         <translation>テストパターンはまだありません。「新規テストパターン」で最初のパターンを作成してください。</translation>
     </message>
     <message>
-        <source>This chart could not be written:</source>
-        <translation>このテストパターンを書き込めませんでした:</translation>
-    </message>
-    <message>
-        <source>The record of this chart could not be written, so it cannot be edited later:</source>
-        <translation>このテストパターンのデータを書き込めませんでした。後から編集できません:</translation>
-    </message>
-    <message>
         <source>The record of this chart cannot be read:</source>
         <translation>このテストパターンのデータを読み込めません:</translation>
     </message>
@@ -386,6 +378,78 @@
     <message>
         <source>Quit</source>
         <translation>終了</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Discard changes</source>
+        <translation>変更を破棄</translation>
+    </message>
+    <message>
+        <source>Continue editing</source>
+        <translation>編集を続ける</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>This chart has changes that are not saved.</source>
+        <translation>このテストパターンには保存されていない変更があります。</translation>
+    </message>
+    <message>
+        <source>This chart could not be saved.</source>
+        <translation>このテストパターンを保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Save elsewhere…</source>
+        <translation>別の場所に保存…</translation>
+    </message>
+    <message>
+        <source>You have no permission to write into “%1”.</source>
+        <translation>「%1」に書き込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” lies on a disk that can only be read.</source>
+        <translation>「%1」は読み取り専用のディスクにあります。</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk of “%1”.</source>
+        <translation>「%1」のディスクに空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be a folder: a file is in its way.</source>
+        <translation>「%1」をフォルダーにできません。同名のファイルがあります。</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone.</source>
+        <translation>フォルダー「%1」がなくなりました。</translation>
+    </message>
+    <message>
+        <source>An edit was not finished. Continue with it?</source>
+        <translation>終了していない編集があります。続けますか？</translation>
+    </message>
+    <message>
+        <source>%1, last changed %2</source>
+        <translation>%1（最終変更 %2）</translation>
+    </message>
+    <message>
+        <source>The logo of this chart is missing:</source>
+        <translation>このテストパターンのロゴが見つかりません:</translation>
+    </message>
+    <message>
+        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
+        <translation>このテストパターンは別の場所で変更されたため、両方を残しました:</translation>
     </message>
 </context>
 </TS>

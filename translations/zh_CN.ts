@@ -368,14 +368,6 @@
         <translation>这里还没有测试图。按“新建测试图”创建第一张。</translation>
     </message>
     <message>
-        <source>This chart could not be written:</source>
-        <translation>无法写入此测试图：</translation>
-    </message>
-    <message>
-        <source>The record of this chart could not be written, so it cannot be edited later:</source>
-        <translation>无法写入此测试图的记录，以后将无法编辑：</translation>
-    </message>
-    <message>
         <source>The record of this chart cannot be read:</source>
         <translation>无法读取此测试图的记录：</translation>
     </message>
@@ -386,6 +378,78 @@
     <message>
         <source>Quit</source>
         <translation>退出</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Discard changes</source>
+        <translation>放弃更改</translation>
+    </message>
+    <message>
+        <source>Continue editing</source>
+        <translation>继续编辑</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>以后再说</translation>
+    </message>
+    <message>
+        <source>This chart has changes that are not saved.</source>
+        <translation>此测试图有尚未保存的更改。</translation>
+    </message>
+    <message>
+        <source>This chart could not be saved.</source>
+        <translation>无法保存此测试图。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Save elsewhere…</source>
+        <translation>保存到其他位置…</translation>
+    </message>
+    <message>
+        <source>You have no permission to write into “%1”.</source>
+        <translation>您没有写入“%1”的权限。</translation>
+    </message>
+    <message>
+        <source>“%1” lies on a disk that can only be read.</source>
+        <translation>“%1”位于只读磁盘上。</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk of “%1”.</source>
+        <translation>“%1”所在的磁盘空间不足。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be a folder: a file is in its way.</source>
+        <translation>“%1”无法作为文件夹：已有同名文件。</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is gone.</source>
+        <translation>文件夹“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>An edit was not finished. Continue with it?</source>
+        <translation>有一次编辑尚未完成。要继续吗？</translation>
+    </message>
+    <message>
+        <source>%1, last changed %2</source>
+        <translation>%1，上次更改 %2</translation>
+    </message>
+    <message>
+        <source>The logo of this chart is missing:</source>
+        <translation>此测试图缺少徽标：</translation>
+    </message>
+    <message>
+        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
+        <translation>此测试图同时在别处被更改，因此与您的版本一并保留：</translation>
     </message>
 </context>
 </TS>

@@ -1,7 +1,9 @@
 #include "chartdelegate.h"
 
-#include <QIcon>
+#include "chartlist.h"
+
 #include <QPainter>
+#include <QPixmap>
 
 namespace {
 
@@ -34,7 +36,11 @@ void ChartDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     drawFrame(painter, option, frame);
-    painter->drawPixmap(place, index.data(Qt::DecorationRole).value<QIcon>().pixmap(pictureSize));
+    const auto picture = index.data(ChartList::ThumbnailRole).value<QPixmap>();
+    if (picture.isNull())
+        painter->fillRect(place, option.palette.base());
+    else
+        painter->drawPixmap(place.topLeft(), picture);
     painter->setPen(option.palette.color(QPalette::Text));
     painter->drawText(title, Qt::AlignHCenter | Qt::AlignTop, index.data().toString());
     painter->restore();

@@ -1,11 +1,18 @@
 #pragma once
 
+#include <QDateTime>
 #include <QFileInfoList>
-#include <QString>
+#include <QStringList>
 
 /// The charts saved below one folder: each an image in a folder named by the second of its saving, with its
 /// record beside it.
 namespace ChartFolderList {
+
+/// The images in one chart's folder, by name.
+QFileInfoList imagesIn(const QString& folder);
+
+/// The folders of charts below `root`, newest first: a second, and a number where several were saved in it.
+QStringList folders(const QString& root);
 
 /// The images of all charts below `root`, newest first.
 QFileInfoList charts(const QString& root);
@@ -13,7 +20,10 @@ QFileInfoList charts(const QString& root);
 /// The record that belongs to the image `imagePath`.
 QString recordPath(const QString& imagePath);
 
-/// A number that no file name of the charts below `root` ends with, above all that do; at least 1.
-int nextNumber(const QString& root);
+/// When the chart was saved, as its folder says; invalid for a folder that does not.
+QDateTime savedAt(const QString& imagePath);
+
+/// A number above those of all charts below `root` that are called one of `names` and a number; at least 1.
+int nextNumber(const QString& root, const QStringList& names);
 
 } // namespace ChartFolderList

@@ -1,6 +1,9 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 /// The host's own texts, translated by the same translator as the editor's.
 QString hostText(const QString& source);
+
+/// What the editor calls a chart that it names itself, in each language: a number follows it.
+QStringList chartNames();

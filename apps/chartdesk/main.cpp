@@ -1,12 +1,16 @@
 #include "chartfont.h"
+#include "editsession.h"
 #include "languages.h"
 #include "mainwindow.h"
+#include "obstacle.h"
 #include "themepalette.h"
 
 #include <vdpatterndesign_version.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QStandardPaths>
@@ -14,6 +18,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <initializer_list>
 
 namespace {
 
@@ -60,28 +65,58 @@ Options parseCommandLine(const QCoreApplication& application)
 /// Confirms one default chart; the exit code tells whether it was written.
 int confirmDefaultChart(MainWindow& window, QApplication& application)
 {
-    using vardeno::testcharttools::VTestChartTools;
-    QObject::connect(window.editor(), &VTestChartTools::sigTestToolEditDone, &application,
-                     [](const auto&, const QString& path) {
-                         QTextStream(stdout) << path << '\n';
-                         QCoreApplication::exit(0);
+    QString saved;
+    QObject::connect(window.session(), &EditSession::saved, &application,
+                     [&saved](const QString& path) { saved = path; });
+    QObject::connect(
+        window.session(), &EditSession::ended, &application,
+        [&saved] {
+            QTextStream(stdout) << saved << '\n';
+            QCoreApplication::exit(0);
+        },
+        Qt::QueuedConnection); // there is no loop to be left before
+    QObject::connect(window.session(), &EditSession::failed, &application,
+                     [](const QString& path, const QString& reason) {
+                         const QString folder = QFileInfo(path).dir().path();
+                         const QString why = obstacleText(obstacleIn(folder), folder);
+                         QTextStream(stderr) << "could not be written: " << path << ' '
+                                             << (why.isEmpty() ? reason : why) << '\n';
+                         QCoreApplication::exit(1);
                      });
-    QObject::connect(window.editor(), &VTestChartTools::sigFail, &application, [&window] {
-        QTextStream(stderr) << "could not be written: " << window.editor()->failedPath() << '\n';
-        QCoreApplication::exit(1);
-    });
     window.addChart();
-    window.editor()->slotAddConfirmButtonClicked();
+    window.session()->confirm();
     return QApplication::exec();
+}
+
+/// Whether one of `options` is among the arguments, before any of them is parsed.
+bool isAskedFor(int argc, char** argv, std::initializer_list<const char*> options)
+{
+    return std::any_of(argv + 1, argv + argc, [&](const char* argument) {
+        return std::any_of(options.begin(), options.end(),
+                           [&](const char* option) { return qstrcmp(argument, option) == 0; });
+    });
+}
+
+/// Whether the toolkit would find a display, or is told to do without.
+bool hasDisplay(int argc, char** argv)
+{
+#ifdef Q_OS_UNIX
+    return isAskedFor(argc, argv, {"-platform", "--platform", "-display", "--display"}) ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const bool headless = std::any_of(
-        argv + 1, argv + argc, [](const char* argument) { return qstrcmp(argument, "--headless") == 0; });
-    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const bool isHeadless =
+        isAskedFor(argc, argv, {"--headless", "--help", "--help-all", "-h", "--version", "-v"});
+    const bool isShown = hasDisplay(argc, argv);
+    if (!isShown || (isHeadless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
     QApplication application(argc, argv);
@@ -94,11 +129,14 @@ int main(int argc, char** argv)
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
 
     const Options options = parseCommandLine(application);
+    if (!isShown && !options.headless)
+        refuse(QStringLiteral("There is no display; --headless makes a chart without one."));
     MainWindow window(options.folder);
     QApplication::setPalette(themePalette());
     window.switchLanguage(options.language);
     if (options.headless)
         return confirmDefaultChart(window, application);
     window.show();
+    window.offerDrafts();
     return QApplication::exec();
 }

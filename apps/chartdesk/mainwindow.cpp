@@ -1,24 +1,23 @@
 #include "mainwindow.h"
 
-#include "chartdelegate.h"
-#include "chartfolderlist.h"
+#include "chartlist.h"
+#include "desklanguage.h"
+#include "editorlook.h"
+#include "editsession.h"
 #include "hosttext.h"
 #include "languages.h"
+#include "messagebox.h"
+#include "obstacle.h"
 
-#include <chartrecordfile.h>
 #include <translatemanager1.h>
 
 #include <QActionGroup>
-#include <QDateTime>
+#include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
-#include <QImageReader>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -39,30 +38,6 @@ enum Page
 };
 
 constexpr int margin = 15; ///< around the editor
-constexpr int imagePathRole = Qt::UserRole;
-constexpr int thumbnailWantedRole = Qt::UserRole + 1;
-
-/// The name of a chart in the list: its file's, and when it was saved.
-QString chartTitle(const QFileInfo& chart)
-{
-    const QString folder = chart.dir().dirName();
-    const QDateTime saved = QDateTime::fromString(folder, QStringLiteral("yyyyMMdd_HHmmss"));
-    const QString when = saved.isValid() ? QLocale().toString(saved, QLocale::ShortFormat) : folder;
-    return chart.fileName() + QLatin1Char('\n') + when;
-}
-
-QIcon thumbnail(const QString& imagePath)
-{
-    QImageReader reader(imagePath);
-    const QSize size = reader.size().scaled(ChartDelegate::pictureSize, Qt::KeepAspectRatio);
-    reader.setScaledSize(size.expandedTo(QSize(1, 1)));
-    QPixmap canvas(ChartDelegate::pictureSize);
-    canvas.fill(Qt::black);
-    QPainter painter(&canvas);
-    painter.drawImage((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2,
-                      reader.read());
-    return QIcon(canvas);
-}
 
 void giveLook(const QAbstractScrollArea* area, const QString& sheet)
 {
@@ -70,31 +45,20 @@ void giveLook(const QAbstractScrollArea* area, const QString& sheet)
     area->horizontalScrollBar()->setStyleSheet(sheet);
 }
 
-/// Where the picture lies within the chart's folder, empty for one that lies elsewhere.
-QString pathWithin(const QString& chart, const QString& picture)
-{
-    const QString path = QFileInfo(chart).absoluteDir().relativeFilePath(picture);
-    const bool isWithin = !picture.isEmpty() && QDir::isRelativePath(path) && path != QLatin1String("..") &&
-                          !path.startsWith(QLatin1String("../"));
-    return isWithin ? path : QString();
-}
-
-bool copyFile(const QString& from, const QString& to)
-{
-    return QDir().mkpath(QFileInfo(to).path()) && (QFile::exists(to) || QFile::copy(from, to));
-}
-
 } // namespace
 
 MainWindow::MainWindow(const QString& folder)
-    : m_pages(new QStackedWidget(this))
-    , m_list(new QListWidget)
+    : m_toolkitTexts(new ToolkitTexts(this))
+    , m_pages(new QStackedWidget(this))
+    , m_list(new ChartList)
     , m_hint(new QLabel)
     , m_editor(nullptr)
-    , m_new(new QAction(this))
-    , m_edit(new QAction(this))
-    , m_choose(new QAction(this))
-    , m_quit(new QAction(this))
+    , m_session(nullptr)
+    , m_new(createAction(QKeySequence::New, &MainWindow::addChart))
+    , m_edit(createAction(Qt::CTRL + Qt::Key_E, &MainWindow::editSelectedChart))
+    , m_choose(createAction(QKeySequence::Open, &MainWindow::chooseFolder))
+    , m_refresh(createAction(Qt::Key_F5, &MainWindow::refresh))
+    , m_quit(createAction(QKeySequence::Quit, nullptr))
     , m_languages(new QActionGroup(this))
 {
     m_pages->addWidget(createListPage());
@@ -107,42 +71,62 @@ MainWindow::MainWindow(const QString& folder)
 
     connect(&TranslateManager1::instance(), &TranslateManager1::languageChanged, this,
             &MainWindow::retranslate);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &MainWindow::listCharts);
-    connect(m_list, &QListWidget::itemActivated, this, &MainWindow::editSelectedChart);
-    connect(m_list, &QListWidget::itemSelectionChanged, this,
+    connect(m_list, &ChartList::refreshed, this, &MainWindow::showCount);
+    connect(m_list, &ChartList::itemActivated, this, &MainWindow::editSelectedChart);
+    connect(m_list, &ChartList::itemSelectionChanged, this,
             [this] { m_edit->setEnabled(!m_list->selectedItems().isEmpty()); });
-    connect(m_editor, &VTestChartTools::sigTestToolEditDone, this, &MainWindow::finishEdit);
-    connect(m_editor, &VTestChartTools::sigFail, this, [this] {
-        tellOfFailure(hostText(QStringLiteral("This chart could not be written:")), m_editor->failedPath());
-    });
+    connectSession();
 
     setFolder(folder);
     retranslate();
     fitToEditor();
 }
 
+MainWindow::~MainWindow() = default;
+
+void MainWindow::connectSession()
+{
+    connect(m_session, &EditSession::saved, this, &MainWindow::chartSaved);
+    connect(m_session, &EditSession::ended, this, &MainWindow::editEnded);
+    connect(m_session, &EditSession::cancelled, this, &MainWindow::askBeforeEnd);
+    connect(m_session, &EditSession::failed, this, &MainWindow::saveFailed);
+    connect(m_session, &EditSession::pictureMissing, this, [this](const QString& name) {
+        tell(hostText(QStringLiteral("The logo of this chart is missing:")), name);
+    });
+    connect(m_session, &EditSession::replacedChartKept, this, [this](const QString& image) {
+        tell(hostText(
+                 QStringLiteral("This chart was changed elsewhere meanwhile, so it is kept beside yours:")),
+             image);
+    });
+}
+
 void MainWindow::switchLanguage(const QString& language)
 {
+    m_language = language;
+    m_toolkitTexts->switchLanguage(language);
+    m_list->setDateLocale(localeOf(language));
     m_editor->switchLanguage(language);
     const QList<QAction*> choices = m_languages->actions();
     for (QAction* choice : choices)
         choice->setChecked(choice->data() == language);
 }
 
+QAction* MainWindow::createAction(const QKeySequence& shortcut, void (MainWindow::*slot)())
+{
+    auto* action = new QAction(this);
+    action->setShortcut(shortcut);
+    if (slot)
+        connect(action, &QAction::triggered, this, slot);
+    else
+        connect(action, &QAction::triggered, this, &QWidget::close);
+    return action;
+}
+
 void MainWindow::createActions()
 {
-    m_new->setShortcut(QKeySequence::New);
-    m_edit->setShortcut(Qt::CTRL + Qt::Key_E);
     m_edit->setEnabled(false);
-    m_choose->setShortcut(QKeySequence::Open);
-    m_quit->setShortcut(QKeySequence::Quit);
-    connect(m_new, &QAction::triggered, this, &MainWindow::addChart);
-    connect(m_edit, &QAction::triggered, this, &MainWindow::editSelectedChart);
-    connect(m_choose, &QAction::triggered, this, &MainWindow::chooseFolder);
-    connect(m_quit, &QAction::triggered, this, &QWidget::close);
-
     QMenu* charts = menuBar()->addMenu(QString());
-    charts->addActions({m_new, m_edit, m_choose});
+    charts->addActions({m_new, m_edit, m_choose, m_refresh});
     charts->addSeparator();
     charts->addAction(m_quit);
     QMenu* menu = menuBar()->addMenu(QString());
@@ -173,13 +157,6 @@ QWidget* MainWindow::createListPage()
     layout->addWidget(bar);
     m_hint->setAlignment(Qt::AlignCenter);
     layout->addWidget(m_hint, 1);
-    m_list->setObjectName(QStringLiteral("chartList"));
-    m_list->setViewMode(QListView::IconMode);
-    m_list->setResizeMode(QListView::Adjust);
-    m_list->setMovement(QListView::Static);
-    m_list->setItemDelegate(new ChartDelegate(m_list));
-    m_list->setMouseTracking(true); // a chart under the pointer shows itself
-    m_list->setFrameShape(QFrame::NoFrame);
     layout->addWidget(m_list, 1);
     return page;
 }
@@ -191,6 +168,8 @@ QWidget* MainWindow::createEditorPage()
     scroll->setAlignment(Qt::AlignCenter);
     m_editor = new VTestChartTools(scroll);
     scroll->setWidget(m_editor);
+    m_session = new EditSession(m_editor, this);
+    new EditorLook(m_editor);
     giveLook(scroll, m_editor->styleSheet());
     giveLook(m_list, m_editor->styleSheet());
     return scroll;
@@ -212,6 +191,7 @@ void MainWindow::retranslate()
     m_new->setText(hostText(QStringLiteral("New chart")));
     m_edit->setText(hostText(QStringLiteral("Edit chart")));
     m_choose->setText(hostText(QStringLiteral("Choose folder…")));
+    m_refresh->setText(hostText(QStringLiteral("Refresh")));
     m_quit->setText(hostText(QStringLiteral("Quit")));
     const QList<QAction*> menus = menuBar()->actions();
     menus.at(0)->setText(hostText(QStringLiteral("Charts")));
@@ -222,11 +202,8 @@ void MainWindow::retranslate()
 
 void MainWindow::setFolder(const QString& folder)
 {
-    if (!m_watcher.directories().isEmpty())
-        m_watcher.removePaths(m_watcher.directories());
     m_folder = folder;
-    m_editor->setSavePath(folder, QStringLiteral("preview"));
-    listCharts();
+    m_list->setFolder(folder);
     retranslate();
 }
 
@@ -238,146 +215,181 @@ void MainWindow::chooseFolder()
         setFolder(folder);
 }
 
-void MainWindow::listCharts()
+void MainWindow::refresh()
 {
-    if (m_watcher.directories().isEmpty() && QFileInfo(m_folder).isDir())
-        m_watcher.addPath(m_folder);
-
-    const QListWidgetItem* selected = m_list->currentItem();
-    const QString selectedPath = selected ? selected->data(imagePathRole).toString() : QString();
-    m_list->clear();
-    const QFileInfoList charts = ChartFolderList::charts(m_folder);
-    for (const QFileInfo& chart : charts) {
-        if (chart.filePath() == m_supersededImage)
-            continue;
-        auto* item = new QListWidgetItem(chartTitle(chart), m_list);
-        item->setData(imagePathRole, chart.filePath());
-        item->setData(thumbnailWantedRole, true);
-        if (chart.filePath() == selectedPath)
-            m_list->setCurrentItem(item);
-    }
-    m_hint->setVisible(m_list->count() == 0);
-    m_list->setVisible(m_list->count() > 0);
-    loadNextThumbnail();
+    m_list->refresh();
 }
 
-/// One picture each time the window has nothing else to do: a long list of large charts is usable at once.
-void MainWindow::loadNextThumbnail()
+void MainWindow::showCount()
 {
-    for (int row = 0; row < m_list->count(); ++row) {
-        QListWidgetItem* item = m_list->item(row);
-        if (!item->data(thumbnailWantedRole).toBool())
-            continue;
-        item->setData(thumbnailWantedRole, false);
-        item->setIcon(thumbnail(item->data(imagePathRole).toString()));
-        QTimer::singleShot(0, this, &MainWindow::loadNextThumbnail);
-        return;
-    }
+    m_hint->setVisible(m_list->count() == 0);
+    m_list->setVisible(m_list->count() > 0);
 }
 
 void MainWindow::addChart()
 {
-    m_editedImage.clear();
-    m_document = QJsonObject();
-    m_editor->setShowForAdd(true);
-    m_editor->setTestImageNum(ChartFolderList::nextNumber(m_folder));
-    m_editor->applyRecord(TestChartToolsData());
-    m_editor->updateShowSaveBtnStatus(true);
+    m_session->add(m_folder);
     openEditor();
 }
 
 void MainWindow::editSelectedChart()
 {
-    if (const QListWidgetItem* item = m_list->currentItem())
-        editChart(item->data(imagePathRole).toString());
-}
-
-void MainWindow::editChart(const QString& imagePath)
-{
-    const auto reading = ChartRecordFile::read(ChartFolderList::recordPath(imagePath));
-    if (!reading.problems.isEmpty()) {
-        tellOfFailure(hostText(QStringLiteral("The record of this chart cannot be read:")),
-                      reading.problems.join(QLatin1Char('\n')));
+    if (m_list->selectedChart().isEmpty())
         return;
-    }
-    m_editedImage = imagePath;
-    m_document = reading.document;
-    m_editor->setShowForAdd(false);
-    m_editor->setCurrentEditNum(QFileInfo(imagePath).fileName());
-    m_editor->setLastSavePath(imagePath);
-    m_editor->applyRecord(reading.record);
-    openEditor();
+    const QStringList problems = m_session->edit(m_folder, m_list->selectedChart());
+    if (problems.isEmpty())
+        openEditor();
+    else
+        tell(hostText(QStringLiteral("The record of this chart cannot be read:")),
+             problems.join(QLatin1Char('\n')));
 }
 
 void MainWindow::openEditor()
 {
     m_pages->setCurrentIndex(EditorPage);
-    m_new->setEnabled(false);
-    m_edit->setEnabled(false);
-    m_choose->setEnabled(false);
+    for (QAction* action : {m_new, m_edit, m_choose})
+        action->setEnabled(false);
 }
 
-void MainWindow::finishEdit(const TestChartToolsData& record, const QString& imagePath, EditType type)
+void MainWindow::chartSaved(const QString& imagePath)
 {
-    if (!imagePath.isEmpty()) {
-        storeRecord(record, imagePath);
-        statusBar()->showMessage(hostText(QStringLiteral("Saved:")) + QLatin1Char(' ') + imagePath, 10000);
-        m_supersededImage = m_editedImage;
-        m_editedImage = imagePath;
-        m_editor->setLastSavePath(imagePath);
-    }
-    if (type == ReplaceApply)
-        return;
+    statusBar()->showMessage(hostText(QStringLiteral("Saved:")) + QLatin1Char(' ') + imagePath, 10000);
+    if (m_session->folder() != m_folder)
+        setFolder(m_session->folder());
+    if (m_isClosing)
+        QTimer::singleShot(0, this, &QWidget::close);
+}
+
+void MainWindow::editEnded(const QString& imagePath)
+{
     m_pages->setCurrentIndex(ListPage);
     m_new->setEnabled(true);
     m_choose->setEnabled(true);
-    listCharts();
+    m_edit->setEnabled(!m_list->selectedItems().isEmpty());
+    m_list->refresh();
     m_list->setFocus();
-    selectChart(imagePath);
+    m_list->selectChart(imagePath);
+    if (!m_isClosing)
+        offerNextDraft();
 }
 
-/// Nothing happens without such a chart in the list.
-void MainWindow::selectChart(const QString& imagePath)
+void MainWindow::askBeforeEnd()
 {
-    for (int row = 0; row < m_list->count(); ++row) {
-        if (m_list->item(row)->data(imagePathRole) == imagePath)
-            m_list->setCurrentRow(row);
-    }
-}
-
-void MainWindow::storeRecord(TestChartToolsData record, const QString& imagePath)
-{
-    const bool isMoved = takePictureAlong(record, imagePath);
-    const QString problem =
-        ChartRecordFile::write(ChartFolderList::recordPath(imagePath), record, m_document);
-    if (!problem.isEmpty())
-        tellOfFailure(hostText(QStringLiteral("The record of this chart could not be written, so it cannot "
-                                              "be edited later:")),
-                      problem);
-    if (isMoved)
-        m_editor->applyRecord(record);
-}
-
-/// A picture in the folder of the replaced chart, which is about to be removed, gets a copy in the new one.
-bool MainWindow::takePictureAlong(TestChartToolsData& record, const QString& imagePath)
-{
-    const QString picture = QString::fromStdString(record.logoData.picturePath);
-    const QString path = m_editedImage.isEmpty() ? QString() : pathWithin(m_editedImage, picture);
-    if (path.isEmpty() || !QFileInfo(picture).isFile())
-        return false;
-    const QString copy = QFileInfo(imagePath).absoluteDir().filePath(path);
-    if (!copyFile(picture, copy)) {
-        tellOfFailure(hostText(QStringLiteral("This chart could not be written:")), copy);
-        return false;
-    }
-    record.logoData.picturePath = copy.toStdString();
-    return true;
-}
-
-void MainWindow::tellOfFailure(const QString& what, const QString& details)
-{
-    auto* box = new QMessageBox(QMessageBox::Warning, windowTitle(), what, QMessageBox::Ok, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(details);
+    QMessageBox* box = messageBox(this, MessageKind::Question,
+                                  hostText(QStringLiteral("This chart has changes that are not saved.")), {});
+    QPushButton* save = box->addButton(hostText(QStringLiteral("Save")), QMessageBox::AcceptRole);
+    QPushButton* discard =
+        box->addButton(hostText(QStringLiteral("Discard changes")), QMessageBox::DestructiveRole);
+    QPushButton* stay = box->addButton(hostText(QStringLiteral("Continue editing")), QMessageBox::RejectRole);
+    box->setDefaultButton(save);
+    box->setEscapeButton(stay);
+    connect(save, &QPushButton::clicked, m_session, &EditSession::confirm);
+    connect(discard, &QPushButton::clicked, this, &MainWindow::endEdit);
+    connect(stay, &QPushButton::clicked, this, [this] { m_isClosing = false; });
     box->open();
+}
+
+void MainWindow::endEdit()
+{
+    m_session->end();
+    if (m_isClosing)
+        close();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    m_isClosing = true;
+    if (m_session->isSaving()) {
+        event->ignore(); // what becomes of it is told
+    } else if (m_session->isChanged()) {
+        event->ignore();
+        askBeforeEnd();
+    } else if (m_session->isOpen()) {
+        m_session->end();
+    }
+}
+
+void MainWindow::saveFailed(const QString& imagePath, const QString& reason)
+{
+    m_isClosing = false;
+    QString why = obstacleText(obstacleIn(m_session->folder()), m_session->folder());
+    if (why.isEmpty())
+        why = reason;
+    const QString what = hostText(QStringLiteral("This chart could not be saved.")) + QLatin1Char(' ') + why;
+    QMessageBox* box = messageBox(this, MessageKind::Warning, what.trimmed(), imagePath);
+    QPushButton* again = box->addButton(hostText(QStringLiteral("Try again")), QMessageBox::AcceptRole);
+    QPushButton* elsewhere =
+        box->addButton(hostText(QStringLiteral("Save elsewhere…")), QMessageBox::ActionRole);
+    box->setEscapeButton(
+        box->addButton(hostText(QStringLiteral("Continue editing")), QMessageBox::RejectRole));
+    box->setDefaultButton(again);
+    connect(again, &QPushButton::clicked, this, [this] { m_session->retry(m_session->folder()); });
+    connect(elsewhere, &QPushButton::clicked, this, &MainWindow::saveElsewhere);
+    box->open();
+}
+
+void MainWindow::saveElsewhere()
+{
+    const QString folder = QFileDialog::getExistingDirectory(
+        this, hostText(QStringLiteral("Choose the folder of the charts")), QDir::homePath());
+    if (!folder.isEmpty())
+        m_session->retry(folder);
+}
+
+void MainWindow::offerDrafts()
+{
+    m_abandoned = DraftFolder::takeAbandoned(draftsRoot());
+    offerNextDraft();
+}
+
+void MainWindow::offerNextDraft()
+{
+    if (m_abandoned.empty())
+        return;
+    bool isValid = false;
+    const Draft draft = m_abandoned.front()->read(&isValid);
+    if (!isValid) {
+        m_abandoned.erase(m_abandoned.begin()); // it stays where it is, for who can read it
+        offerNextDraft();
+        return;
+    }
+    const QString name = draft.editedImage.isEmpty() ? hostText(QStringLiteral("New chart"))
+                                                     : QFileInfo(draft.editedImage).fileName();
+    const QString when = localeOf(m_language).toString(draft.changed, QLocale::ShortFormat);
+    QMessageBox* box = messageBox(
+        this, MessageKind::Question, hostText(QStringLiteral("An edit was not finished. Continue with it?")),
+        hostText(QStringLiteral("%1, last changed %2")).arg(name, when) + QLatin1Char('\n') + draft.folder);
+    QPushButton* resume =
+        box->addButton(hostText(QStringLiteral("Continue editing")), QMessageBox::AcceptRole);
+    QPushButton* discard =
+        box->addButton(hostText(QStringLiteral("Discard changes")), QMessageBox::DestructiveRole);
+    QPushButton* later = box->addButton(hostText(QStringLiteral("Later")), QMessageBox::RejectRole);
+    box->setDefaultButton(resume);
+    box->setEscapeButton(later);
+    connect(resume, &QPushButton::clicked, this, [this, draft] { resumeDraft(draft); });
+    connect(discard, &QPushButton::clicked, this, [this] {
+        m_abandoned.front()->remove();
+        m_abandoned.erase(m_abandoned.begin());
+        offerNextDraft();
+    });
+    connect(later, &QPushButton::clicked, this, [this] { m_abandoned.clear(); });
+    box->open();
+}
+
+void MainWindow::resumeDraft(const Draft& draft)
+{
+    auto folder = std::move(m_abandoned.front());
+    m_abandoned.erase(m_abandoned.begin());
+    if (draft.folder != m_folder)
+        setFolder(draft.folder);
+    m_session->resume(std::move(folder), draft);
+    openEditor();
+}
+
+QMessageBox* MainWindow::tell(const QString& what, const QString& details)
+{
+    QMessageBox* box = messageBox(this, MessageKind::Warning, what, details);
+    box->addButton(QMessageBox::Ok);
+    box->open();
+    return box;
 }

@@ -1,17 +1,22 @@
 #pragma once
 
+#include "draftkeeper.h"
+
 #include <vtestcharttools.h>
 
-#include <QFileSystemWatcher>
-#include <QJsonObject>
 #include <QMainWindow>
 
+#include <memory>
+#include <vector>
+
+class ChartList;
+class EditSession;
 class QAction;
 class QActionGroup;
 class QLabel;
-class QListWidget;
-class QListWidgetItem;
+class QMessageBox;
 class QStackedWidget;
+class ToolkitTexts;
 
 /// The reference host: a list of the saved charts, and the editor for a new chart or for one of them.
 class MainWindow : public QMainWindow
@@ -21,47 +26,60 @@ class MainWindow : public QMainWindow
 public:
     /// `folder` is where charts are saved; it is created with the first chart.
     explicit MainWindow(const QString& folder);
+    ~MainWindow() override;
 
     /// The language of the window and of the editor: the code of one of `languages()`.
     void switchLanguage(const QString& language);
 
     void addChart();
+    /// Asks what is to become of the edits that were not ended, the latest first.
+    void offerDrafts();
     vardeno::testcharttools::VTestChartTools* editor() const { return m_editor; }
+    EditSession* session() const { return m_session; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void createActions();
+    QAction* createAction(const QKeySequence& shortcut, void (MainWindow::*slot)());
     void loadLanguages();
     QWidget* createListPage();
     QWidget* createEditorPage();
+    void connectSession();
     void fitToEditor();
     void retranslate();
 
     void setFolder(const QString& folder);
     void chooseFolder();
-    void listCharts();
-    void selectChart(const QString& imagePath);
-    void loadNextThumbnail();
-    void editChart(const QString& imagePath);
+    void refresh();
+    void showCount();
     void editSelectedChart();
     void openEditor();
-    void finishEdit(const vardeno::testcharttools::TestChartToolsData& record, const QString& imagePath,
-                    vardeno::testcharttools::EditType type);
-    void storeRecord(vardeno::testcharttools::TestChartToolsData record, const QString& imagePath);
-    bool takePictureAlong(vardeno::testcharttools::TestChartToolsData& record, const QString& imagePath);
-    void tellOfFailure(const QString& what, const QString& details);
+    void chartSaved(const QString& imagePath);
+    void editEnded(const QString& imagePath);
+    void askBeforeEnd();
+    void endEdit();
+    void saveFailed(const QString& imagePath, const QString& reason);
+    void saveElsewhere();
+    void offerNextDraft();
+    void resumeDraft(const Draft& draft);
+    QMessageBox* tell(const QString& what, const QString& details);
 
     QString m_folder;
-    QString m_editedImage;     ///< the chart that is being replaced, empty for a new one
-    QString m_supersededImage; ///< replaced, and about to disappear from the disk
-    QJsonObject m_document;    ///< the edited chart's record file as it was read, empty for a new one
-    QFileSystemWatcher m_watcher;
+    QString m_language;
+    bool m_isClosing = false; ///< as soon as the edit has ended
+    std::vector<std::unique_ptr<DraftFolder>> m_abandoned;
+    ToolkitTexts* m_toolkitTexts;
     QStackedWidget* m_pages;
-    QListWidget* m_list;
+    ChartList* m_list;
     QLabel* m_hint;
     vardeno::testcharttools::VTestChartTools* m_editor;
+    EditSession* m_session;
     QAction* m_new;
     QAction* m_edit;
     QAction* m_choose;
+    QAction* m_refresh;
     QAction* m_quit;
     QActionGroup* m_languages;
 };

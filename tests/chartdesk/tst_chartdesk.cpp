@@ -1,4 +1,5 @@
 #include "chartfolderlist.h"
+#include "hosttext.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "testcase.h"
@@ -181,7 +182,7 @@ private Q_SLOTS:
         window.show();
         QVERIFY(addChart(window));
         QVERIFY(addChart(window));
-        QCOMPARE(ChartFolderList::nextNumber(folder.path()), 3);
+        QCOMPARE(ChartFolderList::nextNumber(folder.path(), chartNames()), 3);
     }
 
     void theSavedChartIsTheSelectedOne()
@@ -273,8 +274,9 @@ private Q_SLOTS:
         QTRY_COMPARE(document(second).value(QStringLiteral("logoData")), QJsonValue(logo));
         QTRY_VERIFY_WITH_TIMEOUT(!QFileInfo::exists(first), 5000);
         QVERIFY(QFileInfo(second).dir().exists(QStringLiteral("pictures/logo.png")));
-        QCOMPARE(window.editor()->getTestChartToolsData().logoData.picturePath,
-                 QFileInfo(second).dir().filePath(QStringLiteral("pictures/logo.png")).toStdString());
+        QCOMPARE(QImage(QFileInfo(second).dir().filePath(QStringLiteral("pictures/logo.png"))), picture);
+        const auto edited = window.editor()->getTestChartToolsData();
+        QCOMPARE(QImage(QString::fromStdString(edited.logoData.picturePath)), picture);
     }
 
     void failureNamesTheFile()

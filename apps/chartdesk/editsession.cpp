@@ -1,0 +1,337 @@
+#include "editsession.h"
+
+#include "chartfolderlist.h"
+#include "hosttext.h"
+
+#include <basicsettingbox.h>
+#include <chartrecordfile.h>
+#include <inlinesettingbox.h>
+#include <logosettingbox.h>
+#include <publicsettingbox.h>
+#include <selfsettingbox.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+/// The editor writes no image under an ending that is spelled otherwise.
+QString nameForEditor(const QString& imagePath)
+{
+    const QFileInfo image(imagePath);
+    return image.completeBaseName() + QLatin1Char('.') + image.suffix().toLower();
+}
+
+QString uploadedName(const QString& picture)
+{
+    return QLatin1String("pictures/") + QFileInfo(picture).fileName();
+}
+
+/// "<folder>/<name>", or with a number where that is taken: a picture that is shown is never written over.
+QString freePath(const QString& folder, const QString& name)
+{
+    const QFileInfo wanted(folder + QLatin1Char('/') + name);
+    QString path = wanted.filePath();
+    for (int number = 2; QFileInfo::exists(path); ++number)
+        path = QStringLiteral("%1/%2-%3.%4")
+                   .arg(wanted.path(), wanted.completeBaseName(), QString::number(number), wanted.suffix());
+    return path;
+}
+
+} // namespace
+
+EditSession::EditSession(VTestChartTools* editor, QObject* parent)
+    : QObject(parent)
+    , m_editor(editor)
+    , m_keeper([this] { return collect(); })
+    , m_store(QString())
+{
+    connectEditor();
+    connectChanges();
+}
+
+void EditSession::connectEditor()
+{
+    connect(
+        m_editor, &VTestChartTools::sigTestToolEditDone, this,
+        [this](const TestChartToolsData&, const QString& path, EditType type) { editorDone(type, path); });
+    connect(m_editor, &VTestChartTools::sigFail, this, [this] {
+        const QString path = m_editor->failedPath();
+        fail(takeSave(path), path, QString());
+    });
+    // The editor's own slots come first: they have taken the picture when the record is taken here.
+    const auto buttons = m_editor->findChildren<QPushButton*>(QStringLiteral("ADDButton"));
+    QList<QPushButton*> ofEdit;
+    for (QPushButton* button : buttons) {
+        if (button->parentWidget()->objectName() == QLatin1String("saveWidget"))
+            ofEdit.append(button); // to add, to confirm a replacement, to apply one
+    }
+    Q_ASSERT(ofEdit.size() == 3);
+    connect(ofEdit.at(0), &QPushButton::clicked, this, [this] { saveBegan(true); });
+    connect(ofEdit.at(1), &QPushButton::clicked, this, &EditSession::editorConfirmed);
+    connect(ofEdit.at(2), &QPushButton::clicked, this, [this] { saveBegan(false); });
+}
+
+void EditSession::connectChanges()
+{
+    const auto touch = [this] { m_keeper.touch(); };
+    connect(m_editor->findChild<BasicSettingBox*>(), &BasicSettingBox::basicSignal, this, touch);
+    connect(m_editor->findChild<PublicSettingBox*>(), &PublicSettingBox::publicSignal, this, touch);
+    connect(m_editor->findChild<InLineSettingBox*>(), &InLineSettingBox::inlineSignal, this, touch);
+    connect(m_editor->findChild<SelfSettingBox*>(), &SelfSettingBox::selfSignal, this, touch);
+    auto* logo = m_editor->findChild<LogoSettingBox*>();
+    connect(logo, &LogoSettingBox::logoSignal, this, touch);
+    connect(
+        logo, &LogoSettingBox::logoSignal, this, [this] { takePictureIn(); }, Qt::QueuedConnection);
+}
+
+void EditSession::add(const QString& folder)
+{
+    m_editor->setShowForAdd(true); // with the colour bar of a new chart
+    m_editor->applyRecord(TestChartToolsData());
+    Draft draft;
+    draft.folder = folder;
+    draft.record = m_editor->getTestChartToolsData();
+    open(draft, DraftFolder::create(draftsRoot()));
+    m_unchanged = current();
+}
+
+QStringList EditSession::edit(const QString& folder, const QString& imagePath)
+{
+    const QByteArray digest = recordDigest(imagePath);
+    auto reading = ChartRecordFile::read(ChartFolderList::recordPath(imagePath));
+    if (!reading.problems.isEmpty())
+        return reading.problems;
+
+    auto draftFolder = DraftFolder::create(draftsRoot());
+    Draft draft{folder, imagePath, digest, reading.document, reading.record, {}};
+    std::string& picture = draft.record.logoData.picturePath;
+    const QString path = QString::fromStdString(picture);
+    if (!path.isEmpty() && draftFolder) {
+        const QString within = pathWithin(QFileInfo(imagePath).path(), path);
+        const QString copy =
+            draftFolder->picturesPath() + QLatin1Char('/') + (within.isEmpty() ? uploadedName(path) : within);
+        QDir().mkpath(QFileInfo(copy).path());
+        QFile::copy(path, copy);
+        picture = copy.toStdString();
+    }
+    open(draft, std::move(draftFolder));
+    m_unchanged = current();
+    if (!path.isEmpty() && !QFileInfo(path).isFile())
+        Q_EMIT pictureMissing(QFileInfo(path).fileName());
+    return {};
+}
+
+void EditSession::resume(std::unique_ptr<DraftFolder> folder, const Draft& draft)
+{
+    open(draft, std::move(folder));
+    m_unchanged.clear(); // nothing that is saved is like it
+}
+
+void EditSession::open(const Draft& draft, std::unique_ptr<DraftFolder> folder)
+{
+    m_edited = draft;
+    if (!QFileInfo::exists(draft.editedImage))
+        m_edited.editedImage.clear(); // the draft of a chart that is gone is a new one
+    m_keeper.start(std::move(folder));
+    m_store = ChartStore(draft.folder);
+    m_lastSaved.clear();
+    m_isOpen = true;
+    prepareSave();
+    show(draft.record);
+    m_editor->updateShowSaveBtnStatus(true);
+}
+
+/// The colour bar of a chart that is added would take its default colours.
+void EditSession::show(const TestChartToolsData& record)
+{
+    m_editor->setShowForAdd(false);
+    m_editor->applyRecord(record);
+    m_editor->setShowForAdd(m_edited.editedImage.isEmpty());
+}
+
+QString EditSession::chartName() const
+{
+    return QFileInfo(m_edited.editedImage).fileName();
+}
+
+bool EditSession::isChanged() const
+{
+    return m_isOpen && current() != m_unchanged;
+}
+
+QByteArray EditSession::current() const
+{
+    return ChartRecordFile::toJson(m_editor->getTestChartToolsData());
+}
+
+Draft EditSession::collect() const
+{
+    Draft draft = m_edited;
+    draft.record = m_editor->getTestChartToolsData();
+    return draft;
+}
+
+void EditSession::end()
+{
+    m_isOpen = false;
+    m_keeper.end();
+    m_store = ChartStore(QString());
+    Q_EMIT ended(m_lastSaved);
+}
+
+void EditSession::prepareSave()
+{
+    m_saveRoot = m_store.nextSaveRoot();
+    m_editor->setSavePath(m_saveRoot, QStringLiteral("preview"));
+    m_editor->setTestImageNum(ChartFolderList::nextNumber(m_store.folder(), chartNames()));
+    m_editor->setCurrentEditNum(nameForEditor(m_edited.editedImage));
+}
+
+void EditSession::saveBegan(bool ends)
+{
+    if (!m_isOpen)
+        return;
+    m_saves.push_back({m_saveRoot, m_editor->getTestChartToolsData(), ends});
+    prepareSave();
+}
+
+void EditSession::confirm()
+{
+    m_failed.ends = true;
+    retry(m_store.folder());
+}
+
+void EditSession::retry(const QString& folder)
+{
+    if (folder != m_store.folder()) {
+        m_store = ChartStore(folder);
+        m_edited.folder = folder;
+    }
+    prepareSave();
+    m_editor->updateShowSaveBtnStatus(true);
+    if (m_editor->isShowForAdd())
+        m_editor->slotAddConfirmButtonClicked();
+    else if (m_failed.ends)
+        m_editor->slotReplaceConfirmButtonClicked();
+    else
+        m_editor->slotReplaceApplyButtonClicked();
+    saveBegan(m_failed.ends);
+}
+
+EditSession::Save EditSession::takeSave(const QString& path)
+{
+    const auto it = std::find_if(m_saves.begin(), m_saves.end(), [&](const Save& save) {
+        return path.startsWith(save.root + QLatin1Char('/'));
+    });
+    if (it == m_saves.end())
+        return {QString(), m_editor->getTestChartToolsData(), true}; // not begun by this desk
+    const Save save = *it;
+    m_saves.erase(it);
+    return save;
+}
+
+void EditSession::editorDone(EditType type, const QString& path)
+{
+    if (!m_isOpen)
+        return;
+    if (!path.isEmpty()) {
+        publish(takeSave(path), path);
+        return;
+    }
+    m_isUnsavedConfirm = type == ReplaceConfirmOnlyCancle;
+    if (isSaving())
+        m_saves.back().ends = true; // its outcome decides
+    else if (type == Cancle && isChanged())
+        Q_EMIT cancelled();
+    else
+        end();
+}
+
+void EditSession::editorConfirmed()
+{
+    if (!m_isUnsavedConfirm)
+        saveBegan(true);
+    m_isUnsavedConfirm = false;
+}
+
+void EditSession::publish(const Save& save, const QString& path)
+{
+    const auto published = m_store.publish(path, save.record, m_edited.document, pictureName(save.record));
+    if (published.image.isEmpty())
+        fail(save, path, published.problem);
+    else
+        accept(save, published.image);
+}
+
+void EditSession::accept(const Save& save, const QString& image)
+{
+    const QString replaced = m_edited.editedImage;
+    if (!pathWithin(m_store.folder(), replaced).isEmpty()) {
+        if (recordDigest(replaced) == m_edited.editedDigest)
+            removeChartFiles(replaced);
+        else if (QFileInfo::exists(replaced))
+            Q_EMIT replacedChartKept(replaced);
+    }
+    m_edited.editedImage = image;
+    m_edited.editedDigest = recordDigest(image);
+    m_unchanged = ChartRecordFile::toJson(save.record);
+    m_lastSaved = image;
+    Q_EMIT saved(image);
+    if (!isChanged()) {
+        m_keeper.forget();
+        if (save.ends && !isSaving()) {
+            end();
+            return;
+        }
+    }
+    const bool isChangedSince = isChanged();
+    m_editor->setShowForAdd(false);
+    prepareSave();
+    if (isChangedSince) {
+        m_editor->updateShowSaveBtnStatus(true);
+        m_keeper.touch();
+    }
+}
+
+void EditSession::fail(const Save& save, const QString& path, const QString& reason)
+{
+    m_failed = save;
+    m_editor->updateShowSaveBtnStatus(true);
+    Q_EMIT failed(m_store.finalPath(path), reason);
+}
+
+/// A picture that was just uploaded lies where the next of its name, for another client's chart, replaces it.
+void EditSession::takePictureIn()
+{
+    if (!m_isOpen || !m_keeper.folder())
+        return;
+    TestChartToolsData record = m_editor->getTestChartToolsData();
+    const QString picture = QString::fromStdString(record.logoData.picturePath);
+    const QString folder = m_keeper.folder()->picturesPath();
+    if (!pathWithin(folder, picture).isEmpty() || !QFileInfo(picture).isFile())
+        return;
+    const QString copy = freePath(folder, uploadedName(picture));
+    QDir().mkpath(QFileInfo(copy).path());
+    if (!QFile::copy(picture, copy))
+        return;
+    record.logoData.picturePath = copy.toStdString();
+    show(record);
+}
+
+/// Where the record's picture is to lie in the chart's folder, empty for one that is built in or missing.
+QString EditSession::pictureName(const TestChartToolsData& record) const
+{
+    const QString picture = QString::fromStdString(record.logoData.picturePath);
+    const QString within = m_keeper.folder() ? pathWithin(m_keeper.folder()->picturesPath(), picture)
+                                             : pathWithin(QFileInfo(m_edited.editedImage).path(), picture);
+    if (!within.isEmpty())
+        return within;
+    return QFileInfo(picture).isFile() ? uploadedName(picture) : QString();
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "chartstore.h"
+#include "draftkeeper.h"
+
+#include <vtestcharttools.h>
+
+#include <QObject>
+
+#include <vector>
+
+class QPushButton;
+
+/// One edit at a time, from the opening of a chart until it is saved or given up: what it replaces, what it
+/// has changed, its draft, and the way of a saved chart into its folder.
+class EditSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit EditSession(vardeno::testcharttools::VTestChartTools* editor, QObject* parent = nullptr);
+
+    /// Opens a new chart, to be saved in `folder`.
+    void add(const QString& folder);
+    /// Opens the chart `imagePath` of `folder`; what is wrong with its record, and nothing is opened then.
+    QStringList edit(const QString& folder, const QString& imagePath);
+    /// Goes on with an edit that was not ended.
+    void resume(std::unique_ptr<DraftFolder> folder, const Draft& draft);
+
+    bool isOpen() const { return m_isOpen; }
+    bool isSaving() const { return !m_saves.empty(); }
+    /// Whether something would be lost if the edit ended now.
+    bool isChanged() const;
+    /// The folder that the chart is saved in.
+    QString folder() const { return m_store.folder(); }
+    /// The name of the chart's file, empty for a new one.
+    QString chartName() const;
+
+    /// Saves and ends the edit, as its confirm button does.
+    void confirm();
+    /// Saves in `folder` what could not be saved.
+    void retry(const QString& folder);
+    /// Ends the edit; what is not saved is given up.
+    void end();
+
+Q_SIGNALS:
+    /// The chart stands in its folder now.
+    void saved(const QString& imagePath);
+    /// The edit has ended; `imagePath` is the last that it saved, empty for none.
+    void ended(const QString& imagePath);
+    /// The user wants to end an edit that has changes.
+    void cancelled();
+    /// The chart could not become `imagePath`; `reason` may be empty. `retry` is possible.
+    void failed(const QString& imagePath, const QString& reason);
+    /// The chart's picture `name` is not where its record says.
+    void pictureMissing(const QString& name);
+    /// The replaced chart was changed by somebody else while it was edited here: both are kept.
+    void replacedChartKept(const QString& imagePath);
+
+private:
+    /// One that the editor is writing, as it was when that began.
+    struct Save
+    {
+        QString root;
+        vardeno::testcharttools::TestChartToolsData record;
+        bool ends;
+    };
+
+    void connectEditor();
+    void connectChanges();
+    void open(const Draft& draft, std::unique_ptr<DraftFolder> folder);
+    void show(const vardeno::testcharttools::TestChartToolsData& record);
+    void prepareSave();
+    void saveBegan(bool ends);
+    Save takeSave(const QString& path);
+    void editorDone(vardeno::testcharttools::EditType type, const QString& path);
+    void editorConfirmed();
+    void publish(const Save& save, const QString& path);
+    void accept(const Save& save, const QString& image);
+    void fail(const Save& save, const QString& path, const QString& reason);
+    Draft collect() const;
+    QByteArray current() const;
+    void takePictureIn();
+    QString pictureName(const vardeno::testcharttools::TestChartToolsData& record) const;
+
+    vardeno::testcharttools::VTestChartTools* m_editor;
+    DraftKeeper m_keeper;
+    ChartStore m_store;
+    Draft m_edited; ///< what is being edited, as it was opened or last saved
+    QByteArray m_unchanged;
+    QString m_saveRoot;
+    QString m_lastSaved;
+    std::vector<Save> m_saves;
+    Save m_failed;
+    bool m_isOpen = false;
+    bool m_isUnsavedConfirm = false; ///< a confirmation has just found nothing to save
+};

@@ -1,0 +1,95 @@
+#include "obstacle.h"
+
+#include "hosttext.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <QUuid>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+
+namespace {
+
+constexpr qint64 roomOfAChart = 64 << 20; ///< bytes; what the largest ones take
+
+/// Writes a little; the error number, 0 for success.
+int writeTrial(const QString& path)
+{
+    errno = 0;
+    std::FILE* file = std::fopen(QFile::encodeName(path).constData(), "wbx");
+    if (!file)
+        return errno;
+    const QByteArray bytes(64 * 1024, '\0');
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), file);
+    const int written = std::fflush(file) == 0 ? 0 : errno;
+    std::fclose(file);
+    QFile::remove(path);
+    return written;
+}
+
+} // namespace
+
+Obstacle obstacleOf(int error)
+{
+    switch (error) {
+    case 0:
+        return Obstacle::None;
+    case EACCES:
+    case EPERM:
+        return Obstacle::NoPermission;
+    case EROFS:
+        return Obstacle::ReadOnly;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return Obstacle::NoSpace;
+    case ENOTDIR:
+    case EEXIST:
+        return Obstacle::NotAFolder;
+    case ENOENT:
+        return Obstacle::Gone;
+    default:
+        return Obstacle::Other;
+    }
+}
+
+Obstacle obstacleIn(const QString& folder)
+{
+    const bool isThere = QFileInfo(folder).isDir();
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
+    if (error)
+        return obstacleOf(error.value());
+    const QString trial = folder + QLatin1String("/.chartdesk-") + QUuid::createUuid().toString(QUuid::Id128);
+    const Obstacle found = obstacleOf(writeTrial(trial));
+    if (!isThere)
+        QDir().rmdir(folder);
+    if (found != Obstacle::None)
+        return found;
+    return QStorageInfo(folder).bytesAvailable() < roomOfAChart ? Obstacle::NoSpace : Obstacle::None;
+}
+
+QString obstacleText(Obstacle obstacle, const QString& folder)
+{
+    switch (obstacle) {
+    case Obstacle::NoPermission:
+        return hostText(QStringLiteral("You have no permission to write into “%1”.")).arg(folder);
+    case Obstacle::ReadOnly:
+        return hostText(QStringLiteral("“%1” lies on a disk that can only be read.")).arg(folder);
+    case Obstacle::NoSpace:
+        return hostText(QStringLiteral("There is no space left on the disk of “%1”.")).arg(folder);
+    case Obstacle::NotAFolder:
+        return hostText(QStringLiteral("“%1” cannot be a folder: a file is in its way.")).arg(folder);
+    case Obstacle::Gone:
+        return hostText(QStringLiteral("The folder “%1” is gone.")).arg(folder);
+    case Obstacle::None:
+    case Obstacle::Other:
+        break;
+    }
+    return {};
+}

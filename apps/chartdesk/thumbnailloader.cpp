@@ -1,0 +1,74 @@
+#include "thumbnailloader.h"
+
+#include <QImageReader>
+#include <QPainter>
+#include <QRunnable>
+#include <QThread>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+QImage thumbnail(const QString& path, const QSize& size)
+{
+    QImage canvas(size, QImage::Format_RGB32);
+    canvas.fill(Qt::black);
+    QImageReader reader(path);
+    const QSize scaled = reader.size().scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    reader.setScaledSize(scaled);
+    QPainter painter(&canvas);
+    painter.drawImage((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2,
+                      reader.read());
+    return canvas;
+}
+
+class Job : public QRunnable
+{
+public:
+    explicit Job(std::function<void()> work)
+        : m_work(std::move(work))
+    {
+    }
+
+    void run() override
+    {
+        QThread::currentThread()->setPriority(QThread::LowPriority);
+        m_work();
+    }
+
+private:
+    std::function<void()> m_work;
+};
+
+} // namespace
+
+ThumbnailLoader::ThumbnailLoader(QObject* parent)
+    : QObject(parent)
+{
+    m_pool.setMaxThreadCount(std::max(1, QThread::idealThreadCount() - 1));
+}
+
+ThumbnailLoader::~ThumbnailLoader()
+{
+    m_pool.clear();
+    m_pool.waitForDone();
+}
+
+void ThumbnailLoader::load(const QString& path, const QSize& size, int ticket)
+{
+    m_pool.start(new Job([this, path, size, ticket, round = m_round] {
+        const QImage picture = thumbnail(path, size);
+        const auto tell = [this, picture, ticket, round] {
+            if (round == m_round)
+                Q_EMIT loaded(ticket, picture);
+        };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    }));
+}
+
+void ThumbnailLoader::clear()
+{
+    m_pool.clear();
+    ++m_round;
+}
