@@ -1,0 +1,90 @@
+#include "editorlook.h"
+#include "testcase.h"
+
+#include <basicsettingbox.h>
+#include <customdialog.h>
+#include <vtestcharttools.h>
+
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace vardeno::testcharttools;
+
+/// What the desk arranges in the editor.
+class TestEditorLook : public TestCase
+{
+    Q_OBJECT
+
+private:
+    static QList<QPushButton*> visibleButtons(const VTestChartTools& editor)
+    {
+        QList<QPushButton*> found;
+        const auto* bar = editor.findChild<QWidget*>("saveWidget");
+        for (QPushButton* button : bar->findChildren<QPushButton*>()) {
+            if (button->isVisible())
+                found.append(button);
+        }
+        std::sort(found.begin(), found.end(),
+                  [](const QPushButton* a, const QPushButton* b) { return a->x() < b->x(); });
+        return found;
+    }
+
+    static QColor backgroundOf(QPushButton* button)
+    {
+        return button->grab().toImage().pixelColor(button->width() / 2, 4);
+    }
+
+private Q_SLOTS:
+    void confirmStaysInItsPlaceAndIsTheOnlyBlueButton()
+    {
+        VTestChartTools editor;
+        new EditorLook(&editor);
+        editor.show();
+        editor.setShowForAdd(true);
+        QTest::qWait(300); // painted and unlocked
+        const auto adding = visibleButtons(editor);
+        QCOMPARE(adding.size(), 2);
+        const QRect confirm = adding.last()->geometry();
+        const QColor blue = backgroundOf(adding.last());
+
+        editor.setShowForAdd(false);
+        QTRY_COMPARE(visibleButtons(editor).size(), 3);
+        QTRY_COMPARE(visibleButtons(editor).last()->geometry(), confirm);
+        const auto editing = visibleButtons(editor);
+        QCOMPARE(editing.at(2)->text(), QString("Confirm"));
+        QCOMPARE(editing.at(1)->text(), QString("Apply"));
+        QCOMPARE(backgroundOf(editing.at(2)), blue);
+        QVERIFY(backgroundOf(editing.at(1)) != blue);
+        QCOMPARE(backgroundOf(editing.at(1)), backgroundOf(editing.at(0)));
+    }
+
+    void theQuestionStaysInTheWindowAndOffItsButton()
+    {
+        VTestChartTools editor;
+        new EditorLook(&editor);
+        editor.move(0, 0);
+        editor.show();
+        auto* panel = editor.findChild<BasicSettingBox*>();
+        for (QRadioButton* radio : panel->findChildren<QRadioButton*>())
+            if (radio->text() == "Color bar")
+                radio->click();
+        auto* button = panel->findChild<QPushButton*>("CancleButton");
+        QTRY_VERIFY(button->isVisible() && button->isEnabled());
+        CustomDialog* question = nullptr;
+        QTRY_VERIFY([&] {
+            QTest::mouseClick(button, Qt::LeftButton);
+            for (QWidget* widget : QApplication::topLevelWidgets())
+                if (auto* found = qobject_cast<CustomDialog*>(widget))
+                    question = found;
+            return question && question->isVisible();
+        }());
+        const QRect place(button->mapToGlobal(QPoint()), button->size());
+        const QRect window(editor.mapToGlobal(QPoint()), editor.size());
+        QVERIFY(!question->geometry().intersects(place));
+        QVERIFY(window.contains(question->geometry()));
+        question->close();
+    }
+};
+
+VD_TEST_MAIN(TestEditorLook)
+#include "tst_editorlook.moc"
