@@ -448,8 +448,8 @@
         <translation>Das Logo dieses Testbilds fehlt:</translation>
     </message>
     <message>
-        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
-        <translation>Dieses Testbild wurde inzwischen anderswo geändert und bleibt deshalb neben Ihrem bestehen:</translation>
+        <source>Somebody changed this chart meanwhile; both are kept:</source>
+        <translation>Jemand hat dieses Testbild inzwischen geändert; beide bleiben erhalten:</translation>
     </message>
 </context>
 </TS>

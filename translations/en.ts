@@ -448,8 +448,8 @@
         <translation>The logo of this chart is missing:</translation>
     </message>
     <message>
-        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
-        <translation>This chart was changed elsewhere meanwhile, so it is kept beside yours:</translation>
+        <source>Somebody changed this chart meanwhile; both are kept:</source>
+        <translation>Somebody changed this chart meanwhile; both are kept:</translation>
     </message>
 </context>
 </TS>

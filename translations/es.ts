@@ -448,8 +448,8 @@
         <translation>Falta el logotipo de esta carta:</translation>
     </message>
     <message>
-        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
-        <translation>Esta carta se ha modificado entretanto en otro lugar, así que se conserva junto a la suya:</translation>
+        <source>Somebody changed this chart meanwhile; both are kept:</source>
+        <translation>Alguien ha modificado entretanto esta carta; se conservan ambas:</translation>
     </message>
 </context>
 </TS>

@@ -448,7 +448,7 @@
         <translation>このテストパターンのロゴが見つかりません:</translation>
     </message>
     <message>
-        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
+        <source>Somebody changed this chart meanwhile; both are kept:</source>
         <translation>このテストパターンは別の場所で変更されたため、両方を残しました:</translation>
     </message>
 </context>

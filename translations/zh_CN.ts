@@ -448,8 +448,8 @@
         <translation>此测试图缺少徽标：</translation>
     </message>
     <message>
-        <source>This chart was changed elsewhere meanwhile, so it is kept beside yours:</source>
-        <translation>此测试图同时在别处被更改，因此与您的版本一并保留：</translation>
+        <source>Somebody changed this chart meanwhile; both are kept:</source>
+        <translation>此测试图同时被他人更改，两个版本均已保留：</translation>
     </message>
 </context>
 </TS>

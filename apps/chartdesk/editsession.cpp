@@ -304,6 +304,7 @@ void EditSession::fail(const Save& save, const QString& path, const QString& rea
 {
     m_failed = save;
     m_editor->updateShowSaveBtnStatus(true);
+    m_editor->slotGetHeightWidth(); // at whose end the replacement's Confirm works again, too
     Q_EMIT failed(m_store.finalPath(path), reason);
 }
 

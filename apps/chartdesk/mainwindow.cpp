@@ -94,9 +94,7 @@ void MainWindow::connectSession()
         tell(hostText(QStringLiteral("The logo of this chart is missing:")), name);
     });
     connect(m_session, &EditSession::replacedChartKept, this, [this](const QString& image) {
-        tell(hostText(
-                 QStringLiteral("This chart was changed elsewhere meanwhile, so it is kept beside yours:")),
-             image);
+        tell(hostText(QStringLiteral("Somebody changed this chart meanwhile; both are kept:")), image);
     });
 }
 

@@ -32,6 +32,14 @@ int writeTrial(const QString& path)
     return written;
 }
 
+/// `folder` itself or the first above it that is there.
+QString nearestFolder(QString folder)
+{
+    while (!QFileInfo::exists(folder) && QFileInfo(folder).path() != folder)
+        folder = QFileInfo(folder).path();
+    return folder;
+}
+
 } // namespace
 
 Obstacle obstacleOf(int error)
@@ -60,18 +68,17 @@ Obstacle obstacleOf(int error)
 
 Obstacle obstacleIn(const QString& folder)
 {
-    const bool isThere = QFileInfo(folder).isDir();
+    const QString last = nearestFolder(folder);
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
     if (error)
         return obstacleOf(error.value());
     const QString trial = folder + QLatin1String("/.chartdesk-") + QUuid::createUuid().toString(QUuid::Id128);
     const Obstacle found = obstacleOf(writeTrial(trial));
-    if (!isThere)
-        QDir().rmdir(folder);
-    if (found != Obstacle::None)
-        return found;
-    return QStorageInfo(folder).bytesAvailable() < roomOfAChart ? Obstacle::NoSpace : Obstacle::None;
+    const bool hasRoom = QStorageInfo(folder).bytesAvailable() >= roomOfAChart;
+    for (QString made = folder; made != last && QDir().rmdir(made);)
+        made = QFileInfo(made).path();
+    return found == Obstacle::None && !hasRoom ? Obstacle::NoSpace : found;
 }
 
 QString obstacleText(Obstacle obstacle, const QString& folder)

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <ctime>
 #include <memory>
 
 using namespace chartfiles;
@@ -122,17 +123,18 @@ private Q_SLOTS:
         QTRY_COMPARE(colorOf(list.item(0)), QColor(Qt::blue));
     }
 
-    void manyChartsAreListedAtOnce()
+    /// In processor time, which others on the machine do not change.
+    void lookingAgainCostsLittle()
     {
         writeCharts(500);
         ChartList list;
-        QElapsedTimer timer;
-        timer.start();
         list.setFolder(m_folder->path());
         QCOMPARE(list.count(), 500);
-        timer.start();
+        QTRY_VERIFY_WITH_TIMEOUT(allLoaded(list), 60000);
+        const std::clock_t before = std::clock();
         list.refresh();
-        QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+        const double seconds = double(std::clock() - before) / CLOCKS_PER_SEC;
+        QVERIFY2(seconds < 0.3, qPrintable(QString::number(seconds))); // reading all pictures takes longer
     }
 
     void datesFollowTheLanguage()

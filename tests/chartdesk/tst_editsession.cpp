@@ -62,7 +62,7 @@ private:
     bool upload(const QString& path)
     {
         chooseInDialog(path);
-        return click(*m_window->editor(), QStringLiteral("Upload your logo")) && settle(*m_window);
+        return click(*m_window->editor(), QStringLiteral("Choose picture…")) && settle(*m_window);
     }
 
     QImage shownLogo() const
@@ -489,7 +489,7 @@ private Q_SLOTS:
         QVERIFY(!isEnded());
         for (const char* text : {"Confirm", "Apply"}) {
             if (QPushButton* button = buttonIn(*m_window, QLatin1String(text)))
-                QVERIFY2(button->isEnabled(), text);
+                QTRY_VERIFY2(button->isEnabled(), text);
         }
         QVERIFY(QFile::remove(at("charts")));
         QVERIFY(QDir().rename(at("moved"), at("charts")));
