@@ -52,6 +52,7 @@ EditSession::EditSession(VTestChartTools* editor, QObject* parent)
     , m_keeper([this] { return collect(); })
     , m_store(QString())
 {
+    m_editor->setSaveButtonsFollowState(true);
     connectEditor();
     connectChanges();
 }
@@ -63,7 +64,7 @@ void EditSession::connectEditor()
         [this](const TestChartToolsData&, const QString& path, EditType type) { editorDone(type, path); });
     connect(m_editor, &VTestChartTools::sigFail, this, [this] {
         const QString path = m_editor->failedPath();
-        fail(takeSave(path), path, QString());
+        fail(takeSave(path), path, m_editor->failedReason());
     });
     // The editor's own slots come first: they have taken the picture when the record is taken here.
     const auto buttons = m_editor->findChildren<QPushButton*>(QStringLiteral("ADDButton"));
@@ -304,7 +305,6 @@ void EditSession::fail(const Save& save, const QString& path, const QString& rea
 {
     m_failed = save;
     m_editor->updateShowSaveBtnStatus(true);
-    m_editor->slotGetHeightWidth(); // at whose end the replacement's Confirm works again, too
     Q_EMIT failed(m_store.finalPath(path), reason);
 }
 
