@@ -2,6 +2,7 @@
 
 #include "chartfolderlist.h"
 #include "hosttext.h"
+#include "newchart.h"
 
 #include <basicsettingbox.h>
 #include <chartrecordfile.h>
@@ -83,7 +84,9 @@ void EditSession::connectChanges()
 {
     const auto touch = [this] { m_keeper.touch(); };
     connect(m_editor->findChild<BasicSettingBox*>(), &BasicSettingBox::basicSignal, this, touch);
-    connect(m_editor->findChild<PublicSettingBox*>(), &PublicSettingBox::publicSignal, this, touch);
+    auto* wall = m_editor->findChild<PublicSettingBox*>();
+    connect(wall, &PublicSettingBox::publicSignal, this, touch);
+    connect(wall, &PublicSettingBox::publicSignal, this, &EditSession::fitToWall, Qt::QueuedConnection);
     connect(m_editor->findChild<InLineSettingBox*>(), &InLineSettingBox::inlineSignal, this, touch);
     connect(m_editor->findChild<SelfSettingBox*>(), &SelfSettingBox::selfSignal, this, touch);
     auto* logo = m_editor->findChild<LogoSettingBox*>();
@@ -95,12 +98,35 @@ void EditSession::connectChanges()
 void EditSession::add(const QString& folder)
 {
     m_editor->setShowForAdd(true); // with the colour bar of a new chart
-    m_editor->applyRecord(TestChartToolsData());
+    m_editor->applyRecord(newChart());
     Draft draft;
     draft.folder = folder;
     draft.record = m_editor->getTestChartToolsData();
     open(draft, DraftFolder::create(draftsRoot()));
     m_unchanged = current();
+    m_fresh = m_editor->getTestChartToolsData();
+}
+
+/// While nothing but the wall was chosen, the new chart is the one for that wall.
+void EditSession::fitToWall()
+{
+    if (!m_isOpen || !m_editor->isShowForAdd())
+        return;
+    const TestChartToolsData record = m_editor->getTestChartToolsData();
+    const PublicChartData& wall = record.publicData;
+    PublicChartData& before = m_fresh.publicData;
+    before.resolutionWidth = wall.resolutionWidth;
+    before.resolutionHeight = wall.resolutionHeight;
+    before.boxRow = wall.boxRow;
+    before.boxCol = wall.boxCol;
+    if (ChartRecordFile::toJson(record) != ChartRecordFile::toJson(m_fresh))
+        return;
+    TestChartToolsData fitted = newChart(wall);
+    fitted.basicData = record.basicData;
+    if (ChartRecordFile::toJson(fitted) == ChartRecordFile::toJson(record))
+        return;
+    show(fitted);
+    m_fresh = m_editor->getTestChartToolsData();
 }
 
 QStringList EditSession::edit(const QString& folder, const QString& imagePath)
@@ -140,6 +166,7 @@ void EditSession::open(const Draft& draft, std::unique_ptr<DraftFolder> folder)
     m_edited = draft;
     if (!QFileInfo::exists(draft.editedImage))
         m_edited.editedImage.clear(); // the draft of a chart that is gone is a new one
+    m_fresh = {};
     m_keeper.start(std::move(folder));
     m_store = ChartStore(draft.folder);
     m_lastSaved.clear();

@@ -81,6 +81,7 @@ private:
     Draft collect() const;
     QByteArray current() const;
     void takePictureIn();
+    void fitToWall();
     QString pictureName(const vardeno::testcharttools::TestChartToolsData& record) const;
 
     vardeno::testcharttools::VTestChartTools* m_editor;
@@ -88,6 +89,7 @@ private:
     ChartStore m_store;
     Draft m_edited; ///< what is being edited, as it was opened or last saved
     QByteArray m_unchanged;
+    vardeno::testcharttools::TestChartToolsData m_fresh; ///< a new chart as it began, for its wall
     QString m_saveRoot;
     QString m_lastSaved;
     std::vector<Save> m_saves;

@@ -2,6 +2,8 @@
 #include "deskwindow.h"
 #include "testcase.h"
 
+#include <publicsettingbox.h>
+#include <selfsettingbox.h>
 #include <translatemanager1.h>
 
 #include <QSettings>
@@ -49,7 +51,7 @@ private:
 
     bool isEnded() const { return isListShown(*m_window) && !m_window->session()->isOpen(); }
 
-    bool newChart() { return trigger(*m_window, QStringLiteral("New chart")) && settle(*m_window); }
+    bool openNewChart() { return trigger(*m_window, QStringLiteral("New chart")) && settle(*m_window); }
 
     /// Edits `image`, with other rows, and presses Confirm.
     bool replace(const QString& image, int rows)
@@ -69,6 +71,23 @@ private:
     {
         const auto record = m_window->editor()->getTestChartToolsData();
         return QImage(QString::fromStdString(record.logoData.picturePath));
+    }
+
+    void setResolution(int width, int height)
+    {
+        auto* panel = m_window->editor()->findChild<PublicSettingBox*>();
+        for (const auto& [value, shown] : {std::pair(width, 1920), std::pair(height, 1080)}) {
+            for (SpinEditBox* entry : panel->findChildren<SpinEditBox*>()) {
+                if (entry->value() != shown)
+                    continue;
+                entry->setFocus();
+                entry->selectAll();
+                QTest::keyClicks(entry, QString::number(value));
+                QTest::keyClick(entry, Qt::Key_Return);
+                QVERIFY(settle(*m_window));
+                break;
+            }
+        }
     }
 
     static int drafts() { return QDir(draftsRoot()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); }
@@ -172,7 +191,7 @@ private Q_SLOTS:
         openDesk();
         QMap<QString, QColor> expected;
         for (const char* client : {"A", "B"}) {
-            QVERIFY(newChart());
+            QVERIFY(openNewChart());
             QVERIFY(upload(clients.filePath(QLatin1String(client) + "/logo.png")));
             const QColor color = *client == 'A' ? Qt::red : Qt::blue;
             QTRY_COMPARE(shownLogo().pixelColor(0, 0), color);
@@ -189,13 +208,40 @@ private Q_SLOTS:
         }
     }
 
+    void aNewChartFitsItsWall_data()
+    {
+        QTest::addColumn<bool>("isTouched");
+        QTest::newRow("nothing else chosen") << false;
+        QTest::newRow("rows of the user's own first, then the resolution") << false;
+        QTest::newRow("a text of the user's own") << true;
+    }
+
+    void aNewChartFitsItsWall()
+    {
+        QFETCH(bool, isTouched);
+        openDesk();
+        QVERIFY(openNewChart());
+        const int circle = m_window->editor()->getTestChartToolsData().inLineData.circleSize;
+        if (QByteArray(QTest::currentDataTag()).startsWith("rows"))
+            QVERIFY(setRows(*m_window, 10));
+        if (isTouched)
+            m_window->editor()->findChild<SelfSettingBox*>()->findChild<QLineEdit*>()->setText("my wall");
+        setResolution(3840, 2160);
+        const auto record = m_window->editor()->getTestChartToolsData();
+        QCOMPARE(record.publicData.resolutionWidth, 3840);
+        QCOMPARE(record.publicData.resolutionHeight, 2160);
+        QCOMPARE(record.inLineData.circleSize, isTouched ? circle : 2 * circle);
+        QCOMPARE(int(record.basicData.colorStripeColors.size()), 5);
+        QVERIFY(m_window->editor()->isShowForAdd());
+    }
+
     void anotherLogoInOneEdit()
     {
         const QTemporaryDir clients;
         QVERIFY(writePicture(clients.filePath("A/logo.png"), Qt::red));
         QVERIFY(writePicture(clients.filePath("B/logo.png"), Qt::blue));
         openDesk();
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         for (const char* client : {"A", "B"})
             QVERIFY(upload(clients.filePath(QLatin1String(client) + "/logo.png")));
         QTRY_COMPARE(shownLogo().pixelColor(0, 0), QColor(Qt::blue));
@@ -223,12 +269,12 @@ private Q_SLOTS:
     void cancelAsksOnlyWhereSomethingChanged()
     {
         openDesk();
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(click(*m_window, "Cancel"));
         QVERIFY(isEnded());
         QVERIFY(!message(*m_window));
 
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(setRows(*m_window, 4));
         QVERIFY(click(*m_window, "Cancel"));
         QVERIFY(answer(*m_window, "Continue editing"));
@@ -277,7 +323,7 @@ private Q_SLOTS:
     void closingCanBeGivenUp()
     {
         openDesk();
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(setRows(*m_window, 4));
         QVERIFY(!m_window->close());
         QVERIFY(answer(*m_window, "Continue editing"));
@@ -290,7 +336,7 @@ private Q_SLOTS:
     void closingWaitsForASave()
     {
         openDesk();
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(click(*m_window, "Confirm"));
         QVERIFY(m_window->session()->isSaving());
         QVERIFY(!m_window->close());
@@ -366,7 +412,7 @@ private Q_SLOTS:
     void anUnfinishedEditCanWaitOrGo()
     {
         openDesk();
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(setRows(*m_window, 4));
         QTest::qWait(1200);
         m_window.reset();
@@ -405,7 +451,7 @@ private Q_SLOTS:
     void twoEditsHaveTwoDrafts()
     {
         openDesk();
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(setRows(*m_window, 4));
         MainWindow second(m_folder->path());
         second.show();
@@ -455,7 +501,7 @@ private Q_SLOTS:
         QVERIFY(writeFile(at("charts"), "in the way"));
         QVERIFY(QDir().mkpath(at("elsewhere")));
         openDesk(at("charts"));
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(setRows(*m_window, 4));
         QVERIFY(click(*m_window, "Confirm"));
         QTRY_VERIFY(message(*m_window));
@@ -481,7 +527,7 @@ private Q_SLOTS:
         QFETCH(bool, adds);
         QVERIFY(writeChart(at("charts/20240101_120000/a.png"), Qt::red));
         openDesk(at("charts"));
-        QVERIFY(adds ? newChart() : openChart(*m_window, at("charts/20240101_120000/a.png")));
+        QVERIFY(adds ? openNewChart() : openChart(*m_window, at("charts/20240101_120000/a.png")));
         QVERIFY(QDir().rename(at("charts"), at("moved")));
         QVERIFY(writeFile(at("charts"), "in the way"));
         QVERIFY(click(*m_window, "Confirm"));
@@ -501,7 +547,7 @@ private Q_SLOTS:
     void nothingUnfinishedIsLeftInTheFolder()
     {
         openDesk();
-        QVERIFY(newChart());
+        QVERIFY(openNewChart());
         QVERIFY(click(*m_window, "Confirm"));
         QTRY_VERIFY(isEnded());
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),

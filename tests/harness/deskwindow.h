@@ -83,7 +83,11 @@ inline bool settle(const MainWindow& window)
 {
     const auto* mask = window.editor()->findChild<QWidget*>(QStringLiteral("maskWidget"));
     const bool isCycle = QTest::qWaitFor([&] { return mask->isVisible(); }, 300);
-    const bool isDone = !isCycle || QTest::qWaitFor([&] { return mask->isHidden(); });
+    bool isDone = true;
+    while (isCycle && isDone && mask->isVisible()) {
+        isDone = QTest::qWaitFor([&] { return mask->isHidden(); });
+        QTest::qWait(50); // one change may set off another
+    }
     QTest::qWait(20); // the focus is given back
     return isDone;
 }
