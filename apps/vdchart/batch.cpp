@@ -41,13 +41,15 @@ Batch::~Batch()
     waitForEncoders(0);
 }
 
-ExitCode Batch::run(const std::atomic<bool>& stop)
+ExitCode Batch::run(const std::atomic<bool>& stop, const std::function<void()>& between)
 {
     ChartRenderer renderer(QString::fromStdString(m_arguments.language));
     const ProgressBar bar(int(m_plan.size()));
     int begun = 0;
     for (PlannedPicture& planned : m_plan) {
         waitForEncoders(m_atOnce - 1);
+        if (between)
+            between();
         if (planned.picture.isKept) {
             ++begun;
         } else if (stop) {
@@ -115,18 +117,23 @@ void Batch::finish(PlannedPicture& planned, const QImage& image)
         const QByteArray file =
             encodeImage(image, QString::fromStdString(m_arguments.format), m_arguments.compression);
         write(planned, file);
+        const QByteArray sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
+        const std::lock_guard<std::mutex> lock(m_results);
         planned.picture.size = image.size();
         planned.picture.bytes = file.size();
-        planned.picture.sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
+        planned.picture.sha256 = sha256;
     } catch (const Failure& failure) {
+        const std::lock_guard<std::mutex> lock(m_results);
         planned.fail(failure);
     } catch (const std::bad_alloc&) { // which a thread may not leave
+        const std::lock_guard<std::mutex> lock(m_results);
         planned.fail(outOfMemory());
     }
 }
 
 std::vector<BatchPicture> Batch::pictures() const
 {
+    const std::lock_guard<std::mutex> lock(m_results);
     std::vector<BatchPicture> pictures;
     for (const PlannedPicture& planned : m_plan)
         pictures.push_back(planned.picture);

@@ -6,6 +6,8 @@
 
 #include <atomic>
 #include <deque>
+#include <functional>
+#include <mutex>
 #include <thread>
 #include <vector>
 
@@ -21,9 +23,10 @@ public:
     ~Batch();
 
     /// Makes it, until `stop`. Pictures that were not begun by then have "interrupted" as their problem.
-    ExitCode run(const std::atomic<bool>& stop);
+    /// Calls `between` before each picture.
+    ExitCode run(const std::atomic<bool>& stop, const std::function<void()>& between = {});
 
-    /// In the order in which they were asked for.
+    /// In the order in which they were asked for, with what is known of them so far.
     std::vector<BatchPicture> pictures() const;
 
 private:
@@ -38,4 +41,5 @@ private:
     int m_atOnce;                       ///< encoders at the most
     std::deque<std::thread> m_encoders; ///< at work, in the order of their pictures
     std::atomic<bool> m_unwritable{false};
+    mutable std::mutex m_results; ///< of the pictures, which encoders write
 };

@@ -5,6 +5,7 @@
 #include "recordinput.h"
 #include "walls.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -105,6 +106,35 @@ void requireWritable(const Arguments& arguments, const std::vector<PlannedPictur
     file.cancelWriting();
 }
 
+/// Notes what is done from time to time: a batch that is killed can be resumed from there.
+class ManifestNotes
+{
+public:
+    ManifestNotes(const Arguments& arguments, const Batch& batch)
+        : m_path(batchPath(arguments, QLatin1String(manifestName)))
+        , m_batch(batch)
+    {
+        m_sinceLast.start();
+    }
+
+    void note()
+    {
+        constexpr qint64 pause = 1000; // milliseconds
+        if (m_sinceLast.elapsed() < pause)
+            return;
+        try {
+            writeOutput(m_path, manifest(m_batch.pictures()));
+        } catch (const Failure&) { // which the end of the batch tells of
+        }
+        m_sinceLast.restart();
+    }
+
+private:
+    const QString m_path;
+    const Batch& m_batch;
+    QElapsedTimer m_sinceLast;
+};
+
 } // namespace
 
 ExitCode runBatch(const Arguments& arguments)
@@ -114,7 +144,8 @@ ExitCode runBatch(const Arguments& arguments)
     requireWritable(arguments, plan);
     Batch batch(arguments, std::move(plan));
     listenForSignals();
-    const ExitCode code = batch.run(stopWanted);
+    ManifestNotes notes(arguments, batch);
+    const ExitCode code = batch.run(stopWanted, [&notes] { notes.note(); });
     const QByteArray told = manifest(batch.pictures());
     printProblems(batch.pictures());
     if (arguments.report == "json")

@@ -89,6 +89,8 @@ QByteArray manifest(const std::vector<BatchPicture>& pictures)
     QJsonArray good;
     QJsonArray bad;
     for (const BatchPicture& picture : pictures) {
+        if (picture.problem.isEmpty() && picture.sha256.isEmpty())
+            continue; // still to be made
         if (picture.problem.isEmpty())
             good.append(written(picture));
         else

@@ -21,7 +21,7 @@ struct BatchPicture
     bool isKept = false; ///< as an earlier batch made it
 };
 
-/// The manifest of a batch as JSON.
+/// The manifest of a batch as JSON, without the pictures that are still to be made.
 QByteArray manifest(const std::vector<BatchPicture>& pictures);
 
 /// The pictures of the manifest in the file `path`. Throws Failure where it cannot be read or is none.
