@@ -9,9 +9,9 @@ namespace vardeno::testcharttools {
 struct FittedText
 {
     QFont font;
-    int pixelSize; ///< 0 where even one pixel is too large; the font then stays at one pixel
-    int advance;   ///< chart pixels, as the font metrics tell it
-    int height;
+    int pixelSize = 0; ///< 0 where even one pixel is too large; the font then stays at one pixel
+    int advance = 0;   ///< chart pixels, as the font metrics tell it
+    int height = 0;
 };
 
 /// Fits `text`, in the chart's text family, into a box: from `requested` pixels downwards, one at a time,

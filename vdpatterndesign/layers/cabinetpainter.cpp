@@ -25,4 +25,13 @@ void drawCabinetLabels(QPainter& painter, const CabinetGrid& grid, const LabelSt
     texts.draw();
 }
 
+void drawCabinetLabels(QPainter& painter, const CabinetGrid& grid, const LabelStyle& style, int pixelSize,
+                       const QColor& color)
+{
+    QFont font = painter.font();
+    if (pixelSize > 0)
+        font.setPixelSize(pixelSize);
+    drawCabinetLabels(painter, grid, style, font, color);
+}
+
 } // namespace vardeno::testcharttools

@@ -12,4 +12,8 @@ namespace vardeno::testcharttools {
 VDCHARTCORE_EXPORT void drawCabinetLabels(QPainter& painter, const CabinetGrid& grid, const LabelStyle& style,
                                           const QFont& font, const QColor& color);
 
+/// The same in the painter's font at that many pixels; at 0 in the size that it has.
+void drawCabinetLabels(QPainter& painter, const CabinetGrid& grid, const LabelStyle& style, int pixelSize,
+                       const QColor& color);
+
 } // namespace vardeno::testcharttools

@@ -32,7 +32,7 @@ QImage& LayerPicture::begin(const QSize& size, Coverage coverage)
     return m_image;
 }
 
-QPixmap LayerPicture::finish()
+void LayerPicture::end()
 {
     if (m_coverage == Coverage::Unknown)
         m_ink = inkOf(m_image);
@@ -40,7 +40,17 @@ QPixmap LayerPicture::finish()
         m_ink = Ink();
     else
         m_ink = {{m_image.rect()}, m_coverage == Coverage::Opaque};
+}
+
+QPixmap LayerPicture::pixmap() const
+{
     return QPixmap::fromImage(m_image, Qt::NoOpaqueDetection);
+}
+
+QPixmap LayerPicture::finish()
+{
+    end();
+    return pixmap();
 }
 
 void LayerPicture::paint(QPainter& painter) const

@@ -20,7 +20,11 @@ public:
     /// someone else still holds it. It is transparent, unless all of it is going to be written.
     QImage& begin(const QSize& size, Coverage coverage = Coverage::Unknown);
 
-    /// Call after drawing: the picture, without a copy.
+    /// Call after drawing.
+    void end();
+    /// The picture, without a copy. GUI thread.
+    QPixmap pixmap() const;
+    /// Both of them.
     QPixmap finish();
 
     /// Paints the picture at the origin: only its ink, and that as it is where nothing shines through.

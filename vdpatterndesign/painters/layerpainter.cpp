@@ -1,5 +1,6 @@
 #include "layerpainter.h"
 
+#include "layers/chartlayer.h"
 #include "layers/layerpicture.h"
 
 #include <QFont>
@@ -11,6 +12,7 @@ namespace vardeno::testcharttools {
 class LayerPainter::Impl
 {
 public:
+    ChartLayer* value = nullptr; ///< of the layer that this is the base of
     LayerPicture picture;
     QSize renderedSize;
     QFont renderedFont;     ///< the application's, which every text is drawn in
@@ -49,14 +51,27 @@ void LayerPainter::paintEvent(QPaintEvent* event)
     paintStored(event);
 }
 
+void LayerPainter::drawWith(ChartLayer& value)
+{
+    d->value = &value;
+}
+
 bool LayerPainter::isDrawable() const
 {
-    return true;
+    return !d->value || d->value->isDrawable();
 }
 
 LayerPainter::Coverage LayerPainter::coverage() const
 {
-    return Coverage::Unknown;
+    return d->value ? d->value->coverage() : Coverage::Unknown;
+}
+
+void LayerPainter::draw(QPainter& painter, const QSize& size)
+{
+    if (!d->value)
+        return;
+    d->value->fit(size);
+    d->value->draw(painter, size);
 }
 
 void LayerPainter::renderPicture()
@@ -68,6 +83,8 @@ void LayerPainter::renderPicture()
     if (image.isNull())
         return;
     QPainter painter(&image);
+    if (coverage() == Coverage::Whole || coverage() == Coverage::Opaque)
+        painter.setCompositionMode(QPainter::CompositionMode_Source); // over its last picture
     draw(painter, image.size());
     painter.end();
     setPixmap(d->picture.finish());

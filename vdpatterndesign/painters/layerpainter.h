@@ -10,12 +10,14 @@
 
 namespace vardeno::testcharttools {
 
+class ChartLayer;
+
 /// One layer of the chart: a label that shows one transparent pixmap of its own size.
 ///
-/// This base owns the way in which all layers work; a layer holds its fields, a setter for each, and `draw`.
-/// A setter that changes something renders the layer at once. A paint event renders only when the stored
-/// picture is no longer what a fresh render would give, then reports, then paints; so a layer at rest stays
-/// at rest. Sizes are chart pixels. GUI thread only.
+/// This base owns the way in which all layers work; a layer holds a value that draws it, and a setter for
+/// each of the value's fields. A setter that changes something renders the layer at once. A paint event
+/// renders only when the stored picture is no longer what a fresh render would give, then reports, then
+/// paints; so a layer at rest stays at rest. Sizes are chart pixels. GUI thread only.
 class VDPATTERNDESIGN_EXPORT LayerPainter : public QLabel
 {
     Q_OBJECT
@@ -44,13 +46,17 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
 
+    /// Has the layer drawn by `value`, which the next three functions then ask; a layer without one overrides
+    /// `draw`.
+    void drawWith(ChartLayer& value);
+
     /// Whether there is anything to draw from. A layer for which there is not stays with the picture it had.
     virtual bool isDrawable() const;
     /// What `draw` is about to do. Where it writes every pixel, it may find its last picture on what it draws
     /// on.
     virtual Coverage coverage() const;
     /// Draws the layer with `painter` on a transparent picture of `size` (never empty).
-    virtual void draw(QPainter& painter, const QSize& size) = 0;
+    virtual void draw(QPainter& painter, const QSize& size);
 
     /// Makes the label's picture anew. The base draws a transparent one of the layer's size.
     virtual void renderPicture();

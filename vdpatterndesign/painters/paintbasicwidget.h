@@ -40,8 +40,6 @@ public:
     void setColorStripeList(QListWidget* list);
 
 protected:
-    bool isDrawable() const override;
-    Coverage coverage() const override;
     void draw(QPainter& painter, const QSize& size) override;
     bool sourceChanged() const override;
 

@@ -46,7 +46,6 @@ public:
     ushort workingSerialSize() const;
 
 protected:
-    void draw(QPainter& painter, const QSize& size) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -1,7 +1,7 @@
 #include "paintpiclogowidget.h"
 
 #include "defaultlogo.h"
-#include "geometry/logoplacement.h"
+#include "layers/picturelogolayer.h"
 #include "support/imagefile.h"
 #include "support/translation.h"
 
@@ -33,21 +33,17 @@ class PaintPicLogoWidget::Impl : public QObject
 public:
     QString path() const { return QString::fromStdString(picPath); }
 
-    int moveX = 0;
-    int moveY = 0;
-    LogoPlacement placement; ///< of the last render
-    float scale = 1.0F;
-    float opacity = 1.0F;
+    PictureLogoLayer layer;
     QString dialogTitle;
     std::string picPath;
     CachedPicture picture;
-    int position = 0;
 };
 
 PaintPicLogoWidget::PaintPicLogoWidget(QWidget* parent)
     : LayerPainter(parent)
     , d(new Impl)
 {
+    drawWith(d->layer);
 }
 
 PaintPicLogoWidget::~PaintPicLogoWidget() = default;
@@ -69,43 +65,43 @@ bool PaintPicLogoWidget::showsDefaultPicLogo() const
 
 void PaintPicLogoWidget::setPosition(int index)
 {
-    assign(d->position, index);
+    assign(d->layer.position, index);
 }
 
 void PaintPicLogoWidget::setMoveX(int pixels)
 {
-    assign(d->moveX, pixels);
+    assign(d->layer.moveX, pixels);
 }
 
 void PaintPicLogoWidget::setMoveY(int pixels)
 {
-    assign(d->moveY, pixels);
+    assign(d->layer.moveY, pixels);
 }
 
 int PaintPicLogoWidget::appliedMoveX() const
 {
-    return d->placement.applied.x();
+    return d->layer.placement.applied.x();
 }
 
 int PaintPicLogoWidget::appliedMoveY() const
 {
-    return d->placement.applied.y();
+    return d->layer.placement.applied.y();
 }
 
 void PaintPicLogoWidget::setOpacity(int percent)
 {
     // Compared before it is narrowed, here and for the scale: it is meant.
-    if (percent * 0.01 == double(d->opacity))
+    if (percent * 0.01 == double(d->layer.opacity))
         return;
-    d->opacity = float(percent * 0.01);
+    d->layer.opacity = float(percent * 0.01);
     layerChanged();
 }
 
 void PaintPicLogoWidget::setScale(int percent)
 {
-    if (percent * 0.01 == double(d->scale))
+    if (percent * 0.01 == double(d->layer.scale))
         return;
-    d->scale = float(percent * 0.01);
+    d->layer.scale = float(percent * 0.01);
     layerChanged();
 }
 
@@ -151,24 +147,20 @@ void PaintPicLogoWidget::translateTitle()
 /// The label's picture is the scaled logo alone; where it stands is decided when it is painted.
 void PaintPicLogoWidget::renderPicture()
 {
-    const QImage& image = d->picture.load(d->path());
-    const QSize scaled = scaledPicture(image.size(), d->scale);
-    QPixmap logo;
-    if (!image.isNull()) // scaling none would warn
-        logo = QPixmap::fromImage(image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::FastTransformation));
-    d->placement = placedPicture(size(), logo.size(), d->position, {d->moveX, d->moveY});
-    setPixmap(logo);
+    d->layer.picture = d->picture.load(d->path());
+    d->layer.fit(size());
+    setPixmap(QPixmap::fromImage(d->layer.scaled));
 }
 
 void PaintPicLogoWidget::draw(QPainter& painter, const QSize& size)
 {
-    painter.translate(QPoint(size.width() / 2, size.height() / 2));
-    painter.setOpacity(double(d->opacity));
-    painter.drawPixmap(d->placement.at, pixmap(Qt::ReturnByValue));
+    d->layer.draw(painter, size);
 }
 
 void PaintPicLogoWidget::paintStored(QPaintEvent*)
 {
+    if (!showsOwnPicture()) // which stands where the logo would
+        d->layer.scaled = pixmap(Qt::ReturnByValue).toImage();
     QPainter painter(this);
     draw(painter, size());
 }

@@ -20,8 +20,6 @@ public:
     void setBrightness(ushort percent);
 
 protected:
-    Coverage coverage() const override;
-    void draw(QPainter& painter, const QSize& size) override;
     void paintStored(QPaintEvent* event) override;
 
 private:

@@ -1,18 +1,14 @@
 #include "paintpublicwidget.h"
 
-#include "layers/chartpen.h"
-
-#include <QPainter>
+#include "layers/borderlayer.h"
 
 namespace vardeno::testcharttools {
 
 class PaintPublicWidget::Impl : public QObject
 {
 public:
-    bool outBorderVisible = true;
-    int outLineWidth = 6;
-    QColor outLineColor = Qt::white;
-    ushort rows = 9;
+    BorderLayer layer;
+    ushort rows = 9; ///< kept, not drawn, and so are
     ushort columns = 16;
 };
 
@@ -20,23 +16,24 @@ PaintPublicWidget::PaintPublicWidget(QWidget* parent)
     : LayerPainter(parent)
     , d(new Impl)
 {
+    drawWith(d->layer);
 }
 
 PaintPublicWidget::~PaintPublicWidget() = default;
 
 void PaintPublicWidget::setOutLineVisible(bool visible)
 {
-    assign(d->outBorderVisible, visible);
+    assign(d->layer.visible, visible);
 }
 
 void PaintPublicWidget::setOutLineWidth(int width)
 {
-    assign(d->outLineWidth, width);
+    assign(d->layer.width, width);
 }
 
 void PaintPublicWidget::setOutLineColor(const QColor& color)
 {
-    assign(d->outLineColor, color);
+    assign(d->layer.color, color);
 }
 
 void PaintPublicWidget::setRows(ushort rows)
@@ -47,23 +44,6 @@ void PaintPublicWidget::setRows(ushort rows)
 void PaintPublicWidget::setColumns(ushort columns)
 {
     assign(d->columns, columns);
-}
-
-void PaintPublicWidget::draw(QPainter& painter, const QSize& size)
-{
-    if (!d->outBorderVisible)
-        return;
-    painter.setPen(chartPen(d->outLineColor, d->outLineWidth));
-
-    // The lines' centres lie half a pen inside the edges; the square caps fill the corners.
-    const double half = d->outLineWidth * 0.5;
-    const int near = int(half);
-    const int right = int(size.width() - half);
-    const int bottom = int(size.height() - half);
-    painter.drawLine(near, near, right, near);
-    painter.drawLine(near, bottom, right, bottom);
-    painter.drawLine(near, near, near, bottom);
-    painter.drawLine(right, near, right, bottom);
 }
 
 } // namespace vardeno::testcharttools

@@ -24,9 +24,6 @@ public:
     void setRows(ushort rows);
     void setColumns(ushort columns);
 
-protected:
-    void draw(QPainter& painter, const QSize& size) override;
-
 private:
     class Impl;
     std::unique_ptr<Impl> d;

@@ -37,9 +37,6 @@ public:
     /// The labels' font size as the last render drew them, not the one that was set.
     int sequeSize() const;
 
-protected:
-    void draw(QPainter& painter, const QSize& size) override;
-
 private:
     class Impl;
     std::unique_ptr<Impl> d;

@@ -44,7 +44,6 @@ public:
     void retranslate();
 
 protected:
-    void draw(QPainter& painter, const QSize& size) override;
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -34,7 +34,6 @@ public:
     int fittedSize() const;
 
 protected:
-    void draw(QPainter& painter, const QSize& size) override;
     void showEvent(QShowEvent* event) override;
 
 private:

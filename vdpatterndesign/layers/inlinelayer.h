@@ -1,0 +1,41 @@
+#pragma once
+
+#include "geometry/cabinetlabels.h"
+#include "layers/chartlayer.h"
+
+#include <QColor>
+
+namespace vardeno::testcharttools {
+
+/// The diagonals of the whole screen, a circle against each of two opposite edges, and a label in every
+/// cabinet.
+class VDCHARTCORE_EXPORT InlineLayer : public ChartLayer
+{
+public:
+    LayerCoverage coverage() const override;
+    void fit(const QSize& chart) override;
+    void draw(QPainter& painter, const QSize& chart) const override;
+
+    QColor circleColor = QColor(0x00, 0xff, 0x00);
+    QColor diagonalColor = QColor(0x00, 0xff, 0x00);
+    ushort circleLineWidth = 6;
+    ushort diagonalLineWidth = 6;
+    ushort circleRadius = 535; ///< less where the chart is smaller
+    bool circleVisible = true;
+    bool diagonalVisible = true;
+    bool serialVisible = true;
+    ushort rows = 9;
+    ushort columns = 16;
+    ushort serialSize = 15; ///< font pixels, fewer where cabinets are small
+    QColor serialColor = Qt::black;
+    LabelStyle serial;
+
+    ushort effectiveDiameter = 0;  ///< found by `fit`, and so is
+    ushort workingSerialSize = 15; ///< this; each while what it is for is visible
+
+private:
+    void drawDiagonals(QPainter& painter, const QSize& chart) const;
+    void drawCircles(QPainter& painter, const QSize& chart) const;
+};
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,26 @@
+#include "layers/textlogolayer.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace vardeno::testcharttools {
+
+void TextLogoLayer::fit(const QSize& chart)
+{
+    // Not rounded: full opacity gives 254. It is meant.
+    color.setAlpha(std::clamp(int(opacity * 2.55), 0, 255));
+    m_logo = placedTextLogo(chart, text, textSize, position, {moveX, moveY});
+    fittedSize = m_logo.fitted.pixelSize;
+    applied = m_logo.placement.applied;
+}
+
+void TextLogoLayer::draw(QPainter& painter, const QSize& chart) const
+{
+    painter.translate(QPoint(chart.width() / 2, chart.height() / 2));
+    painter.setPen(color);
+    painter.setFont(m_logo.fitted.font);
+    painter.drawText(m_logo.placement.at, text);
+}
+
+} // namespace vardeno::testcharttools
