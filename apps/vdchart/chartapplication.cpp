@@ -12,7 +12,7 @@ char* programArguments[] = {programName, nullptr};
 } // namespace
 
 ChartApplication::ChartApplication()
-    : QApplication(programArgumentCount, programArguments)
+    : QGuiApplication(programArgumentCount, programArguments)
 {
     setFont(chartFont());
 }

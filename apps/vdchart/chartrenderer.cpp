@@ -3,20 +3,25 @@
 #include "exitcode.h"
 
 #include <chartcheck.h>
+#include <chartlanguages.h>
+#include <translatemanager1.h>
 
 using namespace vardeno::testcharttools;
 
 ChartRenderer::ChartRenderer(const QString& language)
 {
-    m_editor.loadLanguageFiles({QStringLiteral(":/vardeno/translations/%1.ts").arg(language)});
-    m_editor.switchLanguage(language);
+    ChartLanguages::load(language);
+    TranslateManager1::instance().switchLanguage(language);
+    m_captions = ChartCaptions::current();
 }
 
-QImage ChartRenderer::render(const TestChartToolsData& record)
+QImage ChartRenderer::render(const TestChartToolsData& record) const
 {
     const QString problem = ChartCheck::pictureProblem(record);
     if (!problem.isEmpty())
         throw Failure{ExitCode::Unreadable, problem};
-    m_editor.applyRecord(record);
-    return m_editor.chartImage();
+    const QImage chart = ChartPicture(record, m_captions).image();
+    if (chart.isNull())
+        throw Failure{ExitCode::NotWritten, QStringLiteral("not enough memory for the picture")};
+    return chart;
 }

@@ -2,11 +2,16 @@
 
 #include "chartapplication.h"
 
-#include <vtestcharttools.h>
+#include <chartpicture.h>
 
 #include <QImage>
 
-/// Makes the picture of a record, as the chart editor does. One at a time in a process, in its main thread.
+namespace vardeno::testcharttools {
+struct TestChartToolsData;
+}
+
+/// Makes the pictures of records, as the chart editor does. One at a time in a process, made in its main
+/// thread.
 class ChartRenderer
 {
 public:
@@ -14,10 +19,10 @@ public:
     explicit ChartRenderer(const QString& language);
 
     /// The chart in its resolution. Throws Failure where the picture of its logo cannot be drawn: without it,
-    /// it would be another chart.
-    QImage render(const vardeno::testcharttools::TestChartToolsData& record);
+    /// it would be another chart. For any thread.
+    QImage render(const vardeno::testcharttools::TestChartToolsData& record) const;
 
 private:
     ChartApplication m_application;
-    vardeno::testcharttools::VTestChartTools m_editor;
+    vardeno::testcharttools::ChartCaptions m_captions;
 };

@@ -1,6 +1,7 @@
 #include "charttool.h"
 #include "randomrecords.h"
 
+#include <chartlanguages.h>
 #include <chartpicture.h>
 #include <translatemanager1.h>
 
@@ -68,7 +69,7 @@ private Q_SLOTS:
     void drawsWhatTheEditorShows()
     {
         VTestChartTools tool;
-        tool.loadLanguageFiles({sourcePath("translations/en.ts")});
+        ChartLanguages::load();
         tool.switchLanguage(QStringLiteral("en"));
         const ChartCaptions captions = ChartCaptions::current();
         QCOMPARE(captions.cabinets, QStringLiteral("Cabinets"));
