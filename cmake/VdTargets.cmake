@@ -19,6 +19,7 @@ function(vd_defaults target)
   target_compile_definitions(${target} PRIVATE QT_NO_FOREACH QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wold-style-cast
+    $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments> # as the toolkit's logging macros are
     $<$<BOOL:${VD_WARNINGS_AS_ERRORS}>:-Werror>)
   if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
@@ -62,7 +63,7 @@ function(vd_library name)
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name}>")
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR}
+    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} # until 1.0 each minor version has its own
     INSTALL_RPATH "$ORIGIN")
   if(BUILD_SHARED_LIBS AND NOT VD_SANITIZERS)
     target_link_options(${name} PRIVATE -Wl,--no-undefined)
@@ -74,10 +75,20 @@ function(vd_library name)
     target_compile_definitions(${name} PUBLIC ${upper}_STATIC_DEFINE)
   endif()
 
+  if(NOT VD_INSTALL)
+    return()
+  endif()
   install(TARGETS ${name} EXPORT vdpatterndesign-targets
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
   install(FILES ${arg_PUBLIC_HEADERS} "${CMAKE_CURRENT_BINARY_DIR}/${name}_export.h"
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name})
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vardeno/${name} COMPONENT Development)
+endfunction()
+
+# vd_install(<COMPONENT> <arguments of install() …>): installs it where installing is asked for.
+function(vd_install component)
+  if(VD_INSTALL)
+    install(${ARGN} COMPONENT ${component})
+  endif()
 endfunction()

@@ -27,7 +27,7 @@ QValidator::State SpinEditBox::validate(QString& input, int& position) const
     // Typed over everything, a value with its suffix meets the suffix that the box adds.
     if (!suffix().isEmpty() && input.endsWith(suffix() + suffix())) {
         input.chop(suffix().size());
-        position = std::min(position, input.size());
+        position = std::min(position, int(input.size()));
     }
     const QValidator::State state = QDoubleSpinBox::validate(input, position);
     // The base refuses the key that would leave the range ("500" in 1..100 becomes "50", and 50 is

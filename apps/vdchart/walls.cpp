@@ -4,9 +4,10 @@
 #include "fields.h"
 #include "filename.h"
 
+#include <utf8.h>
+
 #include <QHash>
 #include <QStringList>
-#include <QTextCodec>
 
 #include <csv.h>
 
@@ -137,9 +138,7 @@ void requireUtf8(const QByteArray& csv, const QString& source)
     int number = 0;
     for (const QByteArray& line : csv.split('\n')) {
         ++number;
-        QTextCodec::ConverterState state;
-        QTextCodec::codecForName("UTF-8")->toUnicode(line.constData(), line.size(), &state);
-        if (state.invalidChars + state.remainingChars > 0 || line.contains('\0'))
+        if (!vardeno::testcharttools::isUtf8(line) || line.contains('\0'))
             throw Failure{ExitCode::Unreadable,
                           QStringLiteral("%1: line %2: not UTF-8 text").arg(source, QString::number(number))};
     }

@@ -197,7 +197,7 @@ std::optional<double> calculated(const QString& text)
 bool editFits(const QString& before, const QString& after, int cursor)
 {
     const auto difference = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-    const int grown = std::max(0, after.size() - before.size());
+    const int grown = std::max(0, int(after.size() - before.size()));
     const int first = std::max(0, std::min(int(difference.second - after.begin()), cursor - grown));
     if (first >= cursor)
         return true;

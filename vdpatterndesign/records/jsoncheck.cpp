@@ -1,9 +1,10 @@
 #include "records/jsoncheck.h"
 
+#include "support/utf8.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
-#include <QTextCodec>
 
 #include <cstring>
 
@@ -17,13 +18,6 @@ constexpr int longestName = 40;
 constexpr int longestPath = 4;
 constexpr char byteOrderMark[] = "\xef\xbb\xbf";
 constexpr char end = '\0'; // no JSON has it outside of texts, and none in them
-
-bool isUtf8(const QByteArray& text)
-{
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
 
 bool isDigit(char character)
 {

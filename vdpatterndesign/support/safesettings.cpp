@@ -1,5 +1,7 @@
 #include "support/safesettings.h"
 
+#include "support/qtversion.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QRegularExpression>
@@ -67,7 +69,7 @@ QByteArray withoutObjects(const QByteArray& ini, QVector<int>* refused)
 SafeSettings::SafeSettings(QSettings& settings)
     : m_settings(&settings)
 {
-    settings.setIniCodec("UTF-8");
+    useUtf8(settings);
     QFile file(settings.fileName());
     if (!file.open(QIODevice::ReadOnly))
         return;
@@ -85,7 +87,7 @@ SafeSettings::SafeSettings(QSettings& settings)
                    << "is not read, for lack of a copy without these values:" << m_file->errorString();
     const QString source = copied ? m_file->fileName() : QStringLiteral(":/none");
     m_ownSettings = std::make_unique<QSettings>(source, QSettings::IniFormat);
-    m_ownSettings->setIniCodec("UTF-8");
+    useUtf8(*m_ownSettings);
     m_settings = m_ownSettings.get();
 }
 

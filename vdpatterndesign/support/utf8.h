@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace vardeno::testcharttools {
+
+/// Whether `text` is UTF-8 throughout.
+inline bool isUtf8(const QByteArray& text)
+{
+    // Behind a character a byte order mark is one like any other, and is not left out.
+    const QByteArray whole = 'x' + text;
+    return QString::fromUtf8(whole).toUtf8() == whole;
+}
+
+} // namespace vardeno::testcharttools
