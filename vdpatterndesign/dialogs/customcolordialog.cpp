@@ -157,8 +157,8 @@ void CustomColorDialog::tagChildren()
 {
     tag<QLabel>(m_dialog);
     tag<QPushButton>(m_dialog);
-    const auto buttons = m_dialog->findChildren<QPushButton*>();
-    for (QPushButton* button : buttons)
+    const auto all = m_dialog->findChildren<QPushButton*>();
+    for (QPushButton* button : all)
         button->setIcon(QIcon()); // the platform's pictures do not go with the library's
     const auto spinBoxes = m_dialog->findChildren<QSpinBox*>();
     for (QSpinBox* spinBox : spinBoxes)
