@@ -1,15 +1,70 @@
 #!/usr/bin/env bash
-# Builds the project and runs every test: with shared libraries, then with static ones under AddressSanitizer and
-# UndefinedBehaviorSanitizer. At last each fuzz target runs for half a minute.
+# Builds the project and runs every functional test once. With --all also: the tests under AddressSanitizer and
+# UndefinedBehaviorSanitizer, hosts with the sources in their tree, the release with its benchmarks built, Qt 6, a
+# build without precompiled headers under clang-tidy, and each fuzz target for half a minute.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/setup.sh xvfb xauth clang-format fonts-noto-cjk
+all=
+case "${1:-}" in
+  --all) all=1 ;;
+  '') ;;
+  *) echo "usage: scripts/test.sh [--all]" >&2 && exit 2 ;;
+esac
+
+step() { printf '\n== %s (after %d s)\n' "$1" "$SECONDS"; }
+
+# run_tests PRESET [option of ctest …]: a test that fails is run again, alone, to tell a mishap from a mistake. Either
+# way it is printed; those that are known to need it are listed in tests/README.md.
+run_tests() {
+  local preset=$1
+  shift
+  ctest --preset "$preset" -j "$(nproc)" "$@" && return
+  step "again, alone: what failed"
+  local log="build/$preset/Testing/Temporary/LastTestsFailed.log" failed
+  failed=$(cut -d: -f2 "$log" | sort -u)
+  ctest --preset "$preset" "$@" --rerun-failed || exit 1
+  for test in $failed; do
+    flaky+=("$preset: $test")
+    grep -q "^| \`$test\` |" tests/README.md || unlisted+=("$test")
+  done
+}
+
+flaky=()
+unlisted=()
+step 'Set-up'
+scripts/setup.sh mold python3-minimal xvfb xauth clang-format fonts-noto-cjk
 scripts/format.sh --check
-for preset in dev asan; do
-  cmake --preset "$preset"
-  cmake --build --preset "$preset"
-  # A second chance: the window tests wait for events, and the machine may be busy with something else.
-  ctest --preset "$preset" -j "$(nproc)" --repeat until-pass:2
-done
-scripts/fuzz.sh 30
+step 'Build'
+cmake --preset dev
+cmake --build --preset dev
+step 'Tests'
+run_tests dev
+
+if [ -n "$all" ]; then
+  step 'Sanitizers'
+  cmake --preset asan
+  cmake --build --preset asan
+  run_tests asan
+  step 'Hosts with the sources in their tree'
+  run_tests dev -C Thorough -R '^hosts$'
+  step 'Qt 6'
+  scripts/setup.sh qt6-base-dev
+  cmake --preset qt6
+  cmake --build --preset qt6
+  run_tests qt6
+  step 'Release, with benchmarks'
+  scripts/setup.sh libbenchmark-dev
+  cmake --preset release
+  cmake --build --preset release
+  step 'clang-tidy, and no precompiled headers'
+  mapfile -t sources < <(git ls-files 'vd*/*.cpp' 'apps/*.cpp')
+  scripts/lint.sh "${sources[@]}"
+  step 'Fuzzing'
+  scripts/fuzz.sh 30
+fi
+
+step 'Done'
+for test in "${flaky[@]}"; do echo "passed only at the second go: $test"; done
+for test in "${unlisted[@]}"; do echo "not listed in tests/README.md: $test"; done
+[ ${#unlisted[@]} -eq 0 ]
