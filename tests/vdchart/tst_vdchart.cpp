@@ -114,6 +114,14 @@ private Q_SLOTS:
         QVERIFY(!record.inLineData.showCircle);
     }
 
+    /// A wall leaves the picture as it is, also behind it.
+    void presetsInAnyOrder()
+    {
+        const QByteArray wallFirst = run({"new", "-p", "uhd", "-p", "numbering-top-left"}).output;
+        QVERIFY(ChartRecordFile::fromJson(wallFirst).record.inLineData.numMode);
+        QCOMPARE(run({"new", "-p", "numbering-top-left", "-p", "uhd"}).output, wallFirst);
+    }
+
     void presetsAreListed()
     {
         const QByteArray names = run({QStringLiteral("presets"), QStringLiteral("--names")}).output;
