@@ -3,6 +3,8 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace vardeno::testcharttools {
 
@@ -44,12 +46,13 @@ void SpinEditBox::clear()
 
 void SpinEditBox::fixup(QString& input) const
 {
+    m_refused = true;
     input = prefix() + textFromValue(value()) + suffix();
 }
 
 QString SpinEditBox::textFromValue(double value) const
 {
-    QString text = QDoubleSpinBox::textFromValue(value);
+    QString text = QDoubleSpinBox::textFromValue(m_wholeNumbers ? std::trunc(value) : value);
     const QString point = locale().decimalPoint();
     if (!text.contains(point))
         return text;
@@ -58,6 +61,12 @@ QString SpinEditBox::textFromValue(double value) const
     if (text.endsWith(point))
         text.chop(point.size());
     return text;
+}
+
+void SpinEditBox::stepBy(int steps)
+{
+    QDoubleSpinBox::stepBy(steps);
+    tellOfRefusal();
 }
 
 void SpinEditBox::focusOutEvent(QFocusEvent* event)
@@ -75,6 +84,13 @@ void SpinEditBox::finishEdit()
     const QString before = m_textBeforeEdit;
     m_textBeforeEdit = QString();
     Q_EMIT editFinished(before);
+    tellOfRefusal();
+}
+
+void SpinEditBox::tellOfRefusal()
+{
+    if (std::exchange(m_refused, false))
+        Q_EMIT entryRefused();
 }
 
 } // namespace vardeno::testcharttools

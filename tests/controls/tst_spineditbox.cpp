@@ -440,6 +440,101 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), QStringLiteral("7,5px"));
     }
 
+    void wholeNumbers_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<Values>("announced");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("whole") << "70"
+                               << "Return" << Values{70} << "70px";
+        QTest::newRow("decimals are cut off") << "70.9"
+                                              << "Return" << Values{70.9} << "70px";
+        QTest::newRow("also when the focus goes") << "70.9"
+                                                  << "Tab" << Values{70.9} << "70px";
+        QTest::newRow("to the number that was there") << "50.5"
+                                                      << "Return" << Values{50.5} << "50px";
+        QTest::newRow("steps go on from what is cut") << "70.9"
+                                                      << "Up" << Values{71.9} << "71px";
+        QTest::newRow("up to the end") << "99.9"
+                                       << "Up Up" << Values{100} << "100px";
+        QTest::newRow("outside before it is cut") << "0.9"
+                                                  << "Return" << Values() << "50px";
+        QTest::newRow("above before it is cut") << "100.5"
+                                                << "Return" << Values() << "50px";
+    }
+
+    void wholeNumbers()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, action);
+        QFETCH(Values, announced);
+        QFETCH(QString, text);
+        QVERIFY(!m_box->wholeNumbers());
+        m_box->setWholeNumbers(true);
+        QVERIFY(m_box->wholeNumbers());
+        type(typed);
+        perform(action);
+        QCOMPARE(m_announced, announced);
+        QCOMPARE(m_box->value(), announced.isEmpty() ? 50.0 : announced.last());
+        QCOMPARE(m_box->text(), text);
+    }
+
+    void wholeNumbersAreSet_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("decimals are cut off") << 10.7 << "10px";
+        QTest::newRow("towards zero") << -10.7 << "-10px";
+        QTest::newRow("whole") << 70.0 << "70px";
+    }
+
+    void wholeNumbersAreSet()
+    {
+        QFETCH(double, value);
+        QFETCH(QString, shown);
+        m_box->setWholeNumbers(true);
+        m_box->setRange(-100, 100);
+        m_box->setValue(value);
+        QCOMPARE(m_announced, Values{value});
+        QCOMPARE(m_box->text(), shown);
+    }
+
+    void refusalsAreTold_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<int>("told");
+        for (const char* action : {"Return", "Tab", "click", "Up", "wheel+"})
+            QTest::newRow(qPrintable(QStringLiteral("too large, %1").arg(QLatin1String(action))))
+                << "500" << action << 1;
+        QTest::newRow("nothing") << "Del"
+                                 << "Return" << 1;
+        QTest::newRow("letters") << "abc"
+                                 << "Return" << 1;
+        QTest::newRow("once") << "500"
+                              << "Return Return Tab" << 1;
+        QTest::newRow("not while typing") << "500"
+                                          << "" << 0;
+        QTest::newRow("accepted") << "70"
+                                  << "Return" << 0;
+        QTest::newRow("no edit") << ""
+                                 << "Return Tab" << 0;
+        QTest::newRow("the end of the range") << "100"
+                                              << "Up Up" << 0;
+    }
+
+    void refusalsAreTold()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, action);
+        QFETCH(int, told);
+        const QSignalSpy refused(m_box, &SpinEditBox::entryRefused);
+        type(typed);
+        perform(action);
+        QCOMPARE(refused.count(), told);
+    }
+
     void stringBasedConnectionsHearOnce()
     {
         QSignalSpy spy(m_box, SIGNAL(valueChanged(double)));
