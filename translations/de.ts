@@ -4,6 +4,14 @@
 <context>
     <name>TestChartTools::Widget</name>
     <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: höchstens %2 Zeichen</translation>
+    </message>
+    <message>
         <source>Add</source>
         <translation>Neu</translation>
     </message>
@@ -40,6 +48,10 @@
         <translation>Helligkeit</translation>
     </message>
     <message>
+        <source>Brightness in percent</source>
+        <translation>Helligkeit in Prozent</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbruch</translation>
     </message>
@@ -50,6 +62,14 @@
     <message>
         <source>Center</source>
         <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Chart height in pixels</source>
+        <translation>Höhe des Testbilds in Pixeln</translation>
+    </message>
+    <message>
+        <source>Chart width in pixels</source>
+        <translation>Breite des Testbilds in Pixeln</translation>
     </message>
     <message>
         <source>Chess</source>
@@ -68,12 +88,60 @@
         <translation>Balken</translation>
     </message>
     <message>
+        <source>Color of the border</source>
+        <translation>Farbe des Rahmens</translation>
+    </message>
+    <message>
+        <source>Color of the circles</source>
+        <translation>Farbe der Kreise</translation>
+    </message>
+    <message>
+        <source>Color of the custom text</source>
+        <translation>Farbe des eigenen Texts</translation>
+    </message>
+    <message>
+        <source>Color of the diagonals</source>
+        <translation>Farbe der Diagonalen</translation>
+    </message>
+    <message>
+        <source>Color of the even cabinets</source>
+        <translation>Farbe von Feld B</translation>
+    </message>
+    <message>
+        <source>Color of the information line</source>
+        <translation>Farbe der Zeile mit Angaben</translation>
+    </message>
+    <message>
+        <source>Color of the labels</source>
+        <translation>Farbe der Kennungen</translation>
+    </message>
+    <message>
+        <source>Color of the logo text</source>
+        <translation>Farbe des Logotexts</translation>
+    </message>
+    <message>
+        <source>Color of the odd cabinets</source>
+        <translation>Farbe von Feld A</translation>
+    </message>
+    <message>
+        <source>Colors of the color bar</source>
+        <translation>Farben des Balkens</translation>
+    </message>
+    <message>
+        <source>Columns of cabinets</source>
+        <translation>Spalten von Cabinets</translation>
+    </message>
+    <message>
         <source>Combination Mode</source>
         <translation>Beides</translation>
     </message>
     <message>
         <source>Confirm</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Custom text</source>
+        <translation>Eigener Text</translation>
     </message>
     <message>
         <source>Customcolors</source>
@@ -100,6 +168,10 @@
         <translation>Eigener Text</translation>
     </message>
     <message>
+        <source>Double click or Enter changes a color, Alt+Up and Alt+Down move it</source>
+        <translation>Doppelklick oder Eingabe ändert eine Farbe, Alt+Auf und Alt+Ab verschieben sie</translation>
+    </message>
+    <message>
         <source>Even</source>
         <translation>Feld B</translation>
     </message>
@@ -110,6 +182,10 @@
     <message>
         <source>Gradient</source>
         <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Gradient between the colors</source>
+        <translation>Verlauf zwischen den Farben</translation>
     </message>
     <message>
         <source>Green</source>
@@ -144,6 +220,14 @@
         <translation>Alphabet</translation>
     </message>
     <message>
+        <source>Line width of the circles</source>
+        <translation>Linienbreite der Kreise</translation>
+    </message>
+    <message>
+        <source>Line width of the diagonals</source>
+        <translation>Linienbreite der Diagonalen</translation>
+    </message>
+    <message>
         <source>Logo Style</source>
         <translation>Art</translation>
     </message>
@@ -172,6 +256,14 @@
         <translation>Deckkraft</translation>
     </message>
     <message>
+        <source>Opacity of the logo in percent</source>
+        <translation>Deckkraft des Logos in Prozent</translation>
+    </message>
+    <message>
+        <source>Order of the labels</source>
+        <translation>Richtung der Kennungen</translation>
+    </message>
+    <message>
         <source>OutBorder</source>
         <translation>Rahmen</translation>
     </message>
@@ -188,8 +280,20 @@
         <translation>Versatz</translation>
     </message>
     <message>
+        <source>Position of the labels</source>
+        <translation>Position der Kennungen</translation>
+    </message>
+    <message>
+        <source>Position of the logo</source>
+        <translation>Position des Logos</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>Vorige Farbe</translation>
+    </message>
+    <message>
+        <source>Radius of the circles</source>
+        <translation>Radius der Kreise</translation>
     </message>
     <message>
         <source>Red</source>
@@ -214,6 +318,10 @@
     <message>
         <source>Right Up</source>
         <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Rows of cabinets</source>
+        <translation>Zeilen von Cabinets</translation>
     </message>
     <message>
         <source>Sat</source>
@@ -268,6 +376,58 @@
         <translation>Größe</translation>
     </message>
     <message>
+        <source>Show the border</source>
+        <translation>Rahmen zeigen</translation>
+    </message>
+    <message>
+        <source>Show the circles</source>
+        <translation>Kreise zeigen</translation>
+    </message>
+    <message>
+        <source>Show the custom text</source>
+        <translation>Eigenen Text zeigen</translation>
+    </message>
+    <message>
+        <source>Show the diagonals</source>
+        <translation>Diagonalen zeigen</translation>
+    </message>
+    <message>
+        <source>Show the information line</source>
+        <translation>Zeile mit Angaben zeigen</translation>
+    </message>
+    <message>
+        <source>Show the labels</source>
+        <translation>Kennungen zeigen</translation>
+    </message>
+    <message>
+        <source>Show the logo</source>
+        <translation>Logo zeigen</translation>
+    </message>
+    <message>
+        <source>Sideways shift of the logo in pixels</source>
+        <translation>Versatz des Logos zur Seite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Size of the custom text</source>
+        <translation>Größe des eigenen Texts</translation>
+    </message>
+    <message>
+        <source>Size of the information line</source>
+        <translation>Größe der Zeile mit Angaben</translation>
+    </message>
+    <message>
+        <source>Size of the labels</source>
+        <translation>Größe der Kennungen</translation>
+    </message>
+    <message>
+        <source>Size of the logo in percent</source>
+        <translation>Größe des Logos in Prozent</translation>
+    </message>
+    <message>
+        <source>Size of the logo text</source>
+        <translation>Größe des Logotexts</translation>
+    </message>
+    <message>
         <source>Sort by</source>
         <translation>Richtung</translation>
     </message>
@@ -292,6 +452,10 @@
         <translation>Größe</translation>
     </message>
     <message>
+        <source>Text of the logo</source>
+        <translation>Text des Logos</translation>
+    </message>
+    <message>
         <source>UpLogo</source>
         <translation>Datei</translation>
     </message>
@@ -304,8 +468,16 @@
         <translation>Hellwert:</translation>
     </message>
     <message>
+        <source>Vertical shift of the logo in pixels</source>
+        <translation>Versatz des Logos in der Höhe in Pixeln</translation>
+    </message>
+    <message>
         <source>Widget</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Width of the border</source>
+        <translation>Breite des Rahmens</translation>
     </message>
     <message>
         <source>X</source>

@@ -4,6 +4,14 @@
 <context>
     <name>TestChartTools::Widget</name>
     <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: %2 to %3</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: at most %2 characters</translation>
+    </message>
+    <message>
         <source>Add</source>
         <translation>Add</translation>
     </message>
@@ -40,6 +48,10 @@
         <translation>Brightness</translation>
     </message>
     <message>
+        <source>Brightness in percent</source>
+        <translation>Brightness in percent</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
@@ -50,6 +62,14 @@
     <message>
         <source>Center</source>
         <translation>Center</translation>
+    </message>
+    <message>
+        <source>Chart height in pixels</source>
+        <translation>Chart height in pixels</translation>
+    </message>
+    <message>
+        <source>Chart width in pixels</source>
+        <translation>Chart width in pixels</translation>
     </message>
     <message>
         <source>Chess</source>
@@ -68,12 +88,60 @@
         <translation>Color bar</translation>
     </message>
     <message>
+        <source>Color of the border</source>
+        <translation>Color of the border</translation>
+    </message>
+    <message>
+        <source>Color of the circles</source>
+        <translation>Color of the circles</translation>
+    </message>
+    <message>
+        <source>Color of the custom text</source>
+        <translation>Color of the custom text</translation>
+    </message>
+    <message>
+        <source>Color of the diagonals</source>
+        <translation>Color of the diagonals</translation>
+    </message>
+    <message>
+        <source>Color of the even cabinets</source>
+        <translation>Color of the even cabinets</translation>
+    </message>
+    <message>
+        <source>Color of the information line</source>
+        <translation>Color of the information line</translation>
+    </message>
+    <message>
+        <source>Color of the labels</source>
+        <translation>Color of the labels</translation>
+    </message>
+    <message>
+        <source>Color of the logo text</source>
+        <translation>Color of the logo text</translation>
+    </message>
+    <message>
+        <source>Color of the odd cabinets</source>
+        <translation>Color of the odd cabinets</translation>
+    </message>
+    <message>
+        <source>Colors of the color bar</source>
+        <translation>Colors of the color bar</translation>
+    </message>
+    <message>
+        <source>Columns of cabinets</source>
+        <translation>Columns of cabinets</translation>
+    </message>
+    <message>
         <source>Combination Mode</source>
         <translation>Both</translation>
     </message>
     <message>
         <source>Confirm</source>
         <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>Custom text</source>
+        <translation>Custom text</translation>
     </message>
     <message>
         <source>Customcolors</source>
@@ -100,6 +168,10 @@
         <translation>Custom text</translation>
     </message>
     <message>
+        <source>Double click or Enter changes a color, Alt+Up and Alt+Down move it</source>
+        <translation>Double click or Enter changes a color, Alt+Up and Alt+Down move it</translation>
+    </message>
+    <message>
         <source>Even</source>
         <translation>Even</translation>
     </message>
@@ -110,6 +182,10 @@
     <message>
         <source>Gradient</source>
         <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>Gradient between the colors</source>
+        <translation>Gradient between the colors</translation>
     </message>
     <message>
         <source>Green</source>
@@ -144,6 +220,14 @@
         <translation>Letters</translation>
     </message>
     <message>
+        <source>Line width of the circles</source>
+        <translation>Line width of the circles</translation>
+    </message>
+    <message>
+        <source>Line width of the diagonals</source>
+        <translation>Line width of the diagonals</translation>
+    </message>
+    <message>
         <source>Logo Style</source>
         <translation>Style</translation>
     </message>
@@ -172,6 +256,14 @@
         <translation>Opacity</translation>
     </message>
     <message>
+        <source>Opacity of the logo in percent</source>
+        <translation>Opacity of the logo in percent</translation>
+    </message>
+    <message>
+        <source>Order of the labels</source>
+        <translation>Order of the labels</translation>
+    </message>
+    <message>
         <source>OutBorder</source>
         <translation>Border</translation>
     </message>
@@ -188,8 +280,20 @@
         <translation>Shift</translation>
     </message>
     <message>
+        <source>Position of the labels</source>
+        <translation>Position of the labels</translation>
+    </message>
+    <message>
+        <source>Position of the logo</source>
+        <translation>Position of the logo</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>Previous color</translation>
+    </message>
+    <message>
+        <source>Radius of the circles</source>
+        <translation>Radius of the circles</translation>
     </message>
     <message>
         <source>Red</source>
@@ -214,6 +318,10 @@
     <message>
         <source>Right Up</source>
         <translation>Top right</translation>
+    </message>
+    <message>
+        <source>Rows of cabinets</source>
+        <translation>Rows of cabinets</translation>
     </message>
     <message>
         <source>Sat</source>
@@ -268,6 +376,58 @@
         <translation>Size</translation>
     </message>
     <message>
+        <source>Show the border</source>
+        <translation>Show the border</translation>
+    </message>
+    <message>
+        <source>Show the circles</source>
+        <translation>Show the circles</translation>
+    </message>
+    <message>
+        <source>Show the custom text</source>
+        <translation>Show the custom text</translation>
+    </message>
+    <message>
+        <source>Show the diagonals</source>
+        <translation>Show the diagonals</translation>
+    </message>
+    <message>
+        <source>Show the information line</source>
+        <translation>Show the information line</translation>
+    </message>
+    <message>
+        <source>Show the labels</source>
+        <translation>Show the labels</translation>
+    </message>
+    <message>
+        <source>Show the logo</source>
+        <translation>Show the logo</translation>
+    </message>
+    <message>
+        <source>Sideways shift of the logo in pixels</source>
+        <translation>Sideways shift of the logo in pixels</translation>
+    </message>
+    <message>
+        <source>Size of the custom text</source>
+        <translation>Size of the custom text</translation>
+    </message>
+    <message>
+        <source>Size of the information line</source>
+        <translation>Size of the information line</translation>
+    </message>
+    <message>
+        <source>Size of the labels</source>
+        <translation>Size of the labels</translation>
+    </message>
+    <message>
+        <source>Size of the logo in percent</source>
+        <translation>Size of the logo in percent</translation>
+    </message>
+    <message>
+        <source>Size of the logo text</source>
+        <translation>Size of the logo text</translation>
+    </message>
+    <message>
         <source>Sort by</source>
         <translation>Order</translation>
     </message>
@@ -292,6 +452,10 @@
         <translation>Size</translation>
     </message>
     <message>
+        <source>Text of the logo</source>
+        <translation>Text of the logo</translation>
+    </message>
+    <message>
         <source>UpLogo</source>
         <translation>File</translation>
     </message>
@@ -304,8 +468,16 @@
         <translation>Val:</translation>
     </message>
     <message>
+        <source>Vertical shift of the logo in pixels</source>
+        <translation>Vertical shift of the logo in pixels</translation>
+    </message>
+    <message>
         <source>Widget</source>
         <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Width of the border</source>
+        <translation>Width of the border</translation>
     </message>
     <message>
         <source>X</source>

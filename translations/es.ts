@@ -4,6 +4,14 @@
 <context>
     <name>TestChartTools::Widget</name>
     <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: de %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: %2 caracteres como máximo</translation>
+    </message>
+    <message>
         <source>Add</source>
         <translation>Añadir</translation>
     </message>
@@ -40,6 +48,10 @@
         <translation>Brillo</translation>
     </message>
     <message>
+        <source>Brightness in percent</source>
+        <translation>Brillo en porcentaje</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Anular</translation>
     </message>
@@ -50,6 +62,14 @@
     <message>
         <source>Center</source>
         <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Chart height in pixels</source>
+        <translation>Altura de la carta en píxeles</translation>
+    </message>
+    <message>
+        <source>Chart width in pixels</source>
+        <translation>Anchura de la carta en píxeles</translation>
     </message>
     <message>
         <source>Chess</source>
@@ -68,12 +88,60 @@
         <translation>Barras</translation>
     </message>
     <message>
+        <source>Color of the border</source>
+        <translation>Color del borde</translation>
+    </message>
+    <message>
+        <source>Color of the circles</source>
+        <translation>Color de los círculos</translation>
+    </message>
+    <message>
+        <source>Color of the custom text</source>
+        <translation>Color del texto propio</translation>
+    </message>
+    <message>
+        <source>Color of the diagonals</source>
+        <translation>Color de las diagonales</translation>
+    </message>
+    <message>
+        <source>Color of the even cabinets</source>
+        <translation>Color de los gabinetes pares</translation>
+    </message>
+    <message>
+        <source>Color of the information line</source>
+        <translation>Color de la línea de información</translation>
+    </message>
+    <message>
+        <source>Color of the labels</source>
+        <translation>Color de las etiquetas</translation>
+    </message>
+    <message>
+        <source>Color of the logo text</source>
+        <translation>Color del texto del logo</translation>
+    </message>
+    <message>
+        <source>Color of the odd cabinets</source>
+        <translation>Color de los gabinetes impares</translation>
+    </message>
+    <message>
+        <source>Colors of the color bar</source>
+        <translation>Colores de la barra</translation>
+    </message>
+    <message>
+        <source>Columns of cabinets</source>
+        <translation>Columnas de gabinetes</translation>
+    </message>
+    <message>
         <source>Combination Mode</source>
         <translation>Ambos</translation>
     </message>
     <message>
         <source>Confirm</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Custom text</source>
+        <translation>Texto propio</translation>
     </message>
     <message>
         <source>Customcolors</source>
@@ -100,6 +168,10 @@
         <translation>Texto propio</translation>
     </message>
     <message>
+        <source>Double click or Enter changes a color, Alt+Up and Alt+Down move it</source>
+        <translation>Doble clic o Intro cambia un color, Alt+Arriba y Alt+Abajo lo mueven</translation>
+    </message>
+    <message>
         <source>Even</source>
         <translation>Par</translation>
     </message>
@@ -110,6 +182,10 @@
     <message>
         <source>Gradient</source>
         <translation>Gradiente</translation>
+    </message>
+    <message>
+        <source>Gradient between the colors</source>
+        <translation>Degradado entre los colores</translation>
     </message>
     <message>
         <source>Green</source>
@@ -144,6 +220,14 @@
         <translation>Letras</translation>
     </message>
     <message>
+        <source>Line width of the circles</source>
+        <translation>Grosor de línea de los círculos</translation>
+    </message>
+    <message>
+        <source>Line width of the diagonals</source>
+        <translation>Grosor de línea de las diagonales</translation>
+    </message>
+    <message>
         <source>Logo Style</source>
         <translation>Tipo</translation>
     </message>
@@ -172,6 +256,14 @@
         <translation>Opacidad</translation>
     </message>
     <message>
+        <source>Opacity of the logo in percent</source>
+        <translation>Opacidad del logo en porcentaje</translation>
+    </message>
+    <message>
+        <source>Order of the labels</source>
+        <translation>Orden de las etiquetas</translation>
+    </message>
+    <message>
         <source>OutBorder</source>
         <translation>Borde</translation>
     </message>
@@ -188,8 +280,20 @@
         <translation>Ajuste</translation>
     </message>
     <message>
+        <source>Position of the labels</source>
+        <translation>Posición de las etiquetas</translation>
+    </message>
+    <message>
+        <source>Position of the logo</source>
+        <translation>Posición del logo</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>Color anterior</translation>
+    </message>
+    <message>
+        <source>Radius of the circles</source>
+        <translation>Radio de los círculos</translation>
     </message>
     <message>
         <source>Red</source>
@@ -214,6 +318,10 @@
     <message>
         <source>Right Up</source>
         <translation>Arriba der.</translation>
+    </message>
+    <message>
+        <source>Rows of cabinets</source>
+        <translation>Filas de gabinetes</translation>
     </message>
     <message>
         <source>Sat</source>
@@ -268,6 +376,58 @@
         <translation>Tamaño</translation>
     </message>
     <message>
+        <source>Show the border</source>
+        <translation>Mostrar el borde</translation>
+    </message>
+    <message>
+        <source>Show the circles</source>
+        <translation>Mostrar los círculos</translation>
+    </message>
+    <message>
+        <source>Show the custom text</source>
+        <translation>Mostrar el texto propio</translation>
+    </message>
+    <message>
+        <source>Show the diagonals</source>
+        <translation>Mostrar las diagonales</translation>
+    </message>
+    <message>
+        <source>Show the information line</source>
+        <translation>Mostrar la línea de información</translation>
+    </message>
+    <message>
+        <source>Show the labels</source>
+        <translation>Mostrar las etiquetas</translation>
+    </message>
+    <message>
+        <source>Show the logo</source>
+        <translation>Mostrar el logo</translation>
+    </message>
+    <message>
+        <source>Sideways shift of the logo in pixels</source>
+        <translation>Desplazamiento lateral del logo en píxeles</translation>
+    </message>
+    <message>
+        <source>Size of the custom text</source>
+        <translation>Tamaño del texto propio</translation>
+    </message>
+    <message>
+        <source>Size of the information line</source>
+        <translation>Tamaño de la línea de información</translation>
+    </message>
+    <message>
+        <source>Size of the labels</source>
+        <translation>Tamaño de las etiquetas</translation>
+    </message>
+    <message>
+        <source>Size of the logo in percent</source>
+        <translation>Tamaño del logo en porcentaje</translation>
+    </message>
+    <message>
+        <source>Size of the logo text</source>
+        <translation>Tamaño del texto del logo</translation>
+    </message>
+    <message>
         <source>Sort by</source>
         <translation>Sentido</translation>
     </message>
@@ -292,6 +452,10 @@
         <translation>Tamaño</translation>
     </message>
     <message>
+        <source>Text of the logo</source>
+        <translation>Texto del logo</translation>
+    </message>
+    <message>
         <source>UpLogo</source>
         <translation>Archivo</translation>
     </message>
@@ -304,8 +468,16 @@
         <translation>Valor:</translation>
     </message>
     <message>
+        <source>Vertical shift of the logo in pixels</source>
+        <translation>Desplazamiento vertical del logo en píxeles</translation>
+    </message>
+    <message>
         <source>Widget</source>
         <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Width of the border</source>
+        <translation>Grosor del borde</translation>
     </message>
     <message>
         <source>X</source>

@@ -4,6 +4,14 @@
 <context>
     <name>TestChartTools::Widget</name>
     <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: %2～%3</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: 最大 %2 文字</translation>
+    </message>
+    <message>
         <source>Add</source>
         <translation>追加</translation>
     </message>
@@ -40,6 +48,10 @@
         <translation>明るさ</translation>
     </message>
     <message>
+        <source>Brightness in percent</source>
+        <translation>明るさ (パーセント)</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -50,6 +62,14 @@
     <message>
         <source>Center</source>
         <translation>中央</translation>
+    </message>
+    <message>
+        <source>Chart height in pixels</source>
+        <translation>テストパターンの高さ (ピクセル)</translation>
+    </message>
+    <message>
+        <source>Chart width in pixels</source>
+        <translation>テストパターンの幅 (ピクセル)</translation>
     </message>
     <message>
         <source>Chess</source>
@@ -68,12 +88,60 @@
         <translation>カラーバー</translation>
     </message>
     <message>
+        <source>Color of the border</source>
+        <translation>外枠の色</translation>
+    </message>
+    <message>
+        <source>Color of the circles</source>
+        <translation>円の色</translation>
+    </message>
+    <message>
+        <source>Color of the custom text</source>
+        <translation>任意テキストの色</translation>
+    </message>
+    <message>
+        <source>Color of the diagonals</source>
+        <translation>対角線の色</translation>
+    </message>
+    <message>
+        <source>Color of the even cabinets</source>
+        <translation>偶数のキャビネットの色</translation>
+    </message>
+    <message>
+        <source>Color of the information line</source>
+        <translation>情報の行の色</translation>
+    </message>
+    <message>
+        <source>Color of the labels</source>
+        <translation>ラベルの色</translation>
+    </message>
+    <message>
+        <source>Color of the logo text</source>
+        <translation>ロゴのテキストの色</translation>
+    </message>
+    <message>
+        <source>Color of the odd cabinets</source>
+        <translation>奇数のキャビネットの色</translation>
+    </message>
+    <message>
+        <source>Colors of the color bar</source>
+        <translation>カラーバーの色</translation>
+    </message>
+    <message>
+        <source>Columns of cabinets</source>
+        <translation>キャビネットの列数</translation>
+    </message>
+    <message>
         <source>Combination Mode</source>
         <translation>両方</translation>
     </message>
     <message>
         <source>Confirm</source>
         <translation>決定</translation>
+    </message>
+    <message>
+        <source>Custom text</source>
+        <translation>任意テキスト</translation>
     </message>
     <message>
         <source>Customcolors</source>
@@ -100,6 +168,10 @@
         <translation>任意テキスト</translation>
     </message>
     <message>
+        <source>Double click or Enter changes a color, Alt+Up and Alt+Down move it</source>
+        <translation>ダブルクリックまたは Enter で色を変更、Alt+↑ と Alt+↓ で移動</translation>
+    </message>
+    <message>
         <source>Even</source>
         <translation>偶数</translation>
     </message>
@@ -110,6 +182,10 @@
     <message>
         <source>Gradient</source>
         <translation>グラデ</translation>
+    </message>
+    <message>
+        <source>Gradient between the colors</source>
+        <translation>色のグラデーション</translation>
     </message>
     <message>
         <source>Green</source>
@@ -144,6 +220,14 @@
         <translation>英字</translation>
     </message>
     <message>
+        <source>Line width of the circles</source>
+        <translation>円の線の太さ</translation>
+    </message>
+    <message>
+        <source>Line width of the diagonals</source>
+        <translation>対角線の太さ</translation>
+    </message>
+    <message>
         <source>Logo Style</source>
         <translation>種類</translation>
     </message>
@@ -172,6 +256,14 @@
         <translation>不透明度</translation>
     </message>
     <message>
+        <source>Opacity of the logo in percent</source>
+        <translation>ロゴの不透明度 (パーセント)</translation>
+    </message>
+    <message>
+        <source>Order of the labels</source>
+        <translation>ラベルの順序</translation>
+    </message>
+    <message>
         <source>OutBorder</source>
         <translation>外枠</translation>
     </message>
@@ -188,8 +280,20 @@
         <translation>位置調整</translation>
     </message>
     <message>
+        <source>Position of the labels</source>
+        <translation>ラベルの位置</translation>
+    </message>
+    <message>
+        <source>Position of the logo</source>
+        <translation>ロゴの位置</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>前の色</translation>
+    </message>
+    <message>
+        <source>Radius of the circles</source>
+        <translation>円の半径</translation>
     </message>
     <message>
         <source>Red</source>
@@ -214,6 +318,10 @@
     <message>
         <source>Right Up</source>
         <translation>右上</translation>
+    </message>
+    <message>
+        <source>Rows of cabinets</source>
+        <translation>キャビネットの行数</translation>
     </message>
     <message>
         <source>Sat</source>
@@ -268,6 +376,58 @@
         <translation>サイズ</translation>
     </message>
     <message>
+        <source>Show the border</source>
+        <translation>外枠を表示</translation>
+    </message>
+    <message>
+        <source>Show the circles</source>
+        <translation>円を表示</translation>
+    </message>
+    <message>
+        <source>Show the custom text</source>
+        <translation>任意テキストを表示</translation>
+    </message>
+    <message>
+        <source>Show the diagonals</source>
+        <translation>対角線を表示</translation>
+    </message>
+    <message>
+        <source>Show the information line</source>
+        <translation>情報の行を表示</translation>
+    </message>
+    <message>
+        <source>Show the labels</source>
+        <translation>ラベルを表示</translation>
+    </message>
+    <message>
+        <source>Show the logo</source>
+        <translation>ロゴを表示</translation>
+    </message>
+    <message>
+        <source>Sideways shift of the logo in pixels</source>
+        <translation>ロゴの横方向の移動量 (ピクセル)</translation>
+    </message>
+    <message>
+        <source>Size of the custom text</source>
+        <translation>任意テキストのサイズ</translation>
+    </message>
+    <message>
+        <source>Size of the information line</source>
+        <translation>情報の行のサイズ</translation>
+    </message>
+    <message>
+        <source>Size of the labels</source>
+        <translation>ラベルのサイズ</translation>
+    </message>
+    <message>
+        <source>Size of the logo in percent</source>
+        <translation>ロゴのサイズ (パーセント)</translation>
+    </message>
+    <message>
+        <source>Size of the logo text</source>
+        <translation>ロゴのテキストのサイズ</translation>
+    </message>
+    <message>
         <source>Sort by</source>
         <translation>順序</translation>
     </message>
@@ -292,6 +452,10 @@
         <translation>サイズ</translation>
     </message>
     <message>
+        <source>Text of the logo</source>
+        <translation>ロゴのテキスト</translation>
+    </message>
+    <message>
         <source>UpLogo</source>
         <translation>ファイル</translation>
     </message>
@@ -304,8 +468,16 @@
         <translation>明度:</translation>
     </message>
     <message>
+        <source>Vertical shift of the logo in pixels</source>
+        <translation>ロゴの縦方向の移動量 (ピクセル)</translation>
+    </message>
+    <message>
         <source>Widget</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>Width of the border</source>
+        <translation>外枠の幅</translation>
     </message>
     <message>
         <source>X</source>

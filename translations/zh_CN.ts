@@ -4,6 +4,14 @@
 <context>
     <name>TestChartTools::Widget</name>
     <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: %2 至 %3</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: 最多 %2 个字符</translation>
+    </message>
+    <message>
         <source>Add</source>
         <translation>添加</translation>
     </message>
@@ -40,6 +48,10 @@
         <translation>亮度</translation>
     </message>
     <message>
+        <source>Brightness in percent</source>
+        <translation>亮度（百分比）</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -50,6 +62,14 @@
     <message>
         <source>Center</source>
         <translation>居中</translation>
+    </message>
+    <message>
+        <source>Chart height in pixels</source>
+        <translation>测试图高度（像素）</translation>
+    </message>
+    <message>
+        <source>Chart width in pixels</source>
+        <translation>测试图宽度（像素）</translation>
     </message>
     <message>
         <source>Chess</source>
@@ -68,12 +88,60 @@
         <translation>彩条</translation>
     </message>
     <message>
+        <source>Color of the border</source>
+        <translation>边框颜色</translation>
+    </message>
+    <message>
+        <source>Color of the circles</source>
+        <translation>圆的颜色</translation>
+    </message>
+    <message>
+        <source>Color of the custom text</source>
+        <translation>自定义文字的颜色</translation>
+    </message>
+    <message>
+        <source>Color of the diagonals</source>
+        <translation>对角线的颜色</translation>
+    </message>
+    <message>
+        <source>Color of the even cabinets</source>
+        <translation>偶数箱体的颜色</translation>
+    </message>
+    <message>
+        <source>Color of the information line</source>
+        <translation>信息行的颜色</translation>
+    </message>
+    <message>
+        <source>Color of the labels</source>
+        <translation>编号的颜色</translation>
+    </message>
+    <message>
+        <source>Color of the logo text</source>
+        <translation>标志文字的颜色</translation>
+    </message>
+    <message>
+        <source>Color of the odd cabinets</source>
+        <translation>奇数箱体的颜色</translation>
+    </message>
+    <message>
+        <source>Colors of the color bar</source>
+        <translation>彩条的颜色</translation>
+    </message>
+    <message>
+        <source>Columns of cabinets</source>
+        <translation>箱体列数</translation>
+    </message>
+    <message>
         <source>Combination Mode</source>
         <translation>组合模式</translation>
     </message>
     <message>
         <source>Confirm</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>Custom text</source>
+        <translation>自定义文字</translation>
     </message>
     <message>
         <source>Customcolors</source>
@@ -100,6 +168,10 @@
         <translation>自定义文字</translation>
     </message>
     <message>
+        <source>Double click or Enter changes a color, Alt+Up and Alt+Down move it</source>
+        <translation>双击或按回车可更改颜色，Alt+上/下可移动颜色</translation>
+    </message>
+    <message>
         <source>Even</source>
         <translation>偶数</translation>
     </message>
@@ -110,6 +182,10 @@
     <message>
         <source>Gradient</source>
         <translation>渐变</translation>
+    </message>
+    <message>
+        <source>Gradient between the colors</source>
+        <translation>颜色之间渐变</translation>
     </message>
     <message>
         <source>Green</source>
@@ -144,6 +220,14 @@
         <translation>字母模式</translation>
     </message>
     <message>
+        <source>Line width of the circles</source>
+        <translation>圆的线宽</translation>
+    </message>
+    <message>
+        <source>Line width of the diagonals</source>
+        <translation>对角线的线宽</translation>
+    </message>
+    <message>
         <source>Logo Style</source>
         <translation>标志样式</translation>
     </message>
@@ -172,6 +256,14 @@
         <translation>不透明度</translation>
     </message>
     <message>
+        <source>Opacity of the logo in percent</source>
+        <translation>标志不透明度（百分比）</translation>
+    </message>
+    <message>
+        <source>Order of the labels</source>
+        <translation>编号的顺序</translation>
+    </message>
+    <message>
         <source>OutBorder</source>
         <translation>外边框</translation>
     </message>
@@ -188,8 +280,20 @@
         <translation>位置调整</translation>
     </message>
     <message>
+        <source>Position of the labels</source>
+        <translation>编号的位置</translation>
+    </message>
+    <message>
+        <source>Position of the logo</source>
+        <translation>标志的位置</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>上一个颜色</translation>
+    </message>
+    <message>
+        <source>Radius of the circles</source>
+        <translation>圆的半径</translation>
     </message>
     <message>
         <source>Red</source>
@@ -214,6 +318,10 @@
     <message>
         <source>Right Up</source>
         <translation>右上</translation>
+    </message>
+    <message>
+        <source>Rows of cabinets</source>
+        <translation>箱体行数</translation>
     </message>
     <message>
         <source>Sat</source>
@@ -268,6 +376,58 @@
         <translation>显示大小</translation>
     </message>
     <message>
+        <source>Show the border</source>
+        <translation>显示边框</translation>
+    </message>
+    <message>
+        <source>Show the circles</source>
+        <translation>显示圆形</translation>
+    </message>
+    <message>
+        <source>Show the custom text</source>
+        <translation>显示自定义文字</translation>
+    </message>
+    <message>
+        <source>Show the diagonals</source>
+        <translation>显示对角线</translation>
+    </message>
+    <message>
+        <source>Show the information line</source>
+        <translation>显示信息行</translation>
+    </message>
+    <message>
+        <source>Show the labels</source>
+        <translation>显示箱体编号</translation>
+    </message>
+    <message>
+        <source>Show the logo</source>
+        <translation>显示标志</translation>
+    </message>
+    <message>
+        <source>Sideways shift of the logo in pixels</source>
+        <translation>标志水平偏移（像素）</translation>
+    </message>
+    <message>
+        <source>Size of the custom text</source>
+        <translation>自定义文字的大小</translation>
+    </message>
+    <message>
+        <source>Size of the information line</source>
+        <translation>信息行的大小</translation>
+    </message>
+    <message>
+        <source>Size of the labels</source>
+        <translation>编号的大小</translation>
+    </message>
+    <message>
+        <source>Size of the logo in percent</source>
+        <translation>标志大小（百分比）</translation>
+    </message>
+    <message>
+        <source>Size of the logo text</source>
+        <translation>标志文字的大小</translation>
+    </message>
+    <message>
         <source>Sort by</source>
         <translation>排序方式</translation>
     </message>
@@ -292,6 +452,10 @@
         <translation>文字大小</translation>
     </message>
     <message>
+        <source>Text of the logo</source>
+        <translation>标志的文字</translation>
+    </message>
+    <message>
         <source>UpLogo</source>
         <translation>上传标志</translation>
     </message>
@@ -304,8 +468,16 @@
         <translation>明度：</translation>
     </message>
     <message>
+        <source>Vertical shift of the logo in pixels</source>
+        <translation>标志垂直偏移（像素）</translation>
+    </message>
+    <message>
         <source>Widget</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>Width of the border</source>
+        <translation>边框宽度</translation>
     </message>
     <message>
         <source>X</source>

@@ -150,6 +150,65 @@ QStringList selfSources()
             "Show Size",           "Color",      "ResolutionShow", "BoxNumShow"};
 }
 
+/// What the panels look up to tell of their fields, after their captions.
+QStringList fieldSources(std::initializer_list<const char*> names)
+{
+    QStringList sources;
+    for (const char* name : names) {
+        const QString source = QLatin1String(name);
+        sources << source.mid(source.startsWith(QLatin1Char('#')) ? 1 : 0);
+        if (source.startsWith(QLatin1Char('#')))
+            sources << QStringLiteral("%1: %2 to %3");
+    }
+    return sources;
+}
+
+QStringList basicFields()
+{
+    return fieldSources({"Color of the odd cabinets", "Color of the even cabinets",
+                         "Gradient between the colors", "Colors of the color bar",
+                         "Double click or Enter changes a color, Alt+Up and Alt+Down move it"});
+}
+
+QStringList publicFields()
+{
+    return fieldSources({"#Brightness in percent", "#Brightness in percent", "#Chart width in pixels",
+                         "#Chart height in pixels", "#Rows of cabinets", "#Columns of cabinets",
+                         "Show the border", "#Width of the border", "Color of the border"});
+}
+
+QStringList inLineFields()
+{
+    return fieldSources({"Show the circles", "#Radius of the circles", "#Line width of the circles",
+                         "Color of the circles", "Show the diagonals", "#Line width of the diagonals",
+                         "Color of the diagonals", "Show the labels", "#Size of the labels",
+                         "Color of the labels", "Position of the labels", "Order of the labels"});
+}
+
+QStringList logoFields()
+{
+    return fieldSources({"Show the logo", "#Size of the logo in percent", "#Size of the logo in percent",
+                         "Text of the logo", "#Size of the logo text", "Color of the logo text",
+                         "Position of the logo", "#Sideways shift of the logo in pixels",
+                         "#Vertical shift of the logo in pixels", "#Opacity of the logo in percent",
+                         "#Opacity of the logo in percent"});
+}
+
+QStringList selfFields()
+{
+    return fieldSources({"Show the custom text", "Custom text"}) + QStringList{"%1: at most %2 characters"} +
+           fieldSources({"#Size of the custom text", "Color of the custom text", "Show the information line",
+                         "#Size of the information line", "Color of the information line"});
+}
+
+/// The captions of a panel and its fields, before the `last` texts that its painter looks up.
+QStringList panelSources(QStringList captions, const QStringList& fields, int last = 0)
+{
+    const QStringList ofPainter = captions.mid(captions.size() - last);
+    captions.erase(captions.end() - last, captions.end());
+    return captions + fields + ofPainter;
+}
+
 /// The sources of the texts that were looked up in `language` and are lacking there, in order.
 QStringList lacking(const QStringList& messages, const QString& language)
 {
@@ -324,8 +383,11 @@ private Q_SLOTS:
         log().clear();
         tool->switchLanguage(QStringLiteral("la"));
         const QStringList order = lacking(log().messages(), QStringLiteral("la"));
-        const QStringList expected = englishButtons() + basicSources() + publicSources() + inLineSources() +
-                                     logoSources() + selfSources() + englishTitles();
+        const QStringList expected = englishButtons() + panelSources(basicSources(), basicFields()) +
+                                     panelSources(publicSources(), publicFields()) +
+                                     panelSources(inLineSources(), inLineFields()) +
+                                     panelSources(logoSources(), logoFields(), 1) +
+                                     panelSources(selfSources(), selfFields(), 2) + englishTitles();
         QCOMPARE(order.mid(0, expected.size()), expected);
         QCOMPARE(order.value(expected.size()), withColorDialog ? QStringLiteral("SelectColor") : QString());
         QCOMPARE(order.size() > expected.size(), withColorDialog);

@@ -91,7 +91,7 @@ public:
     QWidget* createSettingsColumn();
     PropertyBox* createSection(const char* objectName, const QString& title);
     template <typename Panel>
-    Panel* addPanel(PropertyBox* section, const char* itemName, int height, int lockRank);
+    Panel* addPanel(PropertyBox* section, const char* itemName, int lockRank);
     void createColorDialog();
     void createConnects();
     void connectButtons();
@@ -234,13 +234,13 @@ QWidget* VTestChartTools::Impl::createSettingsColumn()
     scrollLayout->setSpacing(0);
 
     layerSection = createSection("basePropertyBox", translated(QStringLiteral("Layer settings")));
-    basicPanel = addPanel<BasicSettingBox>(layerSection, "basicSetting", 140, 0);
-    publicPanel = addPanel<PublicSettingBox>(layerSection, "publicSetting", 160, 3);
+    basicPanel = addPanel<BasicSettingBox>(layerSection, "basicSetting", 0);
+    publicPanel = addPanel<PublicSettingBox>(layerSection, "publicSetting", 3);
     contentSection = createSection("userSettingPropertyBox",
                                    translated(QStringLiteral("Display content personalization")));
-    inLinePanel = addPanel<InLineSettingBox>(contentSection, "inLineSetting", 330, 1);
-    logoPanel = addPanel<LogoSettingBox>(contentSection, "logoSetting", 245, 2);
-    selfPanel = addPanel<SelfSettingBox>(contentSection, "selfSetting", 160, 4);
+    inLinePanel = addPanel<InLineSettingBox>(contentSection, "inLineSetting", 1);
+    logoPanel = addPanel<LogoSettingBox>(contentSection, "logoSetting", 2);
+    selfPanel = addPanel<SelfSettingBox>(contentSection, "selfSetting", 4);
     scrollLayout->addStretch();
 
     mask = new QWidget(scrollContent);
@@ -265,13 +265,13 @@ PropertyBox* VTestChartTools::Impl::createSection(const char* objectName, const 
 }
 
 template <typename Panel>
-Panel* VTestChartTools::Impl::addPanel(PropertyBox* section, const char* itemName, int height, int lockRank)
+Panel* VTestChartTools::Impl::addPanel(PropertyBox* section, const char* itemName, int lockRank)
 {
     auto* panel = new Panel(owner);
     auto* layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(panel);
-    section->addItem(QLatin1String(itemName), layout, height);
+    section->addItem(QLatin1String(itemName), layout, panel->sectionHeight());
     panels.push_back(panel);
     panelsByLockRank[lockRank] = panel;
     return panel;
@@ -619,6 +619,17 @@ void VTestChartTools::setSaveButtonsFollowState(bool follows)
 void VTestChartTools::hideViewWidget()
 {
     d->previewLabel->hide();
+}
+
+void VTestChartTools::setWheelScrollsPanels(bool scrolls)
+{
+    for (SettingPanel* panel : d->panels)
+        panel->setWheelScrolls(scrolls);
+}
+
+bool VTestChartTools::wheelScrollsPanels() const
+{
+    return d->panels.front()->wheelScrolls();
 }
 
 void VTestChartTools::setMoveRange(const QRect& range)

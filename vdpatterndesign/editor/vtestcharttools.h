@@ -23,6 +23,7 @@ class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(bool saveButtonsFollowState READ saveButtonsFollowState WRITE setSaveButtonsFollowState)
+    Q_PROPERTY(bool wheelScrollsPanels READ wheelScrollsPanels WRITE setWheelScrollsPanels)
 
 public:
     explicit VTestChartTools(QWidget* parent = nullptr);
@@ -79,6 +80,11 @@ public:
 
     /// Hides the preview.
     void hideViewWidget();
+
+    /// Whether the wheel scrolls the settings, unless the entry, choice or slider under it has the focus.
+    /// False (at first): the wheel changes the control that it turns over.
+    void setWheelScrollsPanels(bool scrolls);
+    bool wheelScrollsPanels() const;
 
     /// The host's main window, in global pixels: the colour picker stays in it.
     void setMoveRange(const QRect& range);

@@ -20,6 +20,7 @@ namespace vardeno::testcharttools {
 
 namespace {
 
+constexpr int usualHeight = 330;
 constexpr QSize captionSize(80, 24);
 constexpr QSize entrySize(110, 24);
 constexpr QSize radioSize(95, 24);
@@ -122,13 +123,8 @@ void InLineSettingBox::Impl::build(PanelControls& controls)
     buildDiagonalRows(rows);
     buildSerialRows(rows);
     column->addStretch();
-
-    auto* line = new QFrame(owner);
-    line->setObjectName(QStringLiteral("inlineLine"));
-    line->setFrameStyle(QFrame::HLine | QFrame::Plain);
-    line->setForegroundRole(QPalette::Midlight);
-    line->setFixedSize(360, 1);
-    column->addWidget(line, 0, Qt::AlignHCenter);
+    column->addWidget(createRule(owner, "inlineLine", 360, QFrame::HLine | QFrame::Plain), 0,
+                      Qt::AlignHCenter);
 
     circle.apply = &PaintInLineWidget::setCircleColor;
     diagonal.apply = &PaintInLineWidget::setDiagonalColor;
@@ -145,34 +141,47 @@ void InLineSettingBox::Impl::build(PanelControls& controls)
 void InLineSettingBox::Impl::buildCircleRows(SettingRows& rows)
 {
     const auto whenOn = [this] { return circleSwitch->isChecked(); };
-    rows.row(QStringLiteral("Show Circle")).toggle(circleSwitch, true);
+    rows.row(QStringLiteral("Show Circle"))
+        .toggle(circleSwitch, true)
+        .named(QStringLiteral("Show the circles"));
     rows.row(QStringLiteral("Circle"))
-        .spin(circleRadius, entrySize, range(1, 16384).value(540).suffix(QStringLiteral("px")), whenOn);
+        .spin(circleRadius, entrySize, range(1, 16384).value(540).suffix(QStringLiteral("px")), whenOn)
+        .named(QStringLiteral("Radius of the circles"));
     // This button carries no "btnProperty": its role follows from its name.
     rows.row(QStringLiteral("BorderWidth"))
         .spin(circleWidth, entrySize, range(1, 100).value(2).suffix(QStringLiteral("px")), whenOn)
+        .named(QStringLiteral("Line width of the circles"))
         .caption(QStringLiteral("Color"), captionSize, captionMargin)
-        .swatch(circle.button, QStringLiteral("circleColorButton"), QString(), whenOn);
+        .swatch(circle.button, QStringLiteral("circleColorButton"), QString(), whenOn)
+        .named(QStringLiteral("Color of the circles"));
 }
 
 void InLineSettingBox::Impl::buildDiagonalRows(SettingRows& rows)
 {
     const auto whenOn = [this] { return diagonalSwitch->isChecked(); };
-    rows.row(QStringLiteral("Show Diagonal")).toggle(diagonalSwitch, true);
+    rows.row(QStringLiteral("Show Diagonal"))
+        .toggle(diagonalSwitch, true)
+        .named(QStringLiteral("Show the diagonals"));
     rows.row(QStringLiteral("BorderWidth"))
         .spin(diagonalWidth, entrySize, range(1, 100).value(10).suffix(QStringLiteral("px")), whenOn)
+        .named(QStringLiteral("Line width of the diagonals"))
         .caption(QStringLiteral("Color"), captionSize, captionMargin)
-        .swatch(diagonal.button, QStringLiteral("diagonalColorButton"), QStringLiteral("diagonal"), whenOn);
+        .swatch(diagonal.button, QStringLiteral("diagonalColorButton"), QStringLiteral("diagonal"), whenOn)
+        .named(QStringLiteral("Color of the diagonals"));
 }
 
 void InLineSettingBox::Impl::buildSerialRows(SettingRows& rows)
 {
     const auto whenOn = [this] { return serialSwitch->isChecked(); };
-    rows.row(QStringLiteral("Show Serial Number")).toggle(serialSwitch, true);
+    rows.row(QStringLiteral("Show Serial Number"))
+        .toggle(serialSwitch, true)
+        .named(QStringLiteral("Show the labels"));
     rows.row(QStringLiteral("Serial Size"))
         .spin(serialSize, entrySize, range(1, 100).value(15).suffix(QStringLiteral("px")), whenOn)
+        .named(QStringLiteral("Size of the labels"))
         .caption(QStringLiteral("Color"), captionSize, captionMargin)
-        .swatch(serial.button, QStringLiteral("sequeColorBtn"), QStringLiteral("seque"), whenOn);
+        .swatch(serial.button, QStringLiteral("sequeColorBtn"), QStringLiteral("seque"), whenOn)
+        .named(QStringLiteral("Color of the labels"));
     rows.row(QStringLiteral("Show Model"))
         .radio(letterMode, QStringLiteral("Letter Mode"), radioSize)
         .radio(numMode, QStringLiteral("Num Mode"), radioSize)
@@ -182,14 +191,16 @@ void InLineSettingBox::Impl::buildSerialRows(SettingRows& rows)
         .combo(position,
                {QStringLiteral("Center"), QStringLiteral("Left Up Right Down"),
                 QStringLiteral("Left Down Right Up")},
-               comboSize);
+               comboSize)
+        .named(QStringLiteral("Position of the labels"));
     rows.row(QStringLiteral("Sort by"))
         .combo(sort,
                {QStringLiteral("From up to down increase Frome left to right increase"),
                 QStringLiteral("from up to down increase frome left to right decrease"),
                 QStringLiteral("from down to up increase frome left to right increase"),
                 QStringLiteral("from down to up increase frome left to right decrease")},
-               comboSize);
+               comboSize)
+        .named(QStringLiteral("Order of the labels"));
 }
 
 void InLineSettingBox::Impl::connectControls()
@@ -347,7 +358,7 @@ void InLineSettingBox::Impl::slotRadiusResetEditFinished()
 }
 
 InLineSettingBox::InLineSettingBox(QWidget* parent)
-    : SettingPanel(parent)
+    : SettingPanel(usualHeight, parent)
     , d(new Impl(this))
 {
     setObjectName(QStringLiteral("inlinesettingbox"));

@@ -34,6 +34,7 @@ enum Page
     TextPage
 };
 
+constexpr int usualHeight = 245;
 constexpr QSize captionSize(80, 24);
 constexpr QSize radioSize(115, 24);
 constexpr int buttonMargin = 2; ///< also of the radio buttons, whose indicators are not counted
@@ -132,7 +133,7 @@ void LogoSettingBox::Impl::build(PanelControls& controls)
     column->setSpacing(6);
     const auto whenOn = [this] { return isOn(); };
     SettingRows rows(owner, controls, column, captionSize);
-    rows.row(QStringLiteral("Show Logo")).toggle(showButton, true);
+    rows.row(QStringLiteral("Show Logo")).toggle(showButton, true).named(QStringLiteral("Show the logo"));
     rows.row(QStringLiteral("Logo Style"))
         .radio(pictureRadio, QStringLiteral("Picture Logo"), radioSize, whenOn, buttonMargin)
         .radio(textRadio, QStringLiteral("Text Logo"), radioSize, whenOn, buttonMargin);
@@ -144,13 +145,7 @@ void LogoSettingBox::Impl::build(PanelControls& controls)
     column->addWidget(pages);
     buildPlacementRows(rows);
     column->addStretch();
-
-    auto* line = new QFrame(owner);
-    line->setObjectName(QStringLiteral("logoLine"));
-    line->setFrameStyle(QFrame::HLine);
-    line->setFixedSize(353, 1);
-    line->setForegroundRole(QPalette::Midlight);
-    column->addWidget(line, 0, Qt::AlignCenter);
+    column->addWidget(createRule(owner, "logoLine", 353, QFrame::HLine), 0, Qt::AlignCenter);
 }
 
 QWidget* LogoSettingBox::Impl::buildPicturePage(PanelControls& controls)
@@ -168,7 +163,9 @@ QWidget* LogoSettingBox::Impl::buildPicturePage(PanelControls& controls)
     column->addLayout(buildHint(page, controls));
     rows.row(QStringLiteral("Scale Logo"))
         .slider(scale.slider, 200, whenOn)
+        .named(QStringLiteral("Size of the logo in percent"))
         .spin(scale.entry, shortEntry, range(0, 200).value(100), whenOn)
+        .named(QStringLiteral("Size of the logo in percent"))
         .iconButton(scaleReset, QStringLiteral(":/resources/images/icon_reset.png"), QStringLiteral("Reset"),
                     QStringLiteral("scalelogoBtn"), whenOn);
     scale.slider->setPageStep(0);
@@ -207,15 +204,18 @@ QWidget* LogoSettingBox::Impl::buildTextPage(PanelControls& controls)
     const auto whenOn = [this] { return isOn(); };
     SettingRows rows(page, controls, column, captionSize);
     rows.row(QStringLiteral("Text Logo"))
-        .text(text, QString::fromStdString(LogoChartData().logoText), QSize(266, 24), whenOn);
+        .text(text, QString::fromStdString(LogoChartData().logoText), QSize(266, 24), whenOn)
+        .named(QStringLiteral("Text of the logo"));
     rows.row(QStringLiteral("Text Size"))
         .spacing(0)
         .gap(8)
         .spin(textSize, shortEntry, range(0, 100).value(100).suffix(QStringLiteral("px")), whenOn)
+        .named(QStringLiteral("Size of the logo text"))
         .gap(12)
         .caption(QStringLiteral("Color"), captionSize)
         .gap(7)
-        .swatch(colorButton, QStringLiteral("textColorBtn"), QStringLiteral("logo"), whenOn);
+        .swatch(colorButton, QStringLiteral("textColorBtn"), QStringLiteral("logo"), whenOn)
+        .named(QStringLiteral("Color of the logo text"));
     textSwatch = SwitchedSwatch(colorButton);
     textSwatch.paint(Qt::black);
     column->addStretch();
@@ -229,16 +229,21 @@ void LogoSettingBox::Impl::buildPlacementRows(SettingRows& rows)
         .combo(position,
                {QStringLiteral("Center"), QStringLiteral("Left Up"), QStringLiteral("Left Down"),
                 QStringLiteral("Right Up"), QStringLiteral("Right Down")},
-               QSize(110, 24), whenOn);
+               QSize(110, 24), whenOn)
+        .named(QStringLiteral("Position of the logo"));
     position->installEventFilter(owner);
     rows.row(QStringLiteral("Position adjustment"))
         .caption(QStringLiteral("X"), axisCaption)
         .spin(moveX, shortEntry, range(0, farthestMove), whenOn)
+        .named(QStringLiteral("Sideways shift of the logo in pixels"))
         .caption(QStringLiteral("Y"), axisCaption)
-        .spin(moveY, shortEntry, range(0, farthestMove), whenOn);
+        .spin(moveY, shortEntry, range(0, farthestMove), whenOn)
+        .named(QStringLiteral("Vertical shift of the logo in pixels"));
     rows.row(QStringLiteral("Opacity"))
         .slider(opacity.slider, 100, whenOn)
+        .named(QStringLiteral("Opacity of the logo in percent"))
         .spin(opacity.entry, shortEntry, range(0, 100).value(100), whenOn)
+        .named(QStringLiteral("Opacity of the logo in percent"))
         .iconButton(opacityReset, QStringLiteral(":/resources/images/icon_reset.png"),
                     QStringLiteral("Reset"), QStringLiteral("logoOpacityBtn"), whenOn);
     opacity.slider->setPageStep(0);
@@ -447,7 +452,7 @@ void LogoSettingBox::Impl::slotLogoColor()
 }
 
 LogoSettingBox::LogoSettingBox(QWidget* parent)
-    : SettingPanel(parent)
+    : SettingPanel(usualHeight, parent)
     , d(new Impl(this))
 {
     setObjectName(QStringLiteral("logosettingbox"));

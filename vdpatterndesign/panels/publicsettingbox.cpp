@@ -23,6 +23,7 @@ namespace vardeno::testcharttools {
 namespace {
 
 constexpr int smallestResolution = 16;
+constexpr int usualHeight = 160;
 constexpr QSize captionSize(80, 24);
 constexpr QSize shortEntry(70, 24);
 constexpr QSize entrySize(110, 24);
@@ -94,23 +95,31 @@ void PublicSettingBox::Impl::buildRows(PanelControls& controls)
     SettingRows rows(inner, controls, column, captionSize);
     rows.row(QStringLiteral("Brightness"))
         .slider(brightness.slider, 100)
+        .named(QStringLiteral("Brightness in percent"))
         .spin(brightness.entry, shortEntry, range(0, 100).value(100))
+        .named(QStringLiteral("Brightness in percent"))
         .iconButton(brightReset, QStringLiteral(":/resources/images/icon_reset.png"), QStringLiteral("Reset"),
                     QStringLiteral("BrightResetBtn"));
     rows.row(QStringLiteral("Resolution"))
         .spin(width, shortEntry, range(smallestResolution, 4320).value(1920))
-        .spin(height, shortEntry, range(smallestResolution, 4320).value(1080));
+        .named(QStringLiteral("Chart width in pixels"))
+        .spin(height, shortEntry, range(smallestResolution, 4320).value(1080))
+        .named(QStringLiteral("Chart height in pixels"));
     rows.row(QStringLiteral("Box RowColNum"))
         .spin(row, shortEntry, range(1, 100).value(9))
-        .spin(col, shortEntry, range(1, 100).value(16));
+        .named(QStringLiteral("Rows of cabinets"))
+        .spin(col, shortEntry, range(1, 100).value(16))
+        .named(QStringLiteral("Columns of cabinets"));
     row->setObjectName(QStringLiteral("Row"));
     col->setObjectName(QStringLiteral("Col"));
-    rows.row(QStringLiteral("OutBorder")).toggle(borderSwitch, true);
+    rows.row(QStringLiteral("OutBorder")).toggle(borderSwitch, true).named(QStringLiteral("Show the border"));
     rows.row(QStringLiteral("BorderWidth"))
         .spin(borderWidth, entrySize, range(1, 100).value(6).suffix(QStringLiteral("px")), whenBorderOn)
+        .named(QStringLiteral("Width of the border"))
         .caption(QStringLiteral("Color"), captionSize)
         .swatch(borderColor, QStringLiteral("outLineColorButton"), QStringLiteral("outLineColorButton"),
-                whenBorderOn);
+                whenBorderOn)
+        .named(QStringLiteral("Color of the border"));
     borderSwatch = SwitchedSwatch(borderColor);
     borderSwatch.paint(Qt::white);
 
@@ -218,7 +227,7 @@ void PublicSettingBox::Impl::slotResetResolutionHeightEditFinished(QString)
 }
 
 PublicSettingBox::PublicSettingBox(QWidget* parent)
-    : SettingPanel(parent)
+    : SettingPanel(usualHeight, parent)
     , d(new Impl(this))
 {
     setFixedWidth(410);

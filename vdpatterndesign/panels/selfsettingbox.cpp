@@ -18,6 +18,7 @@ namespace vardeno::testcharttools {
 
 namespace {
 
+constexpr int usualHeight = 160;
 constexpr QSize captionSize(80, 24);
 constexpr QSize inputSize(266, 24);
 constexpr QSize entrySize(110, 24);
@@ -92,21 +93,30 @@ void SelfSettingBox::Impl::buildRows(PanelControls& controls)
     const auto whenResolutionOn = [this] { return resolutionSwitch->isChecked(); };
     const SpinRange sizes = range(1, 200).value(50).suffix(QStringLiteral("px"));
     SettingRows rowsOf(inner, controls, column, captionSize);
-    rowsOf.row(QStringLiteral("Display custom text")).toggle(textSwitch, true);
+    rowsOf.row(QStringLiteral("Display custom text"))
+        .toggle(textSwitch, true)
+        .named(QStringLiteral("Show the custom text"));
     rowsOf.row(QStringLiteral("Text Input"))
-        .text(text, QString::fromStdString(SelfChartData().selfText), inputSize, whenTextOn);
+        .text(text, QString::fromStdString(SelfChartData().selfText), inputSize, whenTextOn)
+        .named(QStringLiteral("Custom text"));
     text->setObjectName(QStringLiteral("selfInputLineEdit"));
     text->setMaxLength(longestText);
     rowsOf.row(QStringLiteral("Text Size"))
         .spin(textSize, entrySize, sizes, whenTextOn)
+        .named(QStringLiteral("Size of the custom text"))
         .caption(QStringLiteral("Color"), captionSize)
-        .swatch(textColor, QStringLiteral("selfTextColorButton"), QStringLiteral("selfText"), whenTextOn);
-    rowsOf.row(QStringLiteral("Show Resolution")).toggle(resolutionSwitch, true);
+        .swatch(textColor, QStringLiteral("selfTextColorButton"), QStringLiteral("selfText"), whenTextOn)
+        .named(QStringLiteral("Color of the custom text"));
+    rowsOf.row(QStringLiteral("Show Resolution"))
+        .toggle(resolutionSwitch, true)
+        .named(QStringLiteral("Show the information line"));
     rowsOf.row(QStringLiteral("Show Size"))
         .spin(resolutionSize, entrySize, sizes, whenResolutionOn)
+        .named(QStringLiteral("Size of the information line"))
         .caption(QStringLiteral("Color"), captionSize)
         .swatch(resolutionColor, QStringLiteral("resolutionColorButton"), QStringLiteral("resolution"),
-                whenResolutionOn);
+                whenResolutionOn)
+        .named(QStringLiteral("Color of the information line"));
     textSwatch = SwitchedSwatch(textColor);
     resolutionSwatch = SwitchedSwatch(resolutionColor);
     textSwatch.paint(Qt::black);
@@ -236,7 +246,7 @@ void SelfSettingBox::Impl::slotTextInputEditFinished(QString strOldName)
 }
 
 SelfSettingBox::SelfSettingBox(QWidget* parent)
-    : SettingPanel(parent)
+    : SettingPanel(usualHeight, parent)
     , d(new Impl(this))
 {
     setFixedWidth(410);

@@ -5,16 +5,24 @@
 
 #include <QEvent>
 
+#include <algorithm>
+
 namespace vardeno::testcharttools {
 
-SettingPanel::SettingPanel(QWidget* parent)
+SettingPanel::SettingPanel(int usualHeight, QWidget* parent)
     : QWidget(parent)
     , m_controls(new PanelControls)
+    , m_usualHeight(usualHeight)
 {
     ensureResources();
 }
 
 SettingPanel::~SettingPanel() = default;
+
+int SettingPanel::sectionHeight() const
+{
+    return std::max(m_usualHeight, sizeHint().height());
+}
 
 void SettingPanel::setControlsDisabled(bool disabled)
 {
@@ -22,9 +30,20 @@ void SettingPanel::setControlsDisabled(bool disabled)
     focusAfterLock(disabled);
 }
 
+void SettingPanel::setWheelScrolls(bool scrolls)
+{
+    m_controls->setWheelScrolls(scrolls);
+}
+
+bool SettingPanel::wheelScrolls() const
+{
+    return m_controls->wheelScrolls();
+}
+
 void SettingPanel::retranslate()
 {
     m_controls->captions.retranslate();
+    m_controls->hints.retranslate();
 }
 
 void SettingPanel::setRoleColor(const QString&, const QColor&) {}

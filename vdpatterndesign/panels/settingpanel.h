@@ -22,12 +22,21 @@ class VDPATTERNDESIGN_EXPORT SettingPanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit SettingPanel(QWidget* parent = nullptr);
+    /// `usualHeight`: of the section that shows the panel in the editor.
+    explicit SettingPanel(int usualHeight, QWidget* parent = nullptr);
     ~SettingPanel() override;
+
+    /// The height of the section that shows the panel: the usual one, or more where its rows need it.
+    int sectionHeight() const;
 
     /// True makes every input control of the panel inert. False restores what the panel's switches allow.
     /// Either way the focus then goes where the panel's `focusAfterLock` says.
     void setControlsDisabled(bool disabled);
+
+    /// Whether the wheel scrolls what the panel lies in rather than changing a control that has not the
+    /// focus. At first false.
+    void setWheelScrolls(bool scrolls);
+    bool wheelScrolls() const;
 
     /// Shows every caption in the current language, in the panel and in the painters that it drives.
     virtual void retranslate();
@@ -56,6 +65,7 @@ protected:
 
 private:
     std::unique_ptr<PanelControls> m_controls;
+    int m_usualHeight;
 };
 
 } // namespace vardeno::testcharttools

@@ -1,15 +1,21 @@
 #include "panels/settingrows.h"
 
+#include "controls/fieldhint.h"
+
 #include <combobox.h>
 #include <spineditbox.h>
 
 #include <QCheckBox>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+
+#include <algorithm>
 
 namespace vardeno::testcharttools {
 
@@ -20,6 +26,7 @@ constexpr QSize iconButtonSize(20, 20);
 constexpr QSize swatchSize(16, 16);
 constexpr QSize switchSize(28, 14);
 constexpr int rowSpacing = 8;
+constexpr int ruleLength = 353;
 
 QIcon switchIcon()
 {
@@ -34,6 +41,20 @@ int captionMargin(const QPushButton* button)
 {
     return button->property("btnProperty") == QLatin1String("uplogo") ? 68 : 2;
 }
+
+/// A frame's own line is drawn without width, and vanishes at some places of a scaled screen.
+class Rule : public QFrame
+{
+public:
+    using QFrame::QFrame;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter(this).fillRect((width() - ruleLength) / 2, 0, ruleLength, height(),
+                                palette().color(foregroundRole()));
+    }
+};
 
 /// A current item too wide for its box, which the box shows elided, is told whole.
 void tellWideItem(ComboBox* box)
@@ -63,13 +84,27 @@ SettingRow& SettingRow::caption(const QString& source, const QSize& size, int ma
     return *this;
 }
 
+SettingRow& SettingRow::shortCaption(const QString& source, const QSize& longest)
+{
+    caption(QString(), longest);
+    m_controls->captions.add(source, [label = m_caption, longest](const QString& text) {
+        const int needed = std::max(label->fontMetrics().horizontalAdvance(text),
+                                    label->fontMetrics().boundingRect(text).width());
+        label->setFixedWidth(std::min(needed, longest.width()));
+        showElided(label, text);
+    });
+    return *this;
+}
+
 SettingRow& SettingRow::spin(SpinEditBox*& box, const QSize& size, const SpinRange& range, Allowed allowed)
 {
     box = new SpinEditBox(m_panel);
+    box->setWholeNumbers(true);
     box->setRange(range.minimum, range.maximum);
     box->setSuffix(range.unit);
     box->setValue(range.initial);
     appendLocked(box, size, std::move(allowed));
+    QObject::connect(box, &SpinEditBox::entryRefused, box, [entry = box] { showHint(entry); });
     return *this;
 }
 
@@ -183,6 +218,12 @@ SettingRow& SettingRow::widget(QWidget* widget)
     return *this;
 }
 
+SettingRow& SettingRow::named(const QString& source)
+{
+    m_controls->hints.add(source, [control = m_last](const QString& name) { setHint(control, name); });
+    return *this;
+}
+
 SettingRow& SettingRow::gap(int pixels)
 {
     m_layout->insertSpacing(m_layout->count() - 1, pixels);
@@ -205,9 +246,20 @@ void SettingRow::appendLocked(QWidget* control, const QSize& size, Allowed allow
 {
     append(control, size);
     m_controls->add(control, std::move(allowed));
+    m_last = control;
     if (m_caption)
         m_caption->setBuddy(control);
     m_caption = nullptr;
+}
+
+QFrame* createRule(QWidget* panel, const char* objectName, int width, int frameStyle)
+{
+    auto* rule = new Rule(panel);
+    rule->setObjectName(QLatin1String(objectName));
+    rule->setFrameStyle(frameStyle);
+    rule->setFixedSize(width, 1);
+    rule->setForegroundRole(QPalette::Midlight);
+    return rule;
 }
 
 SettingRows::SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column,

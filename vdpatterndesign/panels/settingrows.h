@@ -6,6 +6,7 @@
 
 class QBoxLayout;
 class QCheckBox;
+class QFrame;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -19,7 +20,7 @@ namespace vardeno::testcharttools {
 class ComboBox;
 class SpinEditBox;
 
-/// What a numeric entry accepts: `range(1, 100).value(6).suffix("px")`.
+/// What an entry of whole numbers accepts: `range(1, 100).value(6).suffix("px")`.
 struct SpinRange
 {
     double minimum;
@@ -51,6 +52,8 @@ public:
     /// A right-aligned caption, which names the row's next control; without a `source` it only takes the
     /// room.
     SettingRow& caption(const QString& source, const QSize& size, int margin = 0);
+    /// The same, at the left and only as wide as its text, up to `longest`.
+    SettingRow& shortCaption(const QString& source, const QSize& longest);
     SettingRow& spin(SpinEditBox*& box, const QSize& size, const SpinRange& range, Allowed allowed = {});
     /// Horizontal, 146 x 24, from 0 to `maximum`, at 100.
     SettingRow& slider(QSlider*& slider, int maximum, Allowed allowed = {});
@@ -74,6 +77,9 @@ public:
     SettingRow& toggle(QPushButton*& button, bool checked, Allowed allowed = {});
     /// A widget that the panel made itself; the lock leaves it alone.
     SettingRow& widget(QWidget* widget);
+    /// What the last control is, in words that need no caption: its name for screen readers and its tool tip,
+    /// with the range of a number and the length of a text. The tool tip of a choice is its own.
+    SettingRow& named(const QString& source);
     SettingRow& gap(int pixels);
     /// Between what follows; at first 8.
     SettingRow& spacing(int pixels);
@@ -86,7 +92,12 @@ private:
     PanelControls* m_controls;
     QHBoxLayout* m_layout;
     QLabel* m_caption = nullptr;
+    QWidget* m_last = nullptr;
 };
+
+/// The line that closes a panel, 1 pixel high and `width` wide. All rules are drawn 353 pixels long, and at
+/// any scale.
+QFrame* createRule(QWidget* panel, const char* objectName, int width, int frameStyle);
 
 /// The rows of a settings panel, top to bottom.
 class SettingRows
