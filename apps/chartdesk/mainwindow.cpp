@@ -9,6 +9,7 @@
 #include "messagebox.h"
 #include "obstacle.h"
 
+#include <basicsettingbox.h>
 #include <translatemanager1.h>
 
 #include <QActionGroup>
@@ -165,6 +166,8 @@ QWidget* MainWindow::createEditorPage()
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setAlignment(Qt::AlignCenter);
     m_editor = new VTestChartTools(scroll);
+    m_editor->setWheelScrollsPanels(true);
+    m_editor->findChild<BasicSettingBox*>()->setQuietWhenEmpty(true);
     scroll->setWidget(m_editor);
     m_session = new EditSession(m_editor, this);
     new EditorLook(m_editor);

@@ -51,6 +51,44 @@ class TestColorList : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void oneColorIsChanged()
+    {
+        QListWidget list;
+        setListColors(&list, firstColors(3));
+        setListColor(&list, 1, Qt::black);
+        QVERIFY(listColors(&list) == Colors({{0, Qt::yellow}, {1, Qt::black}, {2, Qt::cyan}}));
+    }
+
+    void colorsAreMoved_data()
+    {
+        QTest::addColumn<int>("current");
+        QTest::addColumn<int>("step");
+        QTest::addColumn<Colors>("colors");
+        QTest::addColumn<int>("currentThen");
+        const Colors before = firstColors(3);
+        QTest::newRow("back") << 1 << -1 << Colors{{0, Qt::green}, {1, Qt::yellow}, {2, Qt::cyan}} << 0;
+        QTest::newRow("on") << 1 << 1 << Colors{{0, Qt::yellow}, {1, Qt::cyan}, {2, Qt::green}} << 2;
+        QTest::newRow("first, on") << 0 << 1 << Colors{{0, Qt::green}, {1, Qt::yellow}, {2, Qt::cyan}} << 1;
+        QTest::newRow("first, back") << 0 << -1 << before << 0;
+        QTest::newRow("last, on") << 2 << 1 << before << 2;
+        QTest::newRow("none, back") << -1 << -1 << before << -1;
+        QTest::newRow("none, on") << -1 << 1 << before << -1;
+    }
+
+    void colorsAreMoved()
+    {
+        QFETCH(int, current);
+        QFETCH(int, step);
+        QFETCH(Colors, colors);
+        QFETCH(int, currentThen);
+        QListWidget list;
+        setListColors(&list, firstColors(3));
+        list.setCurrentRow(current);
+        QCOMPARE(moveCurrentColor(&list, step), current != currentThen);
+        QVERIFY(listColors(&list) == colors);
+        QCOMPARE(list.currentRow(), currentThen);
+    }
+
     void readsBackWhatWasSet_data()
     {
         QTest::addColumn<Colors>("colors");

@@ -18,6 +18,7 @@
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <memory>
@@ -101,6 +102,10 @@ public:
         connect(panel, &BasicSettingBox::oddSignal, this, [this](QPushButton* b) { hear("odd", b); });
         connect(panel, &BasicSettingBox::evenSignal, this, [this](QPushButton* b) { hear("even", b); });
         connect(panel, &BasicSettingBox::addSignal, this, [this](QPushButton* b) { hear("add", b); });
+        connect(panel, &BasicSettingBox::changeSignal, this, [this](QPushButton* b) {
+            change = b;
+            hear("change", b);
+        });
     }
 
     bool show()
@@ -154,6 +159,19 @@ public:
     void click(const QRadioButton* radio) { clickAt(radio, QPoint(8, radio->height() / 2)); }
     void clickItem(int row) { clickAt(list()->viewport(), itemCenter(row)); }
 
+    void doubleClickItem(int row)
+    {
+        QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, itemCenter(row));
+    }
+
+    static void turnWheel(QWidget* widget, int angle)
+    {
+        const QPointF place = widget->rect().center();
+        QWheelEvent event(place, widget->mapToGlobal(place.toPoint()), {}, QPoint(0, angle), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(widget, &event);
+    }
+
     void hoverItem(int row)
     {
         const QPoint place = list()->viewport()->mapTo(&window, itemCenter(row));
@@ -196,7 +214,8 @@ public:
 
     QStringList takeHeard() { return std::exchange(heard, {}); }
 
-    QStringList heard; // the window goes first, and losing the focus ends an edit
+    QPushButton* change = nullptr; ///< what the last change was asked with
+    QStringList heard;             // the window goes first, and losing the focus ends an edit
     PaintBasicWidget layer;
     QWidget window;
     BasicSettingBox* panel = new BasicSettingBox;
@@ -924,6 +943,161 @@ private Q_SLOTS:
         QCOMPARE(colorsOf(d.list()), defaults);
         QCOMPARE(d.heard, nothing);
         VD_COMPARE_IMAGES(d.picture(), stripes(defaults));
+    }
+
+    void nothingIsAskedOfAnEmptyList()
+    {
+        Desk d;
+        QVERIFY(d.show());
+        d.useColors({});
+        QVERIFY(d.deleteColor());
+        QVERIFY(!d.panel->isQuietWhenEmpty());
+        d.panel->setProperty("quietWhenEmpty", true);
+        QVERIFY(d.panel->isQuietWhenEmpty());
+        d.click(d.named("CancleButton"));
+        QVERIFY(!Desk::confirmation());
+        d.useColors({Qt::red});
+        d.click(d.named("CancleButton"));
+        QVERIFY(Desk::confirmation());
+    }
+
+    void aColorIsChangedInItsPlace_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("double click") << 0;
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Enter") << int(Qt::Key_Enter);
+    }
+
+    void aColorIsChangedInItsPlace()
+    {
+        QFETCH(int, way);
+        Desk d;
+        QVERIFY(d.show());
+        d.useColors(defaults);
+        d.clickItem(1);
+        if (way == 0)
+            d.doubleClickItem(1);
+        else
+            QTest::keyClick(d.window.windowHandle(), Qt::Key(way));
+        QCOMPARE(d.takeHeard(), QStringList("change stripeColorButton"));
+        QCOMPARE(iconImage(d.change).pixelColor(8, 8), QColor(Qt::green));
+
+        d.panel->setRoleColor(d.change->property("btnProperty").toString(), Qt::black);
+        const Colors changed{Qt::yellow, Qt::black, Qt::cyan, Qt::magenta, Qt::red};
+        QCOMPARE(colorsOf(d.list()), changed);
+        QCOMPARE(d.heard, basicOnce);
+        QVERIFY(d.list()->styleSheet().contains(QColor(Qt::black).name()));
+        VD_COMPARE_IMAGES(d.picture(), stripes(changed));
+    }
+
+    void noColorIsChangedWithoutACurrentOne()
+    {
+        Desk d;
+        QVERIFY(d.show());
+        d.useColors(defaults);
+        d.list()->setFocus();
+        d.list()->setCurrentRow(-1);
+        QTest::keyClick(d.window.windowHandle(), Qt::Key_Return);
+        QCOMPARE(d.heard, nothing);
+    }
+
+    /// The picker puts the old colour back by the role that it was opened with.
+    void everyChangeHasARoleOfItsOwn()
+    {
+        Desk d;
+        d.useColors(defaults);
+        const auto roleOf = [&](int row) {
+            Q_EMIT d.list()->itemDoubleClicked(d.list()->item(row));
+            return d.change->property("btnProperty").toString();
+        };
+        const QString first = roleOf(0);
+        QCOMPARE(roleOf(0), first);
+        const QString third = roleOf(2);
+        QVERIFY(third != first);
+        QVERIFY(third != QLatin1String("odd") && !third.isEmpty());
+        d.takeHeard();
+        d.panel->setRoleColor(first, Qt::black);
+        QCOMPARE(colorsOf(d.list()), defaults);
+        d.panel->setRoleColor(third, QColor());
+        d.panel->setRoleColor(third, Qt::cyan); // as it is
+        QCOMPARE(d.heard, nothing);
+        QCOMPARE(colorsOf(d.list()), defaults);
+    }
+
+    void aChangeFollowsItsColor()
+    {
+        Desk d;
+        QVERIFY(d.show());
+        d.useColors(defaults);
+        d.clickItem(0);
+        QTest::keyClick(d.window.windowHandle(), Qt::Key_Return);
+        const QString role = d.change->property("btnProperty").toString();
+        QTest::keyClick(d.window.windowHandle(), Qt::Key_Down, Qt::AltModifier);
+        d.panel->setRoleColor(role, Qt::black);
+        QCOMPARE(colorsOf(d.list()), (Colors{Qt::green, Qt::black, Qt::cyan, Qt::magenta, Qt::red}));
+        d.useColors({Qt::white});
+        d.panel->setRoleColor(role, Qt::blue);
+        QCOMPARE(colorsOf(d.list()), Colors{Qt::white});
+    }
+
+    void colorsAreMovedWithKeys_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("current");
+        QTest::addColumn<Colors>("colors");
+        const Colors three{Qt::yellow, Qt::green, Qt::cyan};
+        QTest::newRow("up") << int(Qt::Key_Up) << 1 << Colors{Qt::green, Qt::yellow, Qt::cyan};
+        QTest::newRow("down") << int(Qt::Key_Down) << 1 << Colors{Qt::yellow, Qt::cyan, Qt::green};
+        QTest::newRow("up at the start") << int(Qt::Key_Up) << 0 << three;
+        QTest::newRow("down at the end") << int(Qt::Key_Down) << 2 << three;
+    }
+
+    void colorsAreMovedWithKeys()
+    {
+        QFETCH(int, key);
+        QFETCH(int, current);
+        QFETCH(Colors, colors);
+        const Colors three{Qt::yellow, Qt::green, Qt::cyan};
+        Desk d;
+        QVERIFY(d.show());
+        d.useColors(three);
+        d.clickItem(current);
+        QTest::keyClick(d.window.windowHandle(), Qt::Key(key), Qt::AltModifier);
+        QCOMPARE(colorsOf(d.list()), colors);
+        QCOMPARE(d.heard, colors == three ? nothing : basicOnce);
+        QCOMPARE(d.list()->currentRow(), colors.indexOf(three.at(current)));
+        VD_COMPARE_IMAGES(d.picture(), stripes(colors));
+        for (int row = 0; row < 3; ++row) // they lie in their order
+            QVERIFY(row == 0 || d.list()->visualItemRect(d.list()->item(row)).left() >
+                                    d.list()->visualItemRect(d.list()->item(row - 1)).left());
+    }
+
+    /// The list has room for six.
+    void everyColorIsReached_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("keys") << int(Qt::Key_End);
+        QTest::newRow("wheel") << 0;
+    }
+
+    void everyColorIsReached()
+    {
+        QFETCH(int, way);
+        Desk d;
+        QVERIFY(d.show());
+        d.useColors(defaults + defaults);
+        const auto isShown = [&](int row) {
+            const QRect place = d.list()->visualItemRect(d.list()->item(row));
+            return place.left() >= 0 && place.right() <= d.list()->viewport()->rect().right() + 1;
+        };
+        QVERIFY(isShown(0) && !isShown(9));
+        d.clickItem(0);
+        if (way)
+            QTest::keyClick(d.window.windowHandle(), Qt::Key(way));
+        else
+            d.turnWheel(d.list()->viewport(), -1200);
+        QVERIFY(isShown(9));
     }
 
     void deletingWithoutACurrentColorDeletesNone()

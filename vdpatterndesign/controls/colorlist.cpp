@@ -35,6 +35,24 @@ void appendListColor(QListWidget* list, const QColor& color)
     item->setTextAlignment(Qt::AlignCenter);
 }
 
+void setListColor(QListWidget* list, int row, const QColor& color)
+{
+    list->item(row)->setBackground(QBrush(color));
+}
+
+bool moveCurrentColor(QListWidget* list, int step)
+{
+    const int row = list->currentRow();
+    const int target = row + step;
+    if (row < 0 || target < 0 || target >= list->count())
+        return false;
+    QAbstractItemModel* const model = list->model();
+    model->moveRow({}, row, {},
+                   step > 0 ? target + 1 : target); // the model's places are those before the move
+    list->scrollToItem(list->currentItem());
+    return true;
+}
+
 void stepListLeft(QListWidget* list)
 {
     if (list->currentRow() < 1)

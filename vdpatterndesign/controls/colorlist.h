@@ -21,6 +21,12 @@ void setListColors(QListWidget* list, const std::map<int, QColor>& colors);
 /// Appends one colour, as an 18 x 18 item.
 void appendListColor(QListWidget* list, const QColor& color);
 
+/// Gives the item `row` another colour.
+void setListColor(QListWidget* list, int row, const QColor& color);
+
+/// Moves the current item by `step` places, and tells whether there was one to move and a place for it.
+bool moveCurrentColor(QListWidget* list, int step);
+
 /// Makes the item before or after the current one current and brings it into view; stops at the ends.
 void stepListLeft(QListWidget* list);
 void stepListRight(QListWidget* list);

@@ -13,6 +13,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
@@ -39,9 +40,11 @@ enum Mode
     StripeMode
 };
 
+constexpr int usualHeight = 140;
 constexpr QSize previewSize(80, 45);
 constexpr QSize modeCaption(80, 20);
 constexpr QSize pageCaption(70, 20);
+constexpr QSize chessCaption(70, 20);
 constexpr QSize stepButton(20, 20);
 constexpr QSize editButton(55, 20);
 constexpr QSize listSize(112, 20);
@@ -102,6 +105,8 @@ public:
     explicit Impl(BasicSettingBox* box)
         : owner(box)
     {
+        changeButton.setObjectName(QStringLiteral("stripeColorButton"));
+        changeButton.setFixedSize(16, 16);
     }
 
     void build(PanelControls& controls);
@@ -115,6 +120,10 @@ public:
     void showColorBar(Mode mode);
     void setMode(Mode mode);
     void showBarPreview(bool asGradient);
+    void changeColor(QListWidgetItem* item);
+    void setChangedColor(const QColor& color);
+    void moveColor(int step);
+    bool handleListKey(const QKeyEvent& event);
     void listChanged();
     void gradientListChanged();
 
@@ -136,10 +145,14 @@ public:
     QPushButton* stripeRight = nullptr;
     QPushButton* addButton = nullptr;
     QPushButton* removeButton = nullptr;
+    QPushButton changeButton; ///< never shown: carries the colour that is being changed
+    QPersistentModelIndex changedColor;
+    int changes = 0; ///< makes each a role of its own, so that a rejected one is undone where it belongs
     BasicSettingBox* owner;
     QPointer<PaintBasicWidget> painter;
     bool firstTime = true; ///< until a colour bar mode has been shown
     QPushButton* gradientSwitch = nullptr;
+    bool quietWhenEmpty = false;
     QString dialogStyleSheet = QStringLiteral(" ");
     QColor oddBeforePicking = QColor(255, 170, 255, 255);
     QColor evenBeforePicking;
@@ -181,12 +194,8 @@ void BasicSettingBox::Impl::build(PanelControls& controls)
     pages->addWidget(buildColorBarPage(controls));
     column->addWidget(pages);
 
-    auto* line = new QFrame(owner);
-    line->setObjectName(QStringLiteral("basicLine"));
-    line->setFrameStyle(QFrame::HLine | QFrame::Plain);
-    line->setFixedSize(353, 1);
-    line->setForegroundRole(QPalette::Midlight);
-    column->addWidget(line, 0, Qt::AlignHCenter);
+    column->addWidget(createRule(owner, "basicLine", 353, QFrame::HLine | QFrame::Plain), 0,
+                      Qt::AlignHCenter);
 }
 
 void BasicSettingBox::Impl::buildModeRow(QVBoxLayout* column, PanelControls& controls)
@@ -194,8 +203,11 @@ void BasicSettingBox::Impl::buildModeRow(QVBoxLayout* column, PanelControls& con
     auto* caption = new QLabel(owner);
     caption->setFixedSize(modeCaption);
     caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    controls.captions.add(QStringLiteral("Mode selection"), [caption](const QString& text) {
-        showElided(caption, text + QLatin1String("  "));
+    const QString captionEnd = QStringLiteral("  ");
+    controls.captions.add(QStringLiteral("Mode selection"), [captionEnd, caption](const QString& text) {
+        showElided(caption, text + captionEnd);
+        // Its letters end where those of the other captions do.
+        caption->setContentsMargins(0, 0, -caption->fontMetrics().horizontalAdvance(captionEnd), 0);
     });
 
     chessRadio = new QRadioButton(owner);
@@ -236,12 +248,16 @@ QWidget* BasicSettingBox::Impl::buildChessPage(PanelControls& controls)
     page->setObjectName(QStringLiteral("checkerboardWidget"));
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(10, 0, 0, 0);
+    column->addStretch(); // the page is as high as that of the color bar, which has two rows
     SettingRows(page, controls, column, pageCaption)
         .row(QString())
-        .caption(QStringLiteral("Odd"), QSize(40, 20))
+        .shortCaption(QStringLiteral("Odd"), chessCaption)
         .swatch(oddButton, QStringLiteral("oddColorPushButton"), QStringLiteral("odd"))
-        .caption(QStringLiteral("Even"), QSize(60, 20))
-        .swatch(evenButton, QStringLiteral("evenColorPushButton"), QStringLiteral("even"));
+        .named(QStringLiteral("Color of the odd cabinets"))
+        .gap(12)
+        .shortCaption(QStringLiteral("Even"), chessCaption)
+        .swatch(evenButton, QStringLiteral("evenColorPushButton"), QStringLiteral("even"))
+        .named(QStringLiteral("Color of the even cabinets"));
     column->addStretch();
     return page;
 }
@@ -288,7 +304,9 @@ QWidget* BasicSettingBox::Impl::buildColorBarPage(PanelControls& controls)
     column->setContentsMargins(10, 0, 0, 0);
     column->setSpacing(4);
     SettingRows rows(page, controls, column, pageCaption);
-    rows.row(QStringLiteral("Gradient")).toggle(gradientSwitch, false);
+    rows.row(QStringLiteral("Gradient"))
+        .toggle(gradientSwitch, false)
+        .named(QStringLiteral("Gradient between the colors"));
     rows.row(QStringLiteral("Color bar"))
         .iconButton(stripeLeft, QStringLiteral(":/resources/images/icon_zuo_nor.png"),
                     QStringLiteral("Previous color"), QStringLiteral("_colorStripeLeftPushButton"))
@@ -298,6 +316,10 @@ QWidget* BasicSettingBox::Impl::buildColorBarPage(PanelControls& controls)
         .button(addButton, QStringLiteral("Add"), editButton, QStringLiteral("ADDButton"))
         .button(removeButton, QStringLiteral("Delete"), editButton, QStringLiteral("CancleButton"));
     addButton->setProperty("btnProperty", QStringLiteral("add"));
+    controls.hints.add(QStringLiteral("Colors of the color bar"),
+                       [list = stripeList](const QString& text) { list->setAccessibleName(text); });
+    controls.hints.add(QStringLiteral("Double click or Enter changes a color, Alt+Up and Alt+Down move it"),
+                       [list = stripeList](const QString& text) { list->setToolTip(text); });
     column->addStretch();
     return page;
 }
@@ -320,6 +342,7 @@ void BasicSettingBox::Impl::connectControls()
     connect(gradientList, &QListWidget::currentItemChanged, this, &Impl::slotGradientItemChanged);
     connect(stripeList, &QListWidget::currentItemChanged, this, &Impl::slotColorStripeItemChanged);
     connect(stripeList, &QListWidget::itemEntered, this, &Impl::slotColorStripeItemEntered);
+    connect(stripeList, &QListWidget::itemDoubleClicked, this, &Impl::changeColor);
 }
 
 QPushButton* BasicSettingBox::Impl::chessButton(const QString& which) const
@@ -347,6 +370,47 @@ void BasicSettingBox::Impl::setMode(Mode mode)
 void BasicSettingBox::Impl::showBarPreview(bool asGradient)
 {
     barPreview->setPixmap(picture(asGradient ? "gradient.png" : "colorstripe.png"));
+}
+
+void BasicSettingBox::Impl::changeColor(QListWidgetItem* item)
+{
+    if (!item)
+        return;
+    const QModelIndex index = stripeList->model()->index(stripeList->row(item), 0);
+    if (changedColor != index) {
+        changedColor = index;
+        changeButton.setProperty("btnProperty", QStringLiteral("stripe%1").arg(++changes));
+    }
+    paintSwatch(&changeButton, item->background().color());
+    Q_EMIT owner->changeSignal(&changeButton);
+}
+
+void BasicSettingBox::Impl::setChangedColor(const QColor& color)
+{
+    if (!changedColor.isValid() || !color.isValid() ||
+        stripeList->item(changedColor.row())->background().color() == color)
+        return;
+    setListColor(stripeList, changedColor.row(), color);
+    slotColorStripeItemChanged(); // the current one's frame carries its colour
+    listChanged();
+}
+
+void BasicSettingBox::Impl::moveColor(int step)
+{
+    if (moveCurrentColor(stripeList, step))
+        listChanged();
+}
+
+bool BasicSettingBox::Impl::handleListKey(const QKeyEvent& event)
+{
+    const bool alt = event.modifiers() == Qt::AltModifier;
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        changeColor(stripeList->currentItem());
+    else if (alt && (event.key() == Qt::Key_Up || event.key() == Qt::Key_Down))
+        moveColor(event.key() == Qt::Key_Up ? -1 : 1);
+    else
+        return false;
+    return true;
 }
 
 void BasicSettingBox::Impl::listChanged()
@@ -472,7 +536,7 @@ void BasicSettingBox::Impl::slotColorStripeItemEntered(QListWidgetItem* item)
 void BasicSettingBox::Impl::showConfigDialog()
 {
     const auto* button = qobject_cast<QPushButton*>(sender());
-    if (!button)
+    if (!button || (quietWhenEmpty && stripeList->count() == 0))
         return;
     auto* dialog = new CustomDialog;
     dialog->setDialogStyleSheet(dialogStyleSheet);
@@ -483,7 +547,7 @@ void BasicSettingBox::Impl::showConfigDialog()
 }
 
 BasicSettingBox::BasicSettingBox(QWidget* parent)
-    : SettingPanel(parent)
+    : SettingPanel(usualHeight, parent)
     , d(new Impl(this))
 {
     setObjectName(QStringLiteral("basicWidget"));
@@ -496,6 +560,7 @@ BasicSettingBox::BasicSettingBox(QWidget* parent)
     connect(this, &BasicSettingBox::oddSignal, this, &SettingPanel::colorRequested);
     connect(this, &BasicSettingBox::evenSignal, this, &SettingPanel::colorRequested);
     connect(this, &BasicSettingBox::addSignal, this, &SettingPanel::colorRequested);
+    connect(this, &BasicSettingBox::changeSignal, this, &SettingPanel::colorRequested);
     d->build(controls());
     paintSwatch(d->oddButton, toQColor(BasicChartData().oddColor));
     paintSwatch(d->evenButton, toQColor(BasicChartData().evenColor));
@@ -509,6 +574,16 @@ BasicSettingBox::~BasicSettingBox() = default;
 void BasicSettingBox::setDialogStyleSheet(const QString& sheet)
 {
     d->dialogStyleSheet = sheet;
+}
+
+void BasicSettingBox::setQuietWhenEmpty(bool quiet)
+{
+    d->quietWhenEmpty = quiet;
+}
+
+bool BasicSettingBox::isQuietWhenEmpty() const
+{
+    return d->quietWhenEmpty;
 }
 
 void BasicSettingBox::setPaintWidget(PaintBasicWidget* painter)
@@ -595,7 +670,10 @@ void BasicSettingBox::pushFrom(const TestChartToolsData& record)
 
 void BasicSettingBox::setRoleColor(const QString& role, const QColor& color)
 {
-    setColor(color, role);
+    if (role == d->changeButton.property("btnProperty").toString())
+        d->setChangedColor(color);
+    else
+        setColor(color, role);
 }
 
 bool BasicSettingBox::eventFilter(QObject* watched, QEvent* event)
@@ -603,6 +681,9 @@ bool BasicSettingBox::eventFilter(QObject* watched, QEvent* event)
     const bool ofStripeList = watched == d->stripeList || watched == d->stripeList->viewport();
     const bool dragsIn = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
                          event->type() == QEvent::Drop;
+    if (watched == d->stripeList && event->type() == QEvent::KeyPress &&
+        d->handleListKey(static_cast<const QKeyEvent&>(*event)))
+        return true;
     return (ofStripeList && dragsIn) || SettingPanel::eventFilter(watched, event);
 }
 

@@ -11,10 +11,12 @@ struct BasicChartData;
 /// colour bar's colours, shown as stripes or as a gradient.
 ///
 /// Colours are not picked here: the panel asks with `oddSignal`, `evenSignal` or `addSignal`, and is answered
-/// with `setColor`, `restoreColor` or `addColor`.
+/// with `setColor`, `restoreColor` or `addColor`; a colour of the bar is asked for with `changeSignal` and
+/// answered with `setRoleColor`.
 class VDPATTERNDESIGN_EXPORT BasicSettingBox : public SettingPanel
 {
     Q_OBJECT
+    Q_PROPERTY(bool quietWhenEmpty READ isQuietWhenEmpty WRITE setQuietWhenEmpty)
 
 public:
     explicit BasicSettingBox(QWidget* parent = nullptr);
@@ -25,6 +27,10 @@ public:
 
     /// The style sheet of the confirmations that the panel opens.
     void setDialogStyleSheet(const QString& sheet);
+
+    /// Whether "Delete" asks nothing while the colour bar has no colours. At first false.
+    void setQuietWhenEmpty(bool quiet);
+    bool isQuietWhenEmpty() const;
 
     /// Gives the chess colour `which` ("odd" or "even") the colour `color`. Any other name does nothing.
     void setColor(const QColor& color, const QString& which);
@@ -49,6 +55,9 @@ Q_SIGNALS:
     void oddSignal(QPushButton* button);
     void evenSignal(QPushButton* button);
     void addSignal(QPushButton* button);
+    /// The user wants another colour in the place of one in the colour bar; `button` shows it, and is never
+    /// shown itself.
+    void changeSignal(QPushButton* button);
 
 private:
     class Impl;
