@@ -16,7 +16,9 @@ function(vd_defaults target)
     POSITION_INDEPENDENT_CODE ON
     INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   target_compile_features(${target} PUBLIC cxx_std_17)
-  target_compile_definitions(${target} PRIVATE QT_NO_FOREACH QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
+  target_compile_definitions(${target} PRIVATE QT_NO_FOREACH QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS
+    # What Qt 6 deprecates has its successor there only.
+    $<$<EQUAL:${VD_QT_MAJOR},6>:QT_DEPRECATED_WARNINGS_SINCE=0x050F00>)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wold-style-cast
     $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments> # as the toolkit's logging macros are

@@ -63,8 +63,8 @@ private Q_SLOTS:
         QFETCH(int, pixelSize);
         const QStringList parts = QString::fromLatin1(QTest::currentDataTag()).split(QLatin1String(", "));
         LabelStyle style;
-        style.mode = parts.at(1).rightRef(1).toUInt();
-        style.position = parts.at(2).rightRef(1).toUInt();
+        style.mode = parts.at(1).right(1).toUInt();
+        style.position = parts.at(2).right(1).toUInt();
         const CabinetGrid grid{chart, ushort(rows), ushort(columns)};
         std::vector<PlacedText> texts;
         for (int row = 0; row < rows; ++row) {

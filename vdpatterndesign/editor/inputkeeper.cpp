@@ -1,5 +1,7 @@
 #include "editor/inputkeeper.h"
 
+#include "support/qtversion.h"
+
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
@@ -50,7 +52,7 @@ std::shared_ptr<QEvent> copyOf(const QKeyEvent& event)
 std::shared_ptr<QEvent> copyOfTyped(const QEvent& event)
 {
     if (event.type() == QEvent::InputMethod)
-        return std::make_shared<QInputMethodEvent>(static_cast<const QInputMethodEvent&>(event));
+        return copied(static_cast<const QInputMethodEvent&>(event));
     return copyOf(static_cast<const QKeyEvent&>(event));
 }
 

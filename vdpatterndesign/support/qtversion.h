@@ -1,19 +1,23 @@
 #pragma once
 
-// What differs between Qt 5 and Qt 6, and is needed in more than one place or would be in the way where it is
-// needed.
+// What differs between Qt 5 and Qt 6.
 
+#include <QEvent>
 #include <QSettings>
 #include <QtGlobal>
 
-class QEnterEvent;
-class QEvent;
+#include <memory>
 
 namespace vardeno::testcharttools {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 
-using EnterEvent = QEnterEvent;
+/// A copy of `event`, which Qt 6 makes on its own only.
+template <typename Event>
+std::shared_ptr<QEvent> copied(const Event& event)
+{
+    return std::shared_ptr<QEvent>(event.clone());
+}
 
 /// Reads and writes `settings` as UTF-8, as Qt 6 always does.
 inline void useUtf8(QSettings& settings)
@@ -23,7 +27,11 @@ inline void useUtf8(QSettings& settings)
 
 #else
 
-using EnterEvent = QEvent;
+template <typename Event>
+std::shared_ptr<QEvent> copied(const Event& event)
+{
+    return std::make_shared<Event>(event);
+}
 
 inline void useUtf8(QSettings& settings)
 {
