@@ -2,6 +2,7 @@
 
 #include "cabinetcomparison.h"
 #include "finding.h"
+#include "vdcomparison_export.h"
 
 #include <QImage>
 #include <QStringList>
@@ -22,13 +23,13 @@ struct Result
     /// happened to it could be undone, else as large as both.
     QImage difference;
 
-    QStringList sentences() const;
+    VDCOMPARISON_EXPORT QStringList sentences() const;
 };
 
 /// Compares by 8-bit colours: neither format nor alpha counts. `cabinets` are those of the chart, row by row.
 ///
 /// Of what explains the whole picture the simplest is told, and what else would; where nothing does, what is
 /// nearest, and what is then left.
-Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& cabinets);
+VDCOMPARISON_EXPORT Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& cabinets);
 
 } // namespace ChartComparison
