@@ -3,8 +3,8 @@
 # nothing, where all of it is there. The packages named on top are for what the calling script does besides building.
 set -euo pipefail
 
-packages=(g++ cmake ninja-build ccache qtbase5-dev fonts-dejavu-core libcli11-dev libpng-dev libcsv-dev
-  qttranslations5-l10n "$@")
+packages=(g++ cmake ninja-build ccache qtbase5-dev fonts-dejavu-core libcli11-dev zlib1g-dev libjpeg62-turbo-dev
+  libcsv-dev qttranslations5-l10n "$@")
 
 missing=()
 for package in "${packages[@]}"; do

@@ -114,8 +114,9 @@ void Batch::write(const PlannedPicture& planned, const QByteArray& file)
 void Batch::finish(PlannedPicture& planned, const QImage& image)
 {
     try {
-        const QByteArray file =
-            encodeImage(image, QString::fromStdString(m_arguments.format), m_arguments.compression);
+        PngOptions options;
+        options.compression = m_arguments.compression;
+        const QByteArray file = encodeImage(image, QString::fromStdString(m_arguments.format), options);
         write(planned, file);
         const QByteArray sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
         const std::lock_guard<std::mutex> lock(m_results);

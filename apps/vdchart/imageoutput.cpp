@@ -1,17 +1,12 @@
 #include "imageoutput.h"
 
+#include "bmpencoder.h"
 #include "exitcode.h"
-#include "pngencoder.h"
+#include "jpegencoder.h"
 
-#include <QBuffer>
 #include <QFileInfo>
-#include <QImageWriter>
 
-namespace {
-
-constexpr int quality = 100;
-
-} // namespace
+#include <new>
 
 QString imageFormat(const QString& path)
 {
@@ -27,20 +22,25 @@ QString imageFormat(const QString& path)
     throw Failure{ExitCode::Usage, QStringLiteral("%1: the ending is none of .png, .jpg and .bmp").arg(path)};
 }
 
-QByteArray encodeImage(const QImage& image, const QString& format, int compression)
+void encodePicture(const PictureRows& picture, const QString& format, const PngOptions& options,
+                   const ByteSink& sink)
 {
-    QByteArray bytes;
-    if (format == QLatin1String("png")) {
-        bytes = encodePng(image, compression);
-    } else {
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        QImageWriter writer(&buffer, format.toLatin1());
-        writer.setQuality(quality);
-        if (!writer.write(image))
-            bytes.clear();
-    }
-    if (bytes.isEmpty())
+    try {
+        if (format == QLatin1String("png"))
+            encodePng(picture, options, sink);
+        else if (format == QLatin1String("jpg"))
+            encodeJpeg(picture, sink);
+        else
+            encodeBmp(picture, sink);
+    } catch (const std::bad_alloc&) {
         throw Failure{ExitCode::NotWritten, QStringLiteral("not enough memory for the picture")};
-    return bytes;
+    }
+}
+
+QByteArray encodeImage(const QImage& image, const QString& format, const PngOptions& options)
+{
+    QByteArray file;
+    encodePicture(rowsOf(image), format, options,
+                  [&file](const char* bytes, qint64 count) { file.append(bytes, int(count)); });
+    return file;
 }

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "pngencoder.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QString>
 
 /// The picture format of a path: "png", "jpg" or "bmp" by its ending in any case, "png" for the standard
-/// output,
-/// "-". Throws Failure for any other ending.
+/// output, "-". Throws Failure for any other ending.
 QString imageFormat(const QString& path);
 
-/// `image` as a file of `format`. `compression` is that of PNG; JPEG has quality 100. Throws Failure where
-/// there is not enough memory. For any thread.
-QByteArray encodeImage(const QImage& image, const QString& format, int compression);
+/// Writes a picture as a file of `format` to `sink`, part by part. `options` are those of PNG; JPEG has
+/// quality 100. Throws Failure where there is not enough memory. For any thread.
+void encodePicture(const PictureRows& picture, const QString& format, const PngOptions& options,
+                   const ByteSink& sink);
+
+/// The same of an image that is there, as the bytes of the file.
+QByteArray encodeImage(const QImage& image, const QString& format, const PngOptions& options = {});

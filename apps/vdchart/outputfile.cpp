@@ -19,17 +19,18 @@ Failure notWritten(const QString& name, const QString& reason)
     return {ExitCode::NotWritten, QStringLiteral("%1: %2").arg(name, reason)};
 }
 
+using Producer = std::function<void(const ByteSink&)>;
+
 /// Pipes take what they have room for. Returns the system's error number, 0 where all went well.
-int writeAll(int stream, const QByteArray& bytes)
+int writeAll(int stream, const char* from, qint64 count)
 {
-    const char* from = bytes.constData();
-    for (auto left = std::size_t(bytes.size()); left > 0;) {
-        const ssize_t written = write(stream, from, left);
+    while (count > 0) {
+        const ssize_t written = write(stream, from, std::size_t(count));
         if (written < 0 && errno != EINTR)
             return errno;
-        const std::size_t taken = written < 0 ? 0 : std::size_t(written);
+        const ssize_t taken = written < 0 ? 0 : written;
         from += taken;
-        left -= taken;
+        count -= taken;
     }
     return 0;
 }
@@ -40,23 +41,30 @@ void requireWritten(int error, const QString& name)
         throw notWritten(name, writeProblem(error));
 }
 
-/// A device or a named pipe, which a new file would replace.
-void writeSpecial(const QString& path, const QByteArray& bytes)
+ByteSink sinkOf(int stream, const QString& name)
 {
+    return [stream, name](const char* bytes, qint64 count) {
+        requireWritten(writeAll(stream, bytes, count), name);
+    };
+}
+
+/// A device or a named pipe, which a new file would replace.
+void writeSpecial(const QString& path, const Producer& produce)
+{
+    QFile file(path);
     const int stream = open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
     requireWritten(stream < 0 ? errno : 0, path);
-    const int error = writeAll(stream, bytes);
-    close(stream);
-    requireWritten(error, path);
+    file.open(stream, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+    produce(sinkOf(stream, path));
 }
 
 /// The file is written past the toolkit, which does not tell every reason.
-void writeWhole(const QString& path, const QByteArray& bytes)
+void writeWhole(const QString& path, const Producer& produce)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw notWritten(path, file.errorString());
-    requireWritten(writeAll(file.handle(), bytes), path);
+    produce(sinkOf(file.handle(), path));
     if (!file.commit())
         throw notWritten(path, file.errorString());
 }
@@ -70,15 +78,20 @@ QString writeProblem(int error)
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
-void writeOutput(const QString& path, const QByteArray& bytes)
+void writeOutput(const QString& path, const Producer& produce)
 {
     const QFileInfo info(path);
     if (path == QLatin1String("-"))
-        requireWritten(writeAll(STDOUT_FILENO, bytes), QStringLiteral("standard output"));
+        produce(sinkOf(STDOUT_FILENO, QStringLiteral("standard output")));
     else if (info.exists() && !info.isFile() && !info.isDir())
-        writeSpecial(path, bytes);
+        writeSpecial(path, produce);
     else
-        writeWhole(path, bytes);
+        writeWhole(path, produce);
+}
+
+void writeOutput(const QString& path, const QByteArray& bytes)
+{
+    writeOutput(path, [&bytes](const ByteSink& sink) { sink(bytes.constData(), bytes.size()); });
 }
 
 void requireNoTerminal(const QString& path)

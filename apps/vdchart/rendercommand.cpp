@@ -6,6 +6,8 @@
 #include "outputfile.h"
 #include "recordinput.h"
 
+#include <QThread>
+
 ExitCode runRender(const Arguments& arguments)
 {
     const QString path = QString::fromStdString(arguments.output);
@@ -18,6 +20,9 @@ ExitCode runRender(const Arguments& arguments)
     claims.readsLogo(record.logoData);
     claims.protect(path);
     const QImage image = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
-    writeOutput(path, encodeImage(image, format, arguments.compression));
+    PngOptions options;
+    options.compression = arguments.compression;
+    options.threads = QThread::idealThreadCount();
+    writeOutput(path, [&](const ByteSink& sink) { encodePicture(rowsOf(image), format, options, sink); });
     return ExitCode::Good;
 }

@@ -116,6 +116,6 @@ ExitCode runVerify(const Arguments& arguments)
     for (const QString& sentence : result.sentences())
         std::cout << inputName(path).toStdString() << ": " << sentence.toStdString() << '\n';
     if (!difference.isEmpty())
-        writeOutput(difference, encodeImage(result.difference, format, arguments.compression));
+        writeOutput(difference, encodeImage(result.difference, format));
     return ExitCode::Found;
 }

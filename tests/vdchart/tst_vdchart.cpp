@@ -647,7 +647,8 @@ private Q_SLOTS:
         QCOMPARE(run({"render", "numbers.json", "-o", "chart.bmp"}).code, 0);
         QCOMPARE(run({"render", "numbers.json", "-o", "chart.jpg"}).code, 0);
         QCOMPARE(run({"render", "small.json", "-o", "other.png"}).code, 0);
-        const QImage chart(path(QStringLiteral("chart.png")));
+        const QImage chart = QImage(path(QStringLiteral("chart.png")))
+                                 .convertToFormat(QImage::Format_RGB32); // it has a palette
         QVERIFY(chart.mirrored(true, false).save(path(QStringLiteral("mirrored.png"))));
         QImage swapped = chart;
         QPainter painter(&swapped);
