@@ -1,10 +1,10 @@
 #include "cabinetcomparison.h"
 
 #include "imagepixels.h"
+#include "thresholds.h"
 
 #include <QHash>
 #include <QSet>
-#include <QStringList>
 
 #include <algorithm>
 #include <map>
@@ -14,17 +14,6 @@ namespace ChartComparison {
 
 namespace {
 
-constexpr std::size_t mostListed = 8;
-
-QString listed(const QStringList& all)
-{
-    const int count = int(std::min<std::size_t>(std::size_t(all.size()), mostListed));
-    QString text = all.mid(0, count).join(QLatin1String(", "));
-    if (all.size() > count)
-        text += QStringLiteral(", \u2026 and %1 more").arg(all.size() - count);
-    return text;
-}
-
 /// Where a content comes from: a cabinet of the chart, and how often the chart shows it.
 struct Source
 {
@@ -32,10 +21,10 @@ struct Source
     int count = 0;
 };
 
-class Comparison
+class CabinetExaminer
 {
 public:
-    Comparison(const QImage& expected, const QImage& actual, const CabinetGrid& grid);
+    CabinetExaminer(const QImage& expected, const QImage& actual, const CabinetGrid& grid);
     CabinetReport run(bool allOrNothing);
 
 private:
@@ -45,19 +34,18 @@ private:
     bool mayMiss() const;
     void examine(int cabinet);
     bool explain(int cabinet);
-    bool findSource(int cabinet, const QImage& tile, const QString& change);
+    bool findSource(int cabinet, const QImage& tile, std::optional<Turn> turn);
     QRect tileRect(int cabinet) const;
     QImage tileOf(const QImage& image, int cabinet) const;
     std::optional<Source> sourceOf(const QImage& tile) const;
     qint64 differingPixels(const QRect& rect) const;
-    QString resemblance(int cabinet) const;
+    void addLookalike(int cabinet, PixelDifference& difference) const;
     void restore(const QRect& rect);
-    QString firstDifference(const QRect& rect) const;
-    QString name(int cabinet) const;
+    DifferingPixel firstDifference(const QRect& rect) const;
 
     void reportSwaps();
     void reportMissing();
-    void report(Kind kind, const std::vector<QString>& texts, const char* others);
+    void report(const std::vector<Finding>& findings);
     void reportUnexplained();
     void reportOutside();
 
@@ -65,15 +53,15 @@ private:
     const QImage& m_actual;
     QImage m_rest; ///< the picture without what has been explained
     std::vector<QRect> m_rects;
-    QStringList m_names;
+    std::vector<CabinetPlace> m_places;
     QSize m_tile;
     QHash<quint64, Source> m_contents;
-    QSet<quint64> m_mixtures;
+    QSet<quint64> m_multisets;
     CabinetReport m_report;
     std::map<int, int> m_shown; ///< the cabinet whose content is shown, by the cabinet that shows it
-    std::map<QRgb, QStringList> m_missing;
+    std::map<QRgb, std::vector<CabinetPlace>> m_missing;
     bool m_mayMiss = true;
-    std::vector<QString> m_turned;
+    std::vector<Finding> m_turned;
     std::vector<int> m_unexplained;
 };
 
@@ -88,8 +76,8 @@ quint64 contentHash(const QImage& tile)
     return hash;
 }
 
-/// The same for a content however it is turned.
-quint64 mixture(const QImage& image, const QRect& rect)
+/// A hash of the multiset of the pixels: the same for a content however it is turned.
+quint64 multisetHash(const QImage& image, const QRect& rect)
 {
     quint64 sum = 0;
     for (int y = rect.top(); y <= rect.bottom(); ++y) {
@@ -102,7 +90,7 @@ quint64 mixture(const QImage& image, const QRect& rect)
     return sum;
 }
 
-Comparison::Comparison(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
+CabinetExaminer::CabinetExaminer(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
     : m_expected(expected)
     , m_actual(actual)
     , m_rest(actual)
@@ -111,27 +99,21 @@ Comparison::Comparison(const QImage& expected, const QImage& actual, const Cabin
     measureTile();
 }
 
-/// Names that are not unique are told with their place.
-void Comparison::useGrid(const CabinetGrid& grid)
+void CabinetExaminer::useGrid(const CabinetGrid& grid)
 {
     QSet<QString> names;
     for (const Cabinet& cabinet : grid.cabinets)
         names.insert(cabinet.name);
     const bool unique = names.size() == int(grid.cabinets.size());
-    const int columns = std::max(grid.columns, 1);
     for (int i = 0; i < int(grid.cabinets.size()); ++i) {
         const Cabinet& cabinet = grid.cabinets[std::size_t(i)];
         m_rects.push_back(cabinet.rect & m_expected.rect());
-        m_names << (unique ? cabinet.name
-                           : QStringLiteral("%1 (row %2, column %3)")
-                                 .arg(cabinet.name)
-                                 .arg(i / columns + 1)
-                                 .arg(i % columns + 1));
+        m_places.push_back({grid.rowOf(std::size_t(i)), grid.columnOf(std::size_t(i)), cabinet.name, unique});
     }
 }
 
 /// What all cabinets have of their own, where they differ in size or overlap by a pixel.
-void Comparison::measureTile()
+void CabinetExaminer::measureTile()
 {
     QSize tile = m_rects.empty() ? QSize() : m_rects.front().size();
     for (std::size_t i = 0; i < m_rects.size(); ++i) {
@@ -145,27 +127,27 @@ void Comparison::measureTile()
     m_tile = tile.isValid() ? tile : QSize();
 }
 
-QImage Comparison::tileOf(const QImage& image, int cabinet) const
+QImage CabinetExaminer::tileOf(const QImage& image, int cabinet) const
 {
     return image.copy(tileRect(cabinet));
 }
 
-QRect Comparison::tileRect(int cabinet) const
+QRect CabinetExaminer::tileRect(int cabinet) const
 {
     return {m_rects[std::size_t(cabinet)].topLeft(), m_tile};
 }
 
-void Comparison::indexContents()
+void CabinetExaminer::indexContents()
 {
     for (int i = 0; i < int(m_rects.size()) && !m_tile.isEmpty(); ++i) {
-        m_mixtures.insert(mixture(m_expected, tileRect(i)));
+        m_multisets.insert(multisetHash(m_expected, tileRect(i)));
         Source& source = m_contents[contentHash(tileOf(m_expected, i))];
         if (source.count++ == 0)
             source.cabinet = i;
     }
 }
 
-std::optional<Source> Comparison::sourceOf(const QImage& tile) const
+std::optional<Source> CabinetExaminer::sourceOf(const QImage& tile) const
 {
     const auto it = m_contents.constFind(contentHash(tile));
     if (it == m_contents.constEnd() || tileOf(m_expected, it->cabinet) != tile)
@@ -173,77 +155,70 @@ std::optional<Source> Comparison::sourceOf(const QImage& tile) const
     return *it;
 }
 
-QString Comparison::name(int cabinet) const
-{
-    return m_names.at(cabinet);
-}
-
-qint64 Comparison::differingPixels(const QRect& rect) const
+qint64 CabinetExaminer::differingPixels(const QRect& rect) const
 {
     return pixelCount(rect.size()) - equalPixels(m_expected, rect, m_rest, rect.topLeft());
 }
 
-QString Comparison::firstDifference(const QRect& rect) const
+DifferingPixel CabinetExaminer::firstDifference(const QRect& rect) const
 {
     for (int y = rect.top(); y <= rect.bottom(); ++y) {
         for (int x = rect.left(); x <= rect.right(); ++x) {
             const QRgb expected = pixelRow(m_expected, y)[x];
             const QRgb actual = pixelRow(m_rest, y)[x];
             if (expected != actual)
-                return QStringLiteral("first (%1, %2) is %3 instead of %4")
-                    .arg(x)
-                    .arg(y)
-                    .arg(colorName(actual), colorName(expected));
+                return {QPoint(x, y), actual, expected};
         }
     }
-    return QString();
+    return {};
 }
 
-/// Whether `tile` is what one cabinet alone shows; tells it.
-bool Comparison::findSource(int cabinet, const QImage& tile, const QString& change)
+/// Whether `tile` is what one cabinet alone shows; tells it. `turn`: by which the picture had turned it.
+bool CabinetExaminer::findSource(int cabinet, const QImage& tile, std::optional<Turn> turn)
 {
     const std::optional<Source> source = sourceOf(tile);
-    if (!source || source->count > 1 || (change.isEmpty() && source->cabinet == cabinet))
+    if (!source || source->count > 1 || (!turn && source->cabinet == cabinet))
         return false;
-    if (change.isEmpty())
+    if (!turn) {
         m_shown[cabinet] = source->cabinet;
-    else if (source->cabinet == cabinet)
-        m_turned.push_back(QStringLiteral("%1 is %2").arg(name(cabinet), change));
-    else
-        m_turned.push_back(QStringLiteral("%1 shows what belongs to %2, %3")
-                               .arg(name(cabinet), name(source->cabinet), change));
+        return true;
+    }
+    std::vector<CabinetPlace> cabinets = {m_places[std::size_t(cabinet)]};
+    if (source->cabinet != cabinet)
+        cabinets.push_back(m_places[std::size_t(source->cabinet)]);
+    m_turned.push_back({Kind::CabinetTurned, *turn, cabinets, {}});
     return true;
 }
 
-bool Comparison::explain(int cabinet)
+bool CabinetExaminer::explain(int cabinet)
 {
     if (m_tile.isEmpty())
         return false;
     const QRect rect = m_rects[std::size_t(cabinet)];
     if (m_mayMiss && isOneColor(m_actual, rect)) {
-        m_missing[pixelRow(m_actual, rect.top())[rect.left()]] << name(cabinet);
+        m_missing[pixelRow(m_actual, rect.top())[rect.left()]].push_back(m_places[std::size_t(cabinet)]);
         return true;
     }
-    if (!m_mixtures.contains(mixture(m_actual, tileRect(cabinet))))
+    if (!m_multisets.contains(multisetHash(m_actual, tileRect(cabinet))))
         return false;
     const QImage tile = tileOf(m_actual, cabinet);
-    if (findSource(cabinet, tile, QString()))
+    if (findSource(cabinet, tile, std::nullopt))
         return true;
     const QImage own = tileOf(m_expected, cabinet);
     for (const Turn turn : allTurns) {
         const QImage back = turnedBack(tile, turn);
         if (back == own) { // also where others look the same
-            m_turned.push_back(QStringLiteral("%1 is %2").arg(name(cabinet), turnText(turn)));
+            m_turned.push_back({Kind::CabinetTurned, turn, {m_places[std::size_t(cabinet)]}, {}});
             return true;
         }
-        if (back.size() == m_tile && findSource(cabinet, back, turnText(turn)))
+        if (back.size() == m_tile && findSource(cabinet, back, turn))
             return true;
     }
     return false;
 }
 
 /// Where most cabinets have become one colour, and not all the same one, that is another chart and no fault.
-bool Comparison::mayMiss() const
+bool CabinetExaminer::mayMiss() const
 {
     QSet<QRgb> colors;
     int plain = 0;
@@ -257,7 +232,7 @@ bool Comparison::mayMiss() const
     return colors.size() < 2 || plain * 2 <= int(m_rects.size());
 }
 
-void Comparison::examine(int cabinet)
+void CabinetExaminer::examine(int cabinet)
 {
     const QRect rect = m_rects[std::size_t(cabinet)];
     if (rect.isEmpty() || sameAt(m_expected, rect, m_actual, rect.topLeft()))
@@ -273,97 +248,92 @@ void Comparison::examine(int cabinet)
 }
 
 /// What one cabinet explains is not another one's fault where they overlap.
-void Comparison::restore(const QRect& rect)
+void CabinetExaminer::restore(const QRect& rect)
 {
     for (int y = rect.top(); y <= rect.bottom(); ++y)
         std::copy_n(pixelRow(m_expected, y) + rect.left(), rect.width(), pixelRow(m_rest, y) + rect.left());
 }
 
-void Comparison::reportUnexplained()
+void CabinetExaminer::reportUnexplained()
 {
-    std::vector<QString> texts;
+    std::vector<Finding> findings;
     for (const int cabinet : m_unexplained) {
         const QRect rect = m_rects[std::size_t(cabinet)];
-        const qint64 pixels = differingPixels(rect);
-        if (pixels == 0)
+        PixelDifference difference;
+        difference.differing = differingPixels(rect);
+        if (difference.differing == 0)
             continue;
         m_report.differing.push_back(rect);
-        m_report.unexplainedPixels += pixels;
-        texts.push_back(QStringLiteral("%1: %2 of %3 pixels differ, %4%5")
-                            .arg(name(cabinet))
-                            .arg(pixels)
-                            .arg(pixelCount(rect.size()))
-                            .arg(firstDifference(rect), resemblance(cabinet)));
+        m_report.unexplainedPixels += difference.differing;
+        difference.all = pixelCount(rect.size());
+        difference.first = firstDifference(rect);
+        addLookalike(cabinet, difference);
+        findings.push_back({Kind::CabinetDiffers, difference, {m_places[std::size_t(cabinet)]}, {}});
     }
-    report(Kind::CabinetDiffers, texts, "\u2026 and %1 more cabinets that differ");
+    report(findings);
     for (const int cabinet : m_unexplained)
         restore(m_rects[std::size_t(cabinet)]);
 }
 
-QString Comparison::resemblance(int cabinet) const
+void CabinetExaminer::addLookalike(int cabinet, PixelDifference& difference) const
 {
     const auto source = m_tile.isEmpty() ? std::nullopt : sourceOf(tileOf(m_actual, cabinet));
-    return source && source->count > 1 ? QStringLiteral("; it looks like %1 and %2 more")
-                                             .arg(name(source->cabinet))
-                                             .arg(source->count - 1)
-                                       : QString();
+    if (!source || source->count < 2)
+        return;
+    difference.lookalike = {m_places[std::size_t(source->cabinet)]};
+    difference.moreLookalikes = source->count - 1;
 }
 
-void Comparison::reportSwaps()
+void CabinetExaminer::reportSwaps()
 {
-    std::vector<QString> texts;
+    std::vector<Finding> findings;
     for (const auto& [cabinet, source] : m_shown) {
         const auto back = m_shown.find(source);
         const bool mutual = back != m_shown.end() && back->second == cabinet;
-        if (mutual && cabinet < source)
-            texts.push_back(QStringLiteral("%1 and %2 are swapped").arg(name(cabinet), name(source)));
-        else if (!mutual)
-            texts.push_back(QStringLiteral("%1 shows what belongs to %2").arg(name(cabinet), name(source)));
+        if (!mutual || cabinet < source)
+            findings.push_back({Kind::CabinetSwapped,
+                                Swap{mutual},
+                                {m_places[std::size_t(cabinet)], m_places[std::size_t(source)]},
+                                {}});
     }
-    report(Kind::CabinetSwapped, texts, "\u2026 and %1 more swaps");
+    report(findings);
 }
 
-void Comparison::reportMissing()
+void CabinetExaminer::reportMissing()
 {
-    for (const auto& [color, names] : m_missing) {
-        const bool black = (color & 0xffffffU) == 0;
-        const QString what = (black ? QStringLiteral("missing, all %1") : QStringLiteral("nothing but %1"))
-                                 .arg(colorName(color));
-        const QString verb = black ? names.size() > 1 ? QStringLiteral("are") : QStringLiteral("is")
-                             : names.size() > 1 ? QStringLiteral("show")
-                                                : QStringLiteral("shows");
-        const QString text =
-            names.size() > 1
-                ? QStringLiteral("%1 cabinets %2 %3: %4").arg(names.size()).arg(verb, what, listed(names))
-                : QStringLiteral("%1 %2 %3").arg(names.front(), verb, what);
-        m_report.findings.push_back({Kind::CabinetMissing, text});
-    }
+    for (const auto& [color, cabinets] : m_missing)
+        m_report.findings.push_back({Kind::CabinetMissing, Missing{color}, cabinets, {}});
 }
 
-/// One finding for each of the first, and one for all others.
-void Comparison::report(Kind kind, const std::vector<QString>& texts, const char* others)
+/// The first of one kind, and one finding for all others.
+void CabinetExaminer::report(const std::vector<Finding>& findings)
 {
-    for (std::size_t i = 0; i < texts.size() && i < mostListed; ++i)
-        m_report.findings.push_back({kind, texts[i]});
-    if (texts.size() > mostListed)
-        m_report.findings.push_back({kind, QString::fromUtf8(others).arg(texts.size() - mostListed)});
+    const std::size_t listed = std::min(findings.size(), std::size_t(Thresholds::mostListed));
+    m_report.findings.insert(m_report.findings.end(), findings.begin(),
+                             findings.begin() + std::ptrdiff_t(listed));
+    if (findings.size() == listed)
+        return;
+    Finding further{findings.front().kind, Further{int(findings.size() - listed)}, {}, {}};
+    for (std::size_t i = listed; i < findings.size(); ++i)
+        further.cabinets.push_back(findings[i].cabinets.front());
+    m_report.findings.push_back(further);
 }
 
 /// What is left after all cabinets.
-void Comparison::reportOutside()
+void CabinetExaminer::reportOutside()
 {
     const qint64 pixels = differingPixels(m_rest.rect());
     if (pixels == 0)
         return;
     m_report.unexplainedPixels += pixels;
-    const QString what = pixels == 1
-                             ? QStringLiteral("1 pixel that belongs to no cabinet differs")
-                             : QStringLiteral("%1 pixels that belong to no cabinet differ").arg(pixels);
-    m_report.findings.push_back(
-        {Kind::OutsideCabinets, QStringLiteral("%1, %2").arg(what, firstDifference(m_rest.rect()))});
+    PixelDifference difference;
+    difference.differing = pixels;
+    difference.all = pixelCount(m_rest.size());
+    difference.first = firstDifference(m_rest.rect());
+    m_report.findings.push_back({Kind::OutsideCabinets, difference, {}, {}});
 }
 
-CabinetReport Comparison::run(bool allOrNothing)
+CabinetReport CabinetExaminer::run(bool allOrNothing)
 {
     m_report.differingPixels = differingPixels(m_rest.rect());
     if (m_report.differingPixels == 0)
@@ -377,7 +347,7 @@ CabinetReport Comparison::run(bool allOrNothing)
     }
     reportSwaps();
     reportMissing();
-    report(Kind::CabinetTurned, m_turned, "\u2026 and %1 more turned cabinets");
+    report(m_turned);
     reportUnexplained();
     reportOutside();
     return m_report;
@@ -388,7 +358,7 @@ CabinetReport Comparison::run(bool allOrNothing)
 CabinetReport compareCabinets(const QImage& expected, const QImage& actual, const CabinetGrid& grid,
                               bool allOrNothing)
 {
-    return Comparison(expected, actual, grid).run(allOrNothing);
+    return CabinetExaminer(expected, actual, grid).run(allOrNothing);
 }
 
 } // namespace ChartComparison

@@ -21,6 +21,9 @@ struct CabinetGrid
 {
     int columns = 0;
     std::vector<Cabinet> cabinets;
+
+    int rowOf(std::size_t cabinet) const { return int(cabinet) / (columns > 0 ? columns : 1); }
+    int columnOf(std::size_t cabinet) const { return int(cabinet) % (columns > 0 ? columns : 1); }
 };
 
 struct CabinetReport

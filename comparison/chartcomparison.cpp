@@ -6,6 +6,7 @@
 #include "imageplacement.h"
 #include "imagescaling.h"
 #include "lossycompression.h"
+#include "thresholds.h"
 
 #include <algorithm>
 #include <optional>
@@ -13,17 +14,6 @@
 namespace ChartComparison {
 
 namespace {
-
-/// Most of what is compared has to be the same for a finding that leaves something over.
-constexpr double leastEqual = 0.5;
-
-/// With so much of it in its place a chart is not in another scale.
-constexpr double surelyThere = 0.98;
-
-/// With so much of it in other colours it is nothing else.
-constexpr double surelyColors = 0.9;
-
-constexpr qint64 mostFaultyPixels = 100;
 
 /// One way in which a picture may have come from the chart. In the size of the chart the chart's cabinets are
 /// those of the wall, wherever the chart has gone; else they are where the chart was found.
@@ -38,10 +28,10 @@ struct Way
     bool isPlacement() const { return !findings.empty() && findings.front().kind != Kind::Turned; }
 };
 
-class Comparison
+class ChartExplainer
 {
 public:
-    Comparison(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
+    ChartExplainer(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
         : m_expected(expected)
         , m_actual(actual)
         , m_grid(grid)
@@ -89,12 +79,7 @@ double equalShare(const QImage& a, const QImage& b)
     return double(equalPixels(a, a.rect(), b, {})) / double(pixelCount(a.size()));
 }
 
-QString sizeText(const QSize& size)
-{
-    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
-}
-
-Result Comparison::run()
+Result ChartExplainer::run()
 {
     if (explainByOneColor())
         return m_result;
@@ -105,60 +90,58 @@ Result Comparison::run()
     addTurns();
     addPlacements();
     if (!explainWhole() && !explainByCabinets() && !explainByColors() && !explainByEdges() &&
-        !explainByCompression() && !explainMostByColors(surelyColors) && !explainByScaling() &&
-        !explainMostByColors(leastEqual))
+        !explainByCompression() && !explainMostByColors(Thresholds::surelyRecolored) && !explainByScaling() &&
+        !explainMostByColors(Thresholds::leastExplained))
         tellNearest();
     return m_result;
 }
 
 /// The picture shows the chart where it is, unless something else has been drawn before.
-void Comparison::finish(std::vector<Finding> findings)
+void ChartExplainer::finish(std::vector<Finding> findings)
 {
     m_result.findings = std::move(findings);
     if (m_result.difference.isNull())
         m_result.difference = differencePicture(m_expected, m_actual, QPoint(), {});
 }
 
-bool Comparison::explainByOneColor()
+bool ChartExplainer::explainByOneColor()
 {
     if (!isOneColor(m_actual))
         return false;
     const QRgb color = pixelRow(m_actual, 0)[0];
-    const QString sizes =
-        QStringLiteral("%1 instead of %2 pixels").arg(sizeText(m_actual.size()), sizeText(m_expected.size()));
+    const SizeChange sizes{m_actual.size(), m_expected.size()};
     if (!isOneColor(m_expected))
-        finish({{Kind::OneColor, QStringLiteral("all of the picture is %1").arg(colorName(color)) +
-                                     (m_sameSize ? QString() : QStringLiteral(", ") + sizes)}});
+        finish({{Kind::OneColor, SingleColor{color, sizes}, {}, {}}});
     else if (color == pixelRow(m_expected, 0)[0])
-        finish({{Kind::OtherSize, sizes + QStringLiteral("; one color does not tell whether it was scaled, "
-                                                         "cropped or padded")}});
+        finish({{Kind::OtherSize, sizes, {}, {}}});
     else
         return false;
     return true;
 }
 
 /// Where few cabinets differ, and hardly a pixel of that has no reason, nothing has happened to the whole.
-bool Comparison::explainByFewFaults()
+bool ChartExplainer::explainByFewFaults()
 {
     const CabinetReport report = compareCabinets(m_expected, m_actual, m_grid);
-    if (report.differing.size() * 4 > m_grid.cabinets.size() || report.unexplainedPixels > mostFaultyPixels)
+    if (report.differing.size() * Thresholds::cabinetsForOneFault > m_grid.cabinets.size() ||
+        report.unexplainedPixels > Thresholds::mostSpotPixels)
         return false;
     tellReport({}, report, m_expected, m_actual);
     return true;
 }
 
-void Comparison::addWay(std::vector<Finding> findings, const QImage& expected, const QImage& actual)
+void ChartExplainer::addWay(std::vector<Finding> findings, const QImage& expected, const QImage& actual)
 {
     m_ways.push_back({std::move(findings), expected, actual, equalShare(expected, actual), {}});
 }
 
-void Comparison::addTurns()
+void ChartExplainer::addTurns()
 {
     for (const Turn turn : allTurns) {
         const QSize size = exchangesSides(turn) ? m_expected.size().transposed() : m_expected.size();
         if (size != m_actual.size())
             continue;
-        const std::vector<Finding> findings = {{Kind::Turned, turnText(turn)}};
+        const std::vector<Finding> findings = {{Kind::Turned, turn, {}, {}}};
         if (m_sameSize)
             addWay(findings, turned(m_expected, turn), m_actual);
         else
@@ -166,7 +149,7 @@ void Comparison::addTurns()
     }
 }
 
-void Comparison::addPlacements()
+void ChartExplainer::addPlacements()
 {
     const std::vector<Placement> placements = findPlacements(m_expected, m_actual);
     const auto whole = std::count_if(placements.begin(), placements.end(),
@@ -180,12 +163,12 @@ void Comparison::addPlacements()
             addWay(findings, m_expected, placedBack(m_expected, m_actual, placement));
         m_ways.back().at = placement.at;
         if (m_sameSize)
-            m_ways.back().share = std::min(m_ways.back().share, explainedShare(m_actual, placement));
+            m_ways.back().share = std::min(m_ways.back().share, shiftedShare(m_actual, placement));
     }
 }
 
 /// Tells the first that explains all, and that others do as well.
-bool Comparison::explainWhole()
+bool ChartExplainer::explainWhole()
 {
     std::vector<std::vector<Finding>> whole;
     std::optional<QPoint> at;
@@ -198,11 +181,11 @@ bool Comparison::explainWhole()
     }
     const auto colors = m_sameSize ? ColorChange::find(m_expected, m_actual) : std::nullopt;
     if (colors)
-        whole.push_back({{Kind::ColorsChanged, colors->text()}});
+        whole.push_back({{Kind::ColorsChanged, colors->effect(), {}, {}}});
     if (whole.empty())
         return false;
     for (std::size_t i = 1; i < whole.size(); ++i)
-        whole.front().back().text += QStringLiteral("; or %1").arg(whole[i].front().text);
+        whole.front().back().alternatives.push_back(whole[i].front());
     if (at && !m_sameSize)
         m_result.difference = differencePicture(m_expected, m_actual, *at, {});
     finish(whole.front());
@@ -210,7 +193,7 @@ bool Comparison::explainWhole()
 }
 
 /// What leaves the fewest cabinets to be explained, as far as they all are.
-bool Comparison::explainByCabinets()
+bool ChartExplainer::explainByCabinets()
 {
     const double unmoved = m_sameSize ? m_ways.front().share : 0.0;
     const Way* best = nullptr;
@@ -219,7 +202,7 @@ bool Comparison::explainByCabinets()
         return way.findings.size() + report.differing.size();
     };
     for (const Way& way : m_ways) {
-        if (!way.findings.empty() && way.share < std::max(unmoved, leastEqual))
+        if (!way.findings.empty() && way.share < std::max(unmoved, Thresholds::leastExplained))
             continue;
         const CabinetReport report = compareCabinets(way.expected, way.actual, m_grid, true);
         if (report.unexplainedPixels > 0 || (best && told(way, report) >= told(*best, bestReport)))
@@ -232,14 +215,14 @@ bool Comparison::explainByCabinets()
     return best != nullptr;
 }
 
-bool Comparison::explainByColors()
+bool ChartExplainer::explainByColors()
 {
     for (const Way& way : m_ways) {
         const auto colors = way.isPlacement() ? std::nullopt : ColorChange::find(way.expected, way.actual);
         if (!colors)
             continue;
         std::vector<Finding> findings = way.findings;
-        findings.push_back({Kind::ColorsChanged, colors->text()});
+        findings.push_back({Kind::ColorsChanged, colors->effect(), {}, {}});
         finish(findings);
         return true;
     }
@@ -247,7 +230,7 @@ bool Comparison::explainByColors()
 }
 
 /// Other colours in another place: the edges between colours tell the place.
-bool Comparison::explainByEdges()
+bool ChartExplainer::explainByEdges()
 {
     for (Placement placement : findPlacements(colorEdges(m_expected), colorEdges(m_actual))) {
         const QRect shown = QRect(-placement.at, m_actual.size()) & m_expected.rect();
@@ -258,7 +241,7 @@ bool Comparison::explainByEdges()
         placement.wraps =
             placement.wraps && ColorChange::find(placedThere(m_expected, m_actual, placement), m_actual);
         std::vector<Finding> findings = placementFindings(m_expected.size(), m_actual, placement, false);
-        findings.push_back({Kind::ColorsChanged, colors->text()});
+        findings.push_back({Kind::ColorsChanged, colors->effect(), {}, {}});
         if (!m_sameSize)
             m_result.difference = differencePicture(m_expected, m_actual, placement.at, {});
         finish(findings);
@@ -267,9 +250,10 @@ bool Comparison::explainByEdges()
     return false;
 }
 
-bool Comparison::explainByScaling()
+bool ChartExplainer::explainByScaling()
 {
-    const auto scaling = nearestShare() < surelyThere ? findScaling(m_expected, m_actual) : std::nullopt;
+    const auto scaling =
+        nearestShare() < Thresholds::surelyInPlace ? findScaling(m_expected, m_actual) : std::nullopt;
     if (!scaling || (!scaling->failing.empty() && scaling->explained < nearestShare()))
         return false;
     finish({scalingFinding(m_expected.size(), m_actual.size(), *scaling)});
@@ -277,27 +261,19 @@ bool Comparison::explainByScaling()
     return true;
 }
 
-void Comparison::tellScalingRest(const Scaling& scaling)
+void ChartExplainer::tellScalingRest(const Scaling& scaling)
 {
-    QStringList names;
-    for (const Cabinet& cabinet : m_grid.cabinets) {
+    std::vector<CabinetPlace> differing;
+    for (std::size_t i = 0; i < m_grid.cabinets.size(); ++i) {
         if (std::any_of(scaling.failing.begin(), scaling.failing.end(),
-                        [&](const QRectF& place) { return place.intersects(cabinet.rect); }))
-            names << cabinet.name;
+                        [&](const QRectF& place) { return place.intersects(m_grid.cabinets[i].rect); }))
+            differing.push_back({m_grid.rowOf(i), m_grid.columnOf(i), m_grid.cabinets[i].name, true});
     }
-    if (names.isEmpty())
-        return;
-    const int listed = std::min(names.size(), 8);
-    m_result.findings.push_back(
-        {Kind::CabinetDiffers,
-         QStringLiteral("besides, %1: %2%3")
-             .arg(names.size() == 1 ? QStringLiteral("1 cabinet differs")
-                                    : QStringLiteral("%1 cabinets differ").arg(names.size()))
-             .arg(QStringList(names.mid(0, listed)).join(QLatin1String(", ")),
-                  names.size() > listed ? QStringLiteral(", \u2026") : QString())});
+    if (!differing.empty())
+        m_result.findings.push_back({Kind::CabinetDiffers, DiffersBesides{}, differing, {}});
 }
 
-bool Comparison::explainByCompression()
+bool ChartExplainer::explainByCompression()
 {
     for (const Way& way : m_ways) {
         const auto lossy =
@@ -313,36 +289,36 @@ bool Comparison::explainByCompression()
 }
 
 /// What leaves the fewest pixels over, as long as it leaves less than half of them; or null.
-const Way* Comparison::nearest() const
+const Way* ChartExplainer::nearest() const
 {
     const auto best = std::max_element(m_ways.begin(), m_ways.end(),
                                        [](const Way& a, const Way& b) { return a.share < b.share; });
-    return best != m_ways.end() && best->share >= leastEqual ? &*best : nullptr;
+    return best != m_ways.end() && best->share >= Thresholds::leastExplained ? &*best : nullptr;
 }
 
-double Comparison::nearestShare() const
+double ChartExplainer::nearestShare() const
 {
     const Way* const way = nearest();
-    return way ? way->share : leastEqual;
+    return way ? way->share : Thresholds::leastExplained;
 }
 
-bool Comparison::explainMostByColors(double least)
+bool ChartExplainer::explainMostByColors(double least)
 {
-    if (nearestShare() >= surelyThere)
+    if (nearestShare() >= Thresholds::surelyInPlace)
         return false;
     for (Way& way : m_ways) {
         const auto colors = ColorChange::guess(way.expected, way.actual);
         const QImage changed = colors ? colors->applied(way.expected) : QImage();
         if (!colors || equalShare(changed, way.actual) <= std::max(least, nearestShare()))
             continue;
-        way.findings.push_back({Kind::ColorsChanged, colors->text()});
+        way.findings.push_back({Kind::ColorsChanged, colors->effect(), {}, {}});
         tellRest(way, changed);
         return true;
     }
     return false;
 }
 
-void Comparison::tellNearest()
+void ChartExplainer::tellNearest()
 {
     if (const Way* const way = nearest())
         tellRest(*way, way->expected);
@@ -350,13 +326,13 @@ void Comparison::tellNearest()
         tellStranger();
 }
 
-void Comparison::tellRest(const Way& way, const QImage& expected)
+void ChartExplainer::tellRest(const Way& way, const QImage& expected)
 {
     tellReport(way.findings, compareCabinets(expected, way.actual, m_grid), expected, way.actual);
 }
 
-void Comparison::tellReport(std::vector<Finding> findings, const CabinetReport& report,
-                            const QImage& expected, const QImage& actual)
+void ChartExplainer::tellReport(std::vector<Finding> findings, const CabinetReport& report,
+                                const QImage& expected, const QImage& actual)
 {
     findings.insert(findings.end(), report.findings.begin(), report.findings.end());
     m_result.findings = std::move(findings);
@@ -364,7 +340,7 @@ void Comparison::tellReport(std::vector<Finding> findings, const CabinetReport& 
 }
 
 /// Cabinets that are all in another place leave little where it was.
-void Comparison::tellStranger()
+void ChartExplainer::tellStranger()
 {
     if (m_sameSize) {
         const CabinetReport report = compareCabinets(m_expected, m_actual, m_grid);
@@ -373,20 +349,11 @@ void Comparison::tellStranger()
             return;
         }
         const ChannelDifference difference = channelDifference(m_expected, m_actual);
-        finish({{Kind::NotThisChart,
-                 QStringLiteral(
-                     "not this chart: %1 percent of the pixels differ, by up to %2 and in the mean %3 "
-                     "of 255")
-                     .arg(double(report.differingPixels) * 100 / double(pixelCount(m_expected.size())), 0,
-                          'f', 1)
-                     .arg(difference.greatest)
-                     .arg(difference.mean, 0, 'f', 1)}});
+        const double share = double(report.differingPixels) / double(pixelCount(m_expected.size()));
+        finish({{Kind::NotThisChart, Deviation{difference.greatest, difference.mean, share}, {}, {}}});
         return;
     }
-    finish(
-        {{Kind::NotThisChart, QStringLiteral("not this chart: %1 instead of %2 pixels, and no part of it was "
-                                             "found")
-                                  .arg(sizeText(m_actual.size()), sizeText(m_expected.size()))}});
+    finish({{Kind::NotThisChart, SizeChange{m_actual.size(), m_expected.size()}, {}, {}}});
 }
 
 } // namespace
@@ -395,7 +362,7 @@ QStringList Result::sentences() const
 {
     QStringList sentences;
     for (const Finding& finding : findings)
-        sentences << finding.text;
+        sentences << sentence(finding);
     return sentences;
 }
 
@@ -406,8 +373,8 @@ Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& 
     if (plainExpected == plainActual)
         return {true, {}, {}};
     if (expected.isNull() || actual.isNull())
-        return {false, {{Kind::NotThisChart, QStringLiteral("there is no picture")}}, {}};
-    return Comparison(plainExpected, plainActual, cabinets).run();
+        return {false, {{Kind::NotThisChart, {}, {}, {}}}, {}};
+    return ChartExplainer(plainExpected, plainActual, cabinets).run();
 }
 
 } // namespace ChartComparison

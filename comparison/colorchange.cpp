@@ -2,13 +2,13 @@
 
 #include "imagepixels.h"
 #include "namedcolorchange.h"
+#include "thresholds.h"
 
 #include <QSet>
-#include <QStringList>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <unordered_map>
 #include <vector>
 
@@ -16,12 +16,8 @@ namespace ChartComparison {
 
 namespace {
 
-constexpr int sampleCount = 65536;
-constexpr int mostNamed = 3;
-constexpr double toleratedInGuess = 0.25;
-constexpr double surelyExact = 0.99;
-
-/// What became of each colour, or nothing where a colour has become two.
+/// What became of each colour, or nothing where a colour has become two. A direct-mapped cache of the last
+/// colours answers for most pixels.
 class Correspondence
 {
 public:
@@ -82,7 +78,7 @@ bool addRow(Correspondence& colors, const QRgb* expected, const QRgb* actual, in
 bool samplesCorrespond(const QImage& expected, const QImage& actual)
 {
     Correspondence colors;
-    const std::vector<QPoint> points = samplePoints(expected.rect(), 4096);
+    const std::vector<QPoint> points = samplePoints(expected.rect(), Thresholds::firstColorSamples);
     return std::all_of(points.begin(), points.end(), [&](const QPoint& at) {
         return colors.add(pixelRow(expected, at.y())[at.x()], pixelRow(actual, at.y())[at.x()], 1);
     });
@@ -102,17 +98,11 @@ std::vector<ColorPair> correspondence(const QImage& expected, const QImage& actu
     return colors.pairs();
 }
 
-bool isNear(QRgb a, QRgb b)
-{
-    const auto near = [](int x, int y) { return std::abs(x - y) <= 2; };
-    return near(qRed(a), qRed(b)) && near(qGreen(a), qGreen(b)) && near(qBlue(a), qBlue(b));
-}
-
 /// What most samples of each colour have become.
-std::vector<ColorPair> majority(const QImage& expected, const QImage& actual)
+std::vector<ColorPair> mostFrequent(const QImage& expected, const QImage& actual)
 {
     QHash<QRgb, QHash<QRgb, int>> counts;
-    for (const QPoint& at : samplePoints(expected.rect(), sampleCount))
+    for (const QPoint& at : samplePoints(expected.rect(), Thresholds::colorSamples))
         ++counts[pixelRow(expected, at.y())[at.x()]][pixelRow(actual, at.y())[at.x()]];
     std::vector<ColorPair> pairs;
     for (auto from = counts.cbegin(); from != counts.cend(); ++from) {
@@ -130,19 +120,16 @@ bool isExchange(const std::vector<ColorPair>& pairs, qint64 pixels)
     QSet<QRgb> shown;
     for (const ColorPair& pair : pairs)
         shown.insert(pair.to);
-    return shown.size() == int(pairs.size()) && qint64(pairs.size()) * 4 <= pixels;
+    return shown.size() == int(pairs.size()) && qint64(pairs.size()) * Thresholds::pixelsPerColor <= pixels;
 }
 
-QString exchangeText(const std::vector<ColorPair>& pairs)
+/// An exchange without a name.
+ColorEffect exchange(const std::vector<ColorPair>& pairs)
 {
-    QStringList changes;
-    for (const ColorPair& pair : pairs) {
-        if (pair.from != pair.to)
-            changes << QStringLiteral("%1 shows as %2").arg(colorName(pair.from), colorName(pair.to));
-    }
-    const int more = changes.size() - mostNamed;
-    const QString text = QStringList(changes.mid(0, mostNamed)).join(QLatin1String(", "));
-    return more > 0 ? text + QStringLiteral(", \u2026 and %1 more colors").arg(more) : text;
+    ColorEffect effect;
+    std::copy_if(pairs.begin(), pairs.end(), std::back_inserter(effect.pairs),
+                 [](const ColorPair& pair) { return pair.from != pair.to; });
+    return effect;
 }
 
 } // namespace
@@ -154,7 +141,7 @@ std::optional<ColorChange> ColorChange::find(const QImage& expected, const QImag
     if (!named && !isExchange(pairs, pixelCount(expected.size())))
         return std::nullopt;
     ColorChange change;
-    change.m_text = named ? named->text : exchangeText(pairs);
+    change.m_effect = named ? named->effect : exchange(pairs);
     for (const ColorPair& pair : pairs)
         change.m_seen.insert(pair.from, pair.to);
     return change;
@@ -162,27 +149,28 @@ std::optional<ColorChange> ColorChange::find(const QImage& expected, const QImag
 
 std::optional<ColorChange> ColorChange::guess(const QImage& expected, const QImage& actual)
 {
-    const std::vector<ColorPair> pairs = majority(expected, actual);
-    const auto named = namedColorChange(pairs, toleratedInGuess);
+    const std::vector<ColorPair> pairs = mostFrequent(expected, actual);
+    const auto named = namedColorChange(pairs, Thresholds::toleratedInGuess);
     if (!named)
         return std::nullopt;
     ColorChange change;
-    change.m_text = named->text;
+    change.m_effect = named->effect;
     change.m_map = named->map;
     change.learnRounding(expected, actual);
     return change;
 }
 
-/// Where the calculation is not exact, most of the pixels that are near tell how a colour has been rounded.
+/// Where the calculation is not exact, the pixels that are near tell how each colour has been rounded: by the
+/// majority vote of Boyer and Moore, in one pass.
 void ColorChange::learnRounding(const QImage& expected, const QImage& actual)
 {
-    struct Candidate
+    struct Vote
     {
         QRgb mapped;
         QRgb to;
         qint64 votes;
     };
-    QHash<QRgb, Candidate> candidates;
+    QHash<QRgb, Vote> elections;
     qint64 nearPixels = 0;
     qint64 exactPixels = 0;
     for (int y = 0; y < expected.height(); ++y) {
@@ -191,10 +179,10 @@ void ColorChange::learnRounding(const QImage& expected, const QImage& actual)
         for (int x = 0, end = 0; x < expected.width(); x = end) {
             for (end = x + 1; end < expected.width() && from[end] == from[x] && to[end] == to[x];)
                 ++end;
-            auto it = candidates.find(from[x]);
-            if (it == candidates.end())
-                it = candidates.insert(from[x], {m_map(from[x]), 0, 0});
-            if (!isNear(it->mapped, to[x]))
+            auto it = elections.find(from[x]);
+            if (it == elections.end())
+                it = elections.insert(from[x], {m_map(from[x]), 0, 0});
+            if (channelDistance(it->mapped, to[x]) > Thresholds::roundingSteps)
                 continue;
             nearPixels += end - x;
             exactPixels += it->mapped == to[x] ? end - x : 0;
@@ -203,9 +191,9 @@ void ColorChange::learnRounding(const QImage& expected, const QImage& actual)
                 *it = {it->mapped, to[x], -it->votes};
         }
     }
-    if (double(exactPixels) >= surelyExact * double(nearPixels))
+    if (double(exactPixels) >= Thresholds::surelyExact * double(nearPixels))
         return;
-    for (auto it = candidates.cbegin(); it != candidates.cend(); ++it)
+    for (auto it = elections.cbegin(); it != elections.cend(); ++it)
         m_seen.insert(it.key(), it->votes > 0 ? it->to : it->mapped);
 }
 

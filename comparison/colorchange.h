@@ -1,8 +1,9 @@
 #pragma once
 
+#include "finding.h"
+
 #include <QHash>
 #include <QImage>
-#include <QString>
 
 #include <functional>
 #include <optional>
@@ -20,8 +21,7 @@ public:
     /// What has happened to most pixels, by samples; only a change that has a name.
     static std::optional<ColorChange> guess(const QImage& expected, const QImage& actual);
 
-    /// "red and blue are swapped".
-    QString text() const { return m_text; }
+    const ColorEffect& effect() const { return m_effect; }
 
     QImage applied(const QImage& image) const;
 
@@ -30,7 +30,7 @@ private:
 
     void learnRounding(const QImage& expected, const QImage& actual);
 
-    QString m_text;
+    ColorEffect m_effect;
     QHash<QRgb, QRgb> m_seen; ///< rounding included
     Map m_map;                ///< for what was not seen; empty for an exchange without a name
 };

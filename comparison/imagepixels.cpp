@@ -1,22 +1,12 @@
 #include "imagepixels.h"
 
-#include <QTransform>
-
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <random>
 
 namespace ChartComparison {
-
-namespace {
-
-QImage rotated(const QImage& image, int degrees)
-{
-    return plainColors(image.transformed(QTransform().rotate(degrees), Qt::FastTransformation));
-}
-
-} // namespace
 
 QImage plainColors(const QImage& image)
 {
@@ -31,9 +21,10 @@ QImage plainColors(const QImage& image)
     return plain;
 }
 
-QString colorName(QRgb color)
+int channelDistance(QRgb a, QRgb b)
 {
-    return QStringLiteral("#%1").arg(color & 0xffffffU, 6, 16, QLatin1Char('0'));
+    return std::max(
+        {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
 }
 
 bool isOneColor(const QImage& image, const QRect& rect)
@@ -139,55 +130,6 @@ std::vector<QPoint> samplePoints(const QRect& rect, int count)
         points.emplace_back(rect.left() + int(random() % uint(rect.width())),
                             rect.top() + int(random() % uint(rect.height())));
     return points;
-}
-
-const std::vector<Turn> allTurns = {Turn::Mirrored, Turn::Flipped,    Turn::Half,       Turn::Right,
-                                    Turn::Left,     Turn::Transposed, Turn::Transversed};
-
-QImage turnedBack(const QImage& image, Turn turn)
-{
-    switch (turn) {
-    case Turn::Mirrored:
-        return image.mirrored(true, false);
-    case Turn::Flipped:
-        return image.mirrored(false, true);
-    case Turn::Half:
-        return image.mirrored(true, true);
-    case Turn::Right:
-        return rotated(image, -90);
-    case Turn::Left:
-        return rotated(image, 90);
-    case Turn::Transposed:
-        return rotated(image, 90).mirrored(true, false);
-    default:
-        return rotated(image, -90).mirrored(true, false);
-    }
-}
-
-QImage turned(const QImage& image, Turn turn)
-{
-    const Turn back = turn == Turn::Right ? Turn::Left : turn == Turn::Left ? Turn::Right : turn;
-    return turnedBack(image, back);
-}
-
-QString turnText(Turn turn)
-{
-    switch (turn) {
-    case Turn::Mirrored:
-        return QStringLiteral("mirrored left to right");
-    case Turn::Flipped:
-        return QStringLiteral("mirrored top to bottom");
-    case Turn::Half:
-        return QStringLiteral("turned by 180 degrees");
-    case Turn::Right:
-        return QStringLiteral("turned by 90 degrees to the right");
-    case Turn::Left:
-        return QStringLiteral("turned by 90 degrees to the left");
-    case Turn::Transposed:
-        return QStringLiteral("mirrored left to right and turned by 90 degrees to the left");
-    default:
-        return QStringLiteral("mirrored left to right and turned by 90 degrees to the right");
-    }
 }
 
 } // namespace ChartComparison

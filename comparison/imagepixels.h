@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QRect>
-#include <QString>
 
 #include <vector>
 
@@ -27,7 +26,8 @@ inline qint64 pixelCount(const QSize& size)
     return qint64(size.width()) * size.height();
 }
 
-QString colorName(QRgb color);
+/// The greatest difference of a channel of two colours.
+int channelDistance(QRgb a, QRgb b);
 
 bool isOneColor(const QImage& image, const QRect& rect);
 inline bool isOneColor(const QImage& image)
@@ -62,32 +62,5 @@ std::vector<int> differingBlocks(const BlockMeans& a, const BlockMeans& b, float
 
 /// Random pixels of `rect`, the same ones every time.
 std::vector<QPoint> samplePoints(const QRect& rect, int count);
-
-/// All the ways to turn and mirror a picture but none at all; the last four exchange width and height.
-enum class Turn
-{
-    Mirrored,
-    Flipped,
-    Half,
-    Right,
-    Left,
-    Transposed,
-    Transversed
-};
-extern const std::vector<Turn> allTurns;
-
-inline bool exchangesSides(Turn turn)
-{
-    return turn >= Turn::Right;
-}
-
-/// `image` turned back: what it was before it was turned.
-QImage turnedBack(const QImage& image, Turn turn);
-
-/// `image` as `turn` makes it.
-QImage turned(const QImage& image, Turn turn);
-
-/// "mirrored left to right".
-QString turnText(Turn turn);
 
 } // namespace ChartComparison

@@ -1,23 +1,17 @@
 #include "imageplacement.h"
 
-#include "blockvotes.h"
 #include "imagepixels.h"
+#include "placevotes.h"
+#include "thresholds.h"
 
 #include <QPainter>
 #include <QRegion>
-#include <QStringList>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace ChartComparison {
 
 namespace {
-
-constexpr int sampleCount = 2000;
-constexpr double leastShare = 0.75;
-constexpr double leastWrapped = 0.6; ///< of the part that the chart has left, where there are faults
-constexpr std::size_t mostPlaces = 4;
 
 QRect overlapOnChart(const QImage& expected, const QImage& actual, const QPoint& at)
 {
@@ -26,7 +20,8 @@ QRect overlapOnChart(const QImage& expected, const QImage& actual, const QPoint&
 
 double sampledShare(const QImage& expected, const QImage& actual, const QPoint& at)
 {
-    const std::vector<QPoint> points = samplePoints(overlapOnChart(expected, actual, at), sampleCount);
+    const std::vector<QPoint> points =
+        samplePoints(overlapOnChart(expected, actual, at), Thresholds::placementSamples);
     const auto equal = std::count_if(points.begin(), points.end(), [&](const QPoint& point) {
         return pixelRow(expected, point.y())[point.x()] ==
                pixelRow(actual, point.y() + at.y())[point.x() + at.x()];
@@ -34,7 +29,7 @@ double sampledShare(const QImage& expected, const QImage& actual, const QPoint& 
     return points.empty() ? 0.0 : double(equal) / double(points.size());
 }
 
-double share(const QImage& expected, const QImage& actual, const QPoint& at)
+double equalShareAt(const QImage& expected, const QImage& actual, const QPoint& at)
 {
     const QRect overlap = overlapOnChart(expected, actual, at);
     const qint64 equal = equalPixels(expected, overlap, actual, overlap.topLeft() + at);
@@ -46,7 +41,7 @@ bool isLarge(const QImage& expected, const QImage& actual, const QRect& overlap)
 {
     const qint64 smaller = std::min(pixelCount(expected.size()), pixelCount(actual.size()));
     const bool inside = overlap.size() == expected.size() || overlap.size() == actual.size();
-    return !overlap.isEmpty() && (inside || pixelCount(overlap.size()) * 4 >= smaller);
+    return !overlap.isEmpty() && (inside || pixelCount(overlap.size()) * Thresholds::overlapParts >= smaller);
 }
 
 /// Whether something has moved that would not look the same where it was.
@@ -73,10 +68,10 @@ bool wraps(const QImage& expected, const QImage& actual, const Placement& placem
     const QRect kept = overlapOnChart(expected, actual, placement.at);
     const qint64 vacated = pixelCount(expected.size()) - pixelCount(kept.size());
     const double wrapped = double(equal) - placement.share * double(pixelCount(kept.size()));
-    return wrapped >= double(vacated) * (placement.share < 1 ? leastWrapped : 1.0);
+    return wrapped >= double(vacated) * (placement.share < 1 ? Thresholds::leastWrapped : 1.0);
 }
 
-std::vector<QPoint> candidates(const QImage& expected, const QImage& actual)
+std::vector<QPoint> candidatePlaces(const QImage& expected, const QImage& actual)
 {
     std::vector<QPoint> places = votedPlaces(expected, actual);
     if (expected.size() == actual.size()) {
@@ -104,58 +99,30 @@ std::vector<QPoint> candidates(const QImage& expected, const QImage& actual)
     return places;
 }
 
-QString sizeText(const QSize& size)
-{
-    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
-}
-
 /// By samples.
 std::vector<Placement> likelyPlacements(const QImage& expected, const QImage& actual)
 {
     std::vector<Placement> found;
-    for (const QPoint& at : candidates(expected, actual)) {
+    for (const QPoint& at : candidatePlaces(expected, actual)) {
         if (!isLarge(expected, actual, overlapOnChart(expected, actual, at)))
             continue;
         const double sampled = sampledShare(expected, actual, at);
-        if (sampled >= leastShare)
+        if (sampled >= Thresholds::leastPlaced)
             found.push_back({at, false, sampled});
     }
     std::stable_sort(found.begin(), found.end(), [](const Placement& a, const Placement& b) {
         return a.share != b.share ? a.share > b.share : a.at.manhattanLength() < b.at.manhattanLength();
     });
-    if (found.size() > mostPlaces)
-        found.resize(mostPlaces);
+    if (found.size() > Thresholds::mostPlaces)
+        found.resize(Thresholds::mostPlaces);
     return found;
 }
 
-/// "10 on the left, 5 at the bottom" of what lies between two rectangles.
-QString sides(const QRect& outer, const QRect& inner)
+/// What lies between two rectangles.
+QMargins marginsBetween(const QRect& outer, const QRect& inner)
 {
-    QStringList parts;
-    const auto add = [&](int pixels, const char* where) {
-        if (pixels > 0)
-            parts << QStringLiteral("%1 %2").arg(pixels).arg(QLatin1String(where));
-    };
-    add(inner.left() - outer.left(), "on the left");
-    add(outer.right() - inner.right(), "on the right");
-    add(inner.top() - outer.top(), "at the top");
-    add(outer.bottom() - inner.bottom(), "at the bottom");
-    return parts.join(QLatin1String(", "));
-}
-
-QString moveText(const QPoint& at)
-{
-    QStringList parts;
-    const auto add = [&](int move, const char* forwards, const char* backwards) {
-        const QString unit = std::abs(move) == 1 ? QStringLiteral("pixel") : QStringLiteral("pixels");
-        if (move != 0)
-            parts << QStringLiteral("%1 %2 %3")
-                         .arg(std::abs(move))
-                         .arg(unit, QLatin1String(move > 0 ? forwards : backwards));
-    };
-    add(at.x(), "to the right", "to the left");
-    add(at.y(), "down", "up");
-    return parts.join(QLatin1String(" and "));
+    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom()};
 }
 
 } // namespace
@@ -165,7 +132,7 @@ std::vector<Placement> findPlacements(const QImage& expected, const QImage& actu
     const bool sameSize = expected.size() == actual.size();
     std::vector<Placement> found = likelyPlacements(expected, actual);
     for (Placement& placement : found)
-        placement.share = share(expected, actual, placement.at);
+        placement.share = equalShareAt(expected, actual, placement.at);
     const auto area = [&](const Placement& p) {
         return pixelCount(overlapOnChart(expected, actual, p.at).size());
     };
@@ -224,7 +191,7 @@ QImage placedThere(const QImage& expected, const QImage& actual, const Placement
     return there;
 }
 
-double explainedShare(const QImage& actual, const Placement& placement)
+double shiftedShare(const QImage& actual, const Placement& placement)
 {
     const QRect kept = actual.rect() & QRect(placement.at, actual.size());
     const QRegion vacated = QRegion(actual.rect()) - kept;
@@ -240,25 +207,22 @@ double explainedShare(const QImage& actual, const Placement& placement)
 std::vector<Finding> placementFindings(const QSize& expected, const QImage& actual,
                                        const Placement& placement, bool elsewhere)
 {
-    const QString ambiguous = elsewhere ? QStringLiteral(" (other places fit as well)") : QString();
-    if (expected == actual.size()) {
-        const QString wrapped =
-            placement.wraps ? QStringLiteral(", what leaves on one side comes back on the other") : QString();
-        return {{Kind::Shifted,
-                 QStringLiteral("shifted %1%2%3").arg(moveText(placement.at), wrapped, ambiguous)}};
-    }
+    if (expected == actual.size())
+        return {{Kind::Shifted, Shift{placement.at, placement.wraps, elsewhere}, {}, {}}};
     const QRect chart(QPoint(), expected);
     const QRect shown(-placement.at, actual.size());
     const QRect both = chart & shown;
     std::vector<Finding> findings;
     if (both != chart)
-        findings.push_back({Kind::Cropped, QStringLiteral("cropped by %1: %2 of %3 pixels are left%4")
-                                               .arg(sides(chart, both), sizeText(both.size()),
-                                                    sizeText(chart.size()), ambiguous)});
+        findings.push_back({Kind::Cropped,
+                            EdgeChange{marginsBetween(chart, both), {both.size(), chart.size()}, elsewhere},
+                            {},
+                            {}});
     if (both != shown)
-        findings.push_back({Kind::Padded, QStringLiteral("padded by %1: %2 instead of %3 pixels%4")
-                                              .arg(sides(shown, both), sizeText(shown.size()),
-                                                   sizeText(both.size()), ambiguous)});
+        findings.push_back({Kind::Padded,
+                            EdgeChange{marginsBetween(shown, both), {shown.size(), both.size()}, elsewhere},
+                            {},
+                            {}});
     return findings;
 }
 

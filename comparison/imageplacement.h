@@ -17,8 +17,8 @@ struct Placement
 };
 
 /// Whether `expected` lies in `actual`, or `actual` in `expected`, or one of them over an edge of the other:
-/// the places at which most of the overlap is the same, the best first. Of pictures of one size neither the
-/// place at which nothing has moved is told, nor one that only what has not moved speaks for.
+/// the places at which most of the overlap is the same, the best first. For pictures of
+/// one size it omits the zero shift, and shifts supported only by unmoved pixels.
 std::vector<Placement> findPlacements(const QImage& expected, const QImage& actual);
 
 /// A picture of where colours change: the same one for every other set of colours. `findPlacements` of two of
@@ -33,7 +33,7 @@ QImage placedThere(const QImage& expected, const QImage& actual, const Placement
 
 /// Of a shift in one size: how much of the picture it explains, 0 to 1. What comes in where the chart has
 /// left has to be one colour, or what has left.
-double explainedShare(const QImage& actual, const Placement& placement);
+double shiftedShare(const QImage& actual, const Placement& placement);
 
 /// What has happened: cropped, padded, or in one size shifted. `elsewhere`: other places fit as well.
 std::vector<Finding> placementFindings(const QSize& expected, const QImage& actual,

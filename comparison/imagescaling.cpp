@@ -1,20 +1,16 @@
 #include "imagescaling.h"
 
 #include "imagepixels.h"
+#include "thresholds.h"
 #include "zoomsearch.h"
 
-#include <QStringList>
-
 #include <algorithm>
-#include <cmath>
 
 namespace ChartComparison {
 
 namespace {
 
-constexpr int blockSide = 8;
-constexpr float blockTolerance = 16;
-constexpr double leastExplained = 0.9; ///< of the picture: with less it is another one
+constexpr int blockSide = Thresholds::scalingBlockSide;
 
 bool isColumnOf(const QImage& image, int x, const QRect& rect, QRgb color)
 {
@@ -62,7 +58,7 @@ std::vector<int> nearestSources(int source, int length, int convention)
     return sources;
 }
 
-bool isNearest(const QImage& expected, const QImage& content, int convention)
+bool isNearestNeighbour(const QImage& expected, const QImage& content, int convention)
 {
     const std::vector<int> columns = nearestSources(expected.width(), content.width(), convention);
     const std::vector<int> rows = nearestSources(expected.height(), content.height(), convention);
@@ -77,10 +73,11 @@ bool isNearest(const QImage& expected, const QImage& content, int convention)
     return true;
 }
 
-bool isNearest(const QImage& expected, const QImage& content)
+bool isNearestNeighbour(const QImage& expected, const QImage& content)
 {
-    return isNearest(expected, content, 0) || isNearest(expected, content, 1) ||
-           isNearest(expected, content, 2) || plainColors(expected.scaled(content.size())) == content;
+    return isNearestNeighbour(expected, content, 0) || isNearestNeighbour(expected, content, 1) ||
+           isNearestNeighbour(expected, content, 2) ||
+           plainColors(expected.scaled(content.size())) == content;
 }
 
 /// The chart's places under the squares of the picture that show something else.
@@ -90,7 +87,8 @@ std::vector<QRectF> failingPlaces(const QImage& wanted, const QImage& content, c
     const double fx = part.width() / content.width();
     const double fy = part.height() / content.height();
     std::vector<QRectF> places;
-    for (const int block : differingBlocks(blockMeans(wanted, blockSide), means, blockTolerance)) {
+    for (const int block :
+         differingBlocks(blockMeans(wanted, blockSide), means, Thresholds::scalingBlockTolerance)) {
         const int column = block % means.blocks.width();
         const int row = block / means.blocks.width();
         places.emplace_back(part.left() + column * blockSide * fx, part.top() + row * blockSide * fy,
@@ -99,7 +97,7 @@ std::vector<QRectF> failingPlaces(const QImage& wanted, const QImage& content, c
     return places;
 }
 
-double explainedShare(const std::vector<QRectF>& failing, const QSize& content)
+double scaledShare(const std::vector<QRectF>& failing, const QSize& content)
 {
     const double blocks = std::max(1.0, double(pixelCount(content)) / (blockSide * blockSide));
     return 1 - double(failing.size()) / blocks;
@@ -109,8 +107,8 @@ std::optional<Scaling> smoothScaling(const QImage& wanted, const QImage& shown, 
                                      const QRect& content)
 {
     Scaling scaling{part, content, true, 1, failingPlaces(wanted, shown, part)};
-    scaling.explained = explainedShare(scaling.failing, content.size());
-    if (scaling.explained < leastExplained)
+    scaling.explained = scaledShare(scaling.failing, content.size());
+    if (scaling.explained < Thresholds::leastScaled)
         return std::nullopt;
     return scaling;
 }
@@ -123,7 +121,7 @@ std::optional<Scaling> scaledInto(const QImage& expected, const QImage& actual, 
     const QRectF whole(QPointF(), expected.size());
     if (isOneColor(shown))
         return std::nullopt;
-    if (isNearest(expected, shown))
+    if (isNearestNeighbour(expected, shown))
         return Scaling{whole, content, false, 1, {}};
     const QImage wanted =
         plainColors(expected.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
@@ -137,17 +135,10 @@ std::optional<Scaling> zoomed(const QImage& expected, const QImage& actual)
         return std::nullopt;
     for (const QRect& whole : {part->toAlignedRect(), part->toRect()}) {
         const QRect pixels = whole & expected.rect();
-        if (isNearest(expected.copy(pixels), actual))
+        if (isNearestNeighbour(expected.copy(pixels), actual))
             return Scaling{pixels, actual.rect(), false, 1, {}};
     }
     return smoothScaling(zoomedPart(expected, *part, actual.size()), actual, *part, actual.rect());
-}
-
-QString percents(double x, double y)
-{
-    const auto text = [](double factor) { return QString::number(factor * 100, 'g', 4); };
-    return text(x) == text(y) ? QStringLiteral("to %1 percent").arg(text(x))
-                              : QStringLiteral("to %1 x %2 percent").arg(text(x), text(y));
 }
 
 } // namespace
@@ -170,30 +161,8 @@ std::optional<Scaling> findScaling(const QImage& expected, const QImage& actual)
 
 Finding scalingFinding(const QSize& expected, const QSize& actual, const Scaling& scaling)
 {
-    const QString factor = percents(scaling.content.width() / scaling.part.width(),
-                                    scaling.content.height() / scaling.part.height());
-    const QString how = scaling.smooth ? QStringLiteral("smooth") : QStringLiteral("nearest pixels");
-    QString text = QStringLiteral("scaled %1 (%2)").arg(factor, how);
-    if (scaling.part != QRectF(QPointF(), expected))
-        text = QStringLiteral("zoomed in %1 (%2): shows %3 x %4 pixels of the chart from (%5, %6)")
-                   .arg(factor, how)
-                   .arg(std::lround(scaling.part.width()))
-                   .arg(std::lround(scaling.part.height()))
-                   .arg(std::lround(scaling.part.left()))
-                   .arg(std::lround(scaling.part.top()));
-    if (scaling.content.size() != actual)
-        text += QStringLiteral(", at (%1, %2) between bars, %3 x %4 pixels")
-                    .arg(scaling.content.left())
-                    .arg(scaling.content.top())
-                    .arg(scaling.content.width())
-                    .arg(scaling.content.height());
-    else if (actual != expected)
-        text += QStringLiteral(": %1 x %2 instead of %3 x %4 pixels")
-                    .arg(actual.width())
-                    .arg(actual.height())
-                    .arg(expected.width())
-                    .arg(expected.height());
-    return {Kind::Scaled, text};
+    return {
+        Kind::Scaled, ScaleChange{scaling.part, scaling.content, scaling.smooth, {actual, expected}}, {}, {}};
 }
 
 } // namespace ChartComparison

@@ -1,17 +1,13 @@
 #include "lossycompression.h"
 
 #include "imagepixels.h"
+#include "thresholds.h"
 
 #include <algorithm>
 
 namespace ChartComparison {
 
 namespace {
-
-constexpr int blockSide = 16; ///< compression halves the colours' resolution, in squares of 8
-constexpr float blockTolerance = 16;
-constexpr double mostMean = 8;
-constexpr int hardlySeen = 24; ///< of 255: faults differ by more
 
 /// Compression spares no cabinet that has anything in it; faults do.
 bool differEverywhere(const QImage& expected, const QImage& actual, const CabinetGrid& grid)
@@ -25,13 +21,19 @@ bool differEverywhere(const QImage& expected, const QImage& actual, const Cabine
         ++marked;
         differing += sameAt(expected, rect, actual, rect.topLeft()) ? 0 : 1;
     }
-    return differing * 10 >= marked * 9;
+    return differing * 10 >= marked * Thresholds::lossyCabinetsInTen;
 }
 
 bool differInMuch(const QImage& expected, const QImage& actual)
 {
     const qint64 all = pixelCount(expected.size());
-    return (all - equalPixels(expected, expected.rect(), actual, {})) * 50 >= all;
+    return (all - equalPixels(expected, expected.rect(), actual, {})) * Thresholds::pixelsForOneLossy >= all;
+}
+
+double differingShare(const QImage& expected, const QImage& actual)
+{
+    return 1 -
+           double(equalPixels(expected, expected.rect(), actual, {})) / double(pixelCount(expected.size()));
 }
 
 } // namespace
@@ -40,19 +42,17 @@ std::optional<Finding> findLossyCompression(const QImage& expected, const QImage
                                             const CabinetGrid& grid)
 {
     const ChannelDifference difference = channelDifference(expected, actual);
-    const bool isWide = differInMuch(expected, actual) || difference.greatest <= hardlySeen;
+    const bool isWide = differInMuch(expected, actual) || difference.greatest <= Thresholds::hardlySeen;
     if (!isWide || !differEverywhere(expected, actual, grid))
         return std::nullopt;
-    if (difference.mean > mostMean ||
-        !differingBlocks(blockMeans(expected, blockSide), blockMeans(actual, blockSide), blockTolerance)
-             .empty())
+    const auto means = [](const QImage& image) { return blockMeans(image, Thresholds::lossyBlockSide); };
+    if (difference.mean > Thresholds::mostLossyMean ||
+        !differingBlocks(means(expected), means(actual), Thresholds::lossyBlockTolerance).empty())
         return std::nullopt;
-    return Finding{
-        Kind::Lossy,
-        QStringLiteral("a little different everywhere, as after lossy compression: by up to %1 and in "
-                       "the mean %2 of 255")
-            .arg(difference.greatest)
-            .arg(difference.mean, 0, 'f', 2)};
+    return Finding{Kind::Lossy,
+                   Deviation{difference.greatest, difference.mean, differingShare(expected, actual)},
+                   {},
+                   {}};
 }
 
 } // namespace ChartComparison

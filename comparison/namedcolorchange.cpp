@@ -1,5 +1,8 @@
 #include "namedcolorchange.h"
 
+#include "imagepixels.h"
+#include "thresholds.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -13,8 +16,6 @@ using Channels = std::array<int, 3>; // red, green, blue
 using Pairs = std::vector<ColorPair>;
 using Curve = std::function<double(int channel, int value)>;
 
-const std::array<const char*, 3> channelNames = {"red", "green", "blue"};
-
 Channels channels(QRgb color)
 {
     return {qRed(color), qGreen(color), qBlue(color)};
@@ -25,20 +26,9 @@ QRgb color(const Channels& channels)
     return qRgb(channels[0], channels[1], channels[2]);
 }
 
-/// Less is rounding.
-constexpr double leastFactor = 0.005;
-constexpr double leastExponent = 0.02;
-
 int rounded(double value)
 {
     return int(std::lround(std::clamp(value, 0.0, 255.0)));
-}
-
-bool isNear(QRgb a, QRgb b, int most)
-{
-    const Channels x = channels(a);
-    const Channels y = channels(b);
-    return std::abs(x[0] - y[0]) <= most && std::abs(x[1] - y[1]) <= most && std::abs(x[2] - y[2]) <= most;
 }
 
 /// A change, and by how many steps it may be off.
@@ -49,52 +39,47 @@ struct Candidate
 };
 
 /// Each channel by a curve of its own.
-Candidate curved(const QString& text, const Curve& curve, int tolerance)
+Candidate curved(const ColorEffect& effect, const Curve& curve, int tolerance)
 {
     const auto map = [curve](QRgb from) {
         const Channels old = channels(from);
         return qRgb(rounded(curve(0, old[0])), rounded(curve(1, old[1])), rounded(curve(2, old[2])));
     };
-    return {{text, map}, tolerance};
+    return {{effect, map}, tolerance};
+}
+
+ColorEffect effect(ColorEffect::Type type)
+{
+    ColorEffect effect;
+    effect.type = type;
+    return effect;
 }
 
 void addExchanges(std::vector<Candidate>& candidates)
 {
-    struct Exchange
-    {
-        const char* text;
-        Channels source;
-    };
-    static const std::array<Exchange, 5> exchanges = {
-        {{"red and blue are swapped", {2, 1, 0}},
-         {"red and green are swapped", {1, 0, 2}},
-         {"green and blue are swapped", {0, 2, 1}},
-         {"red shows as green, green as blue and blue as red", {2, 0, 1}},
-         {"red shows as blue, green as red and blue as green", {1, 2, 0}}}};
-    for (const Exchange& exchange : exchanges) {
-        const auto map = [source = exchange.source](QRgb from) {
+    for (const Channels& sources :
+         {Channels{2, 1, 0}, Channels{1, 0, 2}, Channels{0, 2, 1}, Channels{2, 0, 1}, Channels{1, 2, 0}}) {
+        ColorEffect exchange = effect(ColorEffect::Type::ChannelsExchanged);
+        exchange.sources = sources;
+        const auto map = [sources](QRgb from) {
             const Channels old = channels(from);
             return color(
-                {old[std::size_t(source[0])], old[std::size_t(source[1])], old[std::size_t(source[2])]});
+                {old[std::size_t(sources[0])], old[std::size_t(sources[1])], old[std::size_t(sources[2])]});
         };
-        candidates.push_back({{QLatin1String(exchange.text), map}, 0});
+        candidates.push_back({{exchange, map}, 0});
     }
 }
 
 void addMissing(std::vector<Candidate>& candidates)
 {
     for (const unsigned missing : {1U, 2U, 4U, 3U, 5U, 6U}) {
-        QString names;
-        for (unsigned i = 0; i < 3; ++i) {
-            if ((missing >> i & 1U) != 0)
-                names +=
-                    (names.isEmpty() ? QString() : QStringLiteral(" and ")) + QLatin1String(channelNames[i]);
-        }
-        const QString verb = names.contains(QLatin1Char(' ')) ? QStringLiteral("are") : QStringLiteral("is");
+        ColorEffect lack = effect(ColorEffect::Type::ChannelsMissing);
+        for (unsigned i = 0; i < 3; ++i)
+            lack.factors[i] = (missing >> i & 1U) != 0 ? 0 : 1;
         candidates.push_back(curved(
-            QStringLiteral("%1 %2 missing").arg(names, verb),
-            [missing](int channel, int value) {
-                return (missing >> unsigned(channel) & 1U) != 0 ? 0.0 : value;
+            lack,
+            [factors = lack.factors](int channel, int value) {
+                return value * factors[std::size_t(channel)];
             },
             0));
     }
@@ -111,20 +96,18 @@ void addGreys(std::vector<Candidate>& candidates)
             const int grey = rounded(weights[0] * old[0] + weights[1] * old[1] + weights[2] * old[2]);
             return color({grey, grey, grey});
         };
-        candidates.push_back({{QStringLiteral("converted to grey"), map}, 2});
+        candidates.push_back({{effect(ColorEffect::Type::Grey), map}, 2});
     }
 }
 
 void addRanges(std::vector<Candidate>& candidates)
 {
     candidates.push_back(curved(
-        QStringLiteral("inverted"), [](int, int value) { return 255.0 - value; }, 1));
+        effect(ColorEffect::Type::Inverted), [](int, int value) { return 255.0 - value; }, 1));
     candidates.push_back(curved(
-        QStringLiteral("in the limited range, 0..255 shows as 16..235"),
-        [](int, int value) { return 16 + value * 219.0 / 255; }, 1));
+        effect(ColorEffect::Type::LimitedRange), [](int, int value) { return 16 + value * 219.0 / 255; }, 1));
     candidates.push_back(curved(
-        QStringLiteral("stretched, 16..235 shows as 0..255"),
-        [](int, int value) { return (value - 16) * 255.0 / 219; }, 2));
+        effect(ColorEffect::Type::Stretched), [](int, int value) { return (value - 16) * 255.0 / 219; }, 2));
 }
 
 /// The factor of a channel, or of all for channel -1, by least squares; nothing where it cannot be told.
@@ -146,15 +129,17 @@ std::optional<double> factor(const Pairs& pairs, int channel)
     return squares > 0 ? std::optional<double>(products / squares) : std::nullopt;
 }
 
-QString percent(double factor)
+ColorEffect factorEffect(ColorEffect::Type type, const std::array<double, 3>& factors)
 {
-    return QString::number(factor * 100, 'f', 0);
+    ColorEffect change = effect(type);
+    change.factors = factors;
+    return change;
 }
 
 void addFactors(std::vector<Candidate>& candidates, const Pairs& pairs)
 {
     const auto whole = [](double factor) { return std::round(factor * 100) / 100; }; // what may have been set
-    const auto isOne = [](double factor) { return std::abs(factor - 1) <= leastFactor; };
+    const auto isOne = [](double factor) { return std::abs(factor - 1) <= Thresholds::leastFactorChange; };
     const double all = factor(pairs, -1).value_or(1);
     std::array<double, 3> each{};
     std::array<double, 3> eachWhole{};
@@ -165,16 +150,21 @@ void addFactors(std::vector<Candidate>& candidates, const Pairs& pairs)
     for (const double common : {whole(all), all}) {
         if (!isOne(common))
             candidates.push_back(curved(
-                QStringLiteral("brightness at %1 percent").arg(percent(common)),
+                factorEffect(ColorEffect::Type::Brightness, {common, common, common}),
                 [common](int, int value) { return value * common; }, 1));
     }
     if (std::all_of(each.begin(), each.end(), isOne))
         return;
     for (const auto& factors : {eachWhole, each})
         candidates.push_back(curved(
-            QStringLiteral("red at %1, green at %2 and blue at %3 percent")
-                .arg(percent(factors[0]), percent(factors[1]), percent(factors[2])),
+            factorEffect(ColorEffect::Type::ChannelFactors, factors),
             [factors](int channel, int value) { return value * factors[std::size_t(channel)]; }, 1));
+}
+
+bool isMiddleTone(int from, int to)
+{
+    return from >= Thresholds::leastMiddleTone && from <= Thresholds::mostMiddleTone &&
+           to >= Thresholds::leastShownTone && to <= Thresholds::mostShownTone;
 }
 
 /// From the middle tones, where it shows most.
@@ -186,23 +176,23 @@ void addGamma(std::vector<Candidate>& candidates, const Pairs& pairs)
         const Channels from = channels(pair.from);
         const Channels to = channels(pair.to);
         for (std::size_t i = 0; i < 3; ++i) {
-            if (from[i] < 32 || from[i] > 224 || to[i] < 4 || to[i] > 251)
+            if (!isMiddleTone(from[i], to[i]))
                 continue;
             sum += std::log(to[i] / 255.0) / std::log(from[i] / 255.0) * double(pair.pixels);
             weights += double(pair.pixels);
         }
     }
     const double measured = weights > 0 ? sum / weights : 1.0;
-    if (std::abs(measured - 1) < leastExponent)
+    if (std::abs(measured - 1) < Thresholds::leastGammaChange)
         return;
     const double usual = std::round(measured * 10) / 10; // rounding blurs what was meant
-    for (const double exponent : {usual, measured})
+    for (const double exponent : {usual, measured}) {
+        ColorEffect change = effect(ColorEffect::Type::Gamma);
+        change.gamma = exponent;
         candidates.push_back(curved(
-            QStringLiteral("middle tones %1, as by a gamma of %2")
-                .arg(exponent > 1 ? QStringLiteral("darker") : QStringLiteral("lighter"))
-                .arg(exponent, 0, 'f', 2),
-            [exponent](int, int value) { return 255 * std::pow(value / 255.0, exponent); },
+            change, [exponent](int, int value) { return 255 * std::pow(value / 255.0, exponent); },
             exponent == usual ? 1 : 2));
+    }
 }
 
 bool fits(const Candidate& candidate, const Pairs& pairs, double tolerated)
@@ -211,7 +201,7 @@ bool fits(const Candidate& candidate, const Pairs& pairs, double tolerated)
     qint64 failing = 0;
     for (const ColorPair& pair : pairs) {
         all += pair.pixels;
-        if (!isNear(candidate.change.map(pair.from), pair.to, candidate.tolerance))
+        if (channelDistance(candidate.change.map(pair.from), pair.to) > candidate.tolerance)
             failing += pair.pixels;
         else if (tolerated == 0 && failing > 0)
             return false;

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "finding.h"
+
 #include <QColor>
-#include <QString>
 
 #include <functional>
 #include <optional>
@@ -9,17 +10,10 @@
 
 namespace ChartComparison {
 
-/// A colour of the chart, what is shown instead, and in how many pixels.
-struct ColorPair
-{
-    QRgb from;
-    QRgb to;
-    qint64 pixels;
-};
-
+/// A change of colours that has a name, and how it is calculated.
 struct NamedColorChange
 {
-    QString text;
+    ColorEffect effect;
     std::function<QRgb(QRgb)> map;
 };
 

@@ -1,6 +1,7 @@
 #include "zoomsearch.h"
 
 #include "imagepixels.h"
+#include "thresholds.h"
 
 #include <QPainter>
 
@@ -14,13 +15,6 @@
 namespace ChartComparison {
 
 namespace {
-
-constexpr double leastZoom = 1.02;
-constexpr double mostZoom = 8;
-constexpr double zoomStep = 1.02;
-constexpr int coarseSide = 96;
-constexpr int fineSamples = 6000;
-constexpr double mostCoarseError = 40; ///< of 255: further off nothing is worth refining
 
 /// Brightnesses, row by row.
 struct Plane
@@ -83,12 +77,13 @@ void slide(const Plane& whole, const Plane& part, double scale, Match& best)
 /// The best places at each of a number of zooms.
 std::vector<Match> coarseMatches(const QImage& expected, const QImage& actual)
 {
-    const double scale = std::max(1.0, std::max(expected.width(), expected.height()) / double(coarseSide));
+    const double scale =
+        std::max(1.0, std::max(expected.width(), expected.height()) / double(Thresholds::coarseSide));
     const Plane whole(reduced(expected, (QSizeF(expected.size()) / scale).toSize()));
     const QSizeF largest = QSizeF(actual.size()).scaled(expected.size(), Qt::KeepAspectRatio);
     const QImage shown = reduced(actual, (largest / scale * 2).toSize());
     std::vector<Match> matches;
-    for (double zoom = leastZoom; zoom <= mostZoom; zoom *= zoomStep) {
+    for (double zoom = Thresholds::leastZoom; zoom <= Thresholds::mostZoom; zoom *= Thresholds::zoomStep) {
         const QSize size = (largest / zoom / scale).toSize();
         if (size.width() < 6 || size.height() < 4)
             break;
@@ -108,7 +103,7 @@ public:
     FineError(const QImage& expected, const QImage& actual)
         : m_expected(expected)
         , m_actual(actual)
-        , m_points(samplePoints(actual.rect(), fineSamples))
+        , m_points(samplePoints(actual.rect(), Thresholds::zoomSamples))
     {
     }
 
@@ -136,11 +131,11 @@ private:
     std::vector<QPoint> m_points;
 };
 
-/// Moves and resizes the part, by less and less, as long as that brings it nearer.
+/// Pattern search: moves and resizes the part, by less and less, as long as that brings it nearer.
 Match refined(const FineError& error, Match match, double step)
 {
     match.error = error(match.part);
-    for (; step >= 0.25; step /= 2) {
+    for (; step >= Thresholds::finestStep; step /= 2) {
         bool better = true;
         while (better) {
             better = false;
@@ -169,22 +164,24 @@ Match refined(const FineError& error, Match match, double step)
 
 std::optional<QRectF> findZoomedPart(const QImage& expected, const QImage& actual)
 {
-    const double coarse = std::max(1.0, std::max(expected.width(), expected.height()) / double(coarseSide));
+    const double coarse =
+        std::max(1.0, std::max(expected.width(), expected.height()) / double(Thresholds::coarseSide));
     const FineError error(expected, actual);
     Match best;
     int tried = 0;
     for (const Match& match : coarseMatches(expected, actual)) {
-        if (match.error > mostCoarseError || ++tried > 4)
+        if (match.error > Thresholds::mostCoarseError || ++tried > Thresholds::refinedMatches)
             break;
         const Match fine = refined(error, match, coarse);
         if (fine.error < best.error)
             best = fine;
     }
     const double zoom = expected.width() / best.part.width();
-    if (tried == 0 || (zoom < leastZoom && expected.height() / best.part.height() < leastZoom))
+    if (tried == 0 ||
+        (zoom < Thresholds::leastZoom && expected.height() / best.part.height() < Thresholds::leastZoom))
         return std::nullopt;
     const QRectF rounded(best.part.toRect());
-    return error(rounded) <= best.error * 1.1 ? rounded : best.part;
+    return error(rounded) <= best.error * Thresholds::wholePixelsError ? rounded : best.part;
 }
 
 QImage zoomedPart(const QImage& expected, const QRectF& part, const QSize& size)
