@@ -18,9 +18,11 @@ struct Arguments
     std::vector<std::string> presets;
     Changes changes;
     std::string language = "en";
-    std::string format = "png"; ///< of a batch's pictures
-    int compression = 1;        ///< of PNG, 0 to 9
-    int jobs = 0;               ///< 0 to choose by the machine
+    bool isLanguageGiven = false; ///< not just by default
+    std::string format = "png";   ///< of a batch's pictures
+    bool withoutRecord = false;   ///< PNG files do not carry it
+    int compression = 1;          ///< of PNG, 0 to 9
+    int jobs = 0;                 ///< 0 to choose by the machine
     bool namesOnly = false;
     bool errorsOnly = false;
     bool isStrict = false;       ///< what is unknown is an error

@@ -1,6 +1,7 @@
 #include "batch.h"
 
 #include "arguments.h"
+#include "carriedrecord.h"
 #include "chartrenderer.h"
 #include "imageoutput.h"
 #include "outputfile.h"
@@ -116,6 +117,9 @@ void Batch::finish(PlannedPicture& planned, const QImage& image)
     try {
         PngOptions options;
         options.compression = m_arguments.compression;
+        if (!m_arguments.withoutRecord)
+            options.texts = CarriedRecord::texts(planned.record, QString::fromStdString(m_arguments.language),
+                                                 batchPath(m_arguments, planned.picture.file));
         const QByteArray file = encodeImage(image, QString::fromStdString(m_arguments.format), options);
         write(planned, file);
         const QByteArray sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();

@@ -160,7 +160,7 @@ void CommandLine::addRender()
         ->required();
     addChanges(command);
     addLanguage(command);
-    addCompression(command);
+    addEncoding(command);
 }
 
 void CommandLine::addBatch()
@@ -198,7 +198,7 @@ void CommandLine::addBatch()
         ->capture_default_str();
     addChanges(command);
     addLanguage(command);
-    addCompression(command);
+    addEncoding(command);
 }
 
 void CommandLine::addVerify()
@@ -211,7 +211,9 @@ void CommandLine::addVerify()
                      "pictures are still those of its manifest")
         ->type_name("FILE")
         ->required();
-    command->add_option("record", m_arguments.record, "The record; - for the standard input")
+    command
+        ->add_option("record", m_arguments.record,
+                     "The record; - for the standard input; without it the one that the picture carries")
         ->type_name("RECORD");
     addReport(command);
     command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
@@ -260,10 +262,11 @@ void CommandLine::addLanguage(CLI::App* command)
     command->add_option("-l,--lang", m_arguments.language, "The language of the resolution line")
         ->type_name("LANGUAGE")
         ->check(CLI::IsMember(codes))
+        ->each([this](const std::string&) { m_arguments.isLanguageGiven = true; })
         ->capture_default_str();
 }
 
-void CommandLine::addCompression(CLI::App* command)
+void CommandLine::addEncoding(CLI::App* command)
 {
     command
         ->add_option("-c,--compression", m_arguments.compression,
@@ -271,4 +274,5 @@ void CommandLine::addCompression(CLI::App* command)
         ->type_name("LEVEL")
         ->check(CLI::Range(0, 9))
         ->capture_default_str();
+    command->add_flag("--no-record", m_arguments.withoutRecord, "Leave the record out of PNG files");
 }

@@ -31,7 +31,7 @@ private:
     void addReport(CLI::App* command);
     void takeFormats(const std::vector<std::string>& formats);
     void addLanguage(CLI::App* command);
-    void addCompression(CLI::App* command);
+    void addEncoding(CLI::App* command);
 
     CLI::App m_app;
     Arguments m_arguments;

@@ -33,6 +33,18 @@ bool openInput(QFile& file, const QString& path)
                                       : file.open(QIODevice::ReadOnly);
 }
 
+TestChartToolsData accepted(const ChartRecordFile::Reading& reading, const QString& name)
+{
+    for (const QString& unknown : reading.unknown)
+        std::cerr << "vdchart: warning: " << name.toStdString() << ": " << unknown.toStdString() << '\n';
+    if (reading.problems.isEmpty())
+        return reading.record;
+    QStringList lines;
+    for (const QString& problem : reading.problems)
+        lines.append(QStringLiteral("%1: %2").arg(name, problem));
+    throw Failure{ExitCode::Unreadable, lines.join(QStringLiteral("\nvdchart: "))};
+}
+
 } // namespace
 
 QString inputName(const QString& path)
@@ -67,16 +79,15 @@ ChartRecordFile::Reading readRecord(const QString& path, const Changes& changes)
     return reading;
 }
 
+TestChartToolsData requireRecord(const QByteArray& json, const QString& name, const QString& folder,
+                                 const Changes& changes)
+{
+    ChartRecordFile::Reading reading = ChartRecordFile::fromJson(json, folder);
+    applyChanges(reading.record, changes);
+    return accepted(reading, name);
+}
+
 TestChartToolsData requireRecord(const QString& path, const Changes& changes)
 {
-    const ChartRecordFile::Reading reading = readRecord(path, changes);
-    for (const QString& unknown : reading.unknown)
-        std::cerr << "vdchart: warning: " << inputName(path).toStdString() << ": " << unknown.toStdString()
-                  << '\n';
-    if (reading.problems.isEmpty())
-        return reading.record;
-    QStringList lines;
-    for (const QString& problem : reading.problems)
-        lines.append(QStringLiteral("%1: %2").arg(inputName(path), problem));
-    throw Failure{ExitCode::Unreadable, lines.join(QStringLiteral("\nvdchart: "))};
+    return accepted(readRecord(path, changes), inputName(path));
 }

@@ -18,6 +18,11 @@ QString inputName(const QString& path);
 /// that cannot be read.
 vardeno::testcharttools::ChartRecordFile::Reading readRecord(const QString& path, const Changes& changes);
 
+/// The record of the document `json`, which `name` says in messages; relative paths are from `folder`.
+/// Throws Failure where anything is wrong with it; of what is unknown in it the standard error is told.
+vardeno::testcharttools::TestChartToolsData requireRecord(const QByteArray& json, const QString& name,
+                                                          const QString& folder, const Changes& changes);
+
 /// The record at `path` with `changes` made. Throws Failure where anything is wrong with it;
 /// of what is unknown in it the standard error is told.
 vardeno::testcharttools::TestChartToolsData requireRecord(const QString& path, const Changes& changes);

@@ -1,4 +1,5 @@
 #include "arguments.h"
+#include "carriedrecord.h"
 #include "chartrenderer.h"
 #include "commands.h"
 #include "fileclaims.h"
@@ -22,6 +23,8 @@ ExitCode runRender(const Arguments& arguments)
     const QImage image = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
     PngOptions options;
     options.compression = arguments.compression;
+    if (!arguments.withoutRecord)
+        options.texts = CarriedRecord::texts(record, QString::fromStdString(arguments.language), path);
     options.threads = QThread::idealThreadCount();
     writeOutput(path, [&](const ByteSink& sink) { encodePicture(rowsOf(image), format, options, sink); });
     return ExitCode::Good;

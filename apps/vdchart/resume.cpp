@@ -19,7 +19,7 @@ QByteArray sourceHash(const PlannedPicture& planned, const Arguments& arguments)
     for (const QByteArray& part :
          {QByteArray("vdchart " VDPATTERNDESIGN_VERSION), QByteArray::fromStdString(arguments.language),
           QByteArray::fromStdString(arguments.format), QByteArray::number(arguments.compression),
-          ChartRecordFile::toJson(planned.record),
+          QByteArray::number(int(arguments.withoutRecord)), ChartRecordFile::toJson(planned.record),
           fileHash(QString::fromStdString(planned.record.logoData.picturePath))}) {
         hash.addData(QByteArray::number(part.size()) + ':');
         hash.addData(part);

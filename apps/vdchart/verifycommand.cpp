@@ -1,9 +1,12 @@
 #include "arguments.h"
+#include "carriedrecord.h"
 #include "chartcomparison.h"
 #include "chartrenderer.h"
 #include "commands.h"
 #include "fileclaims.h"
+#include "findingjson.h"
 #include "imageoutput.h"
+#include "languages.h"
 #include "outputfile.h"
 #include "recordinput.h"
 #include "verifyfolder.h"
@@ -11,8 +14,12 @@
 #include <chartcabinets.h>
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <iostream>
@@ -73,14 +80,99 @@ ChartComparison::CabinetGrid cabinetsOf(const TestChartToolsData& record)
 /// The standard streams serve one purpose at a time.
 void requireDistinct(const Arguments& arguments)
 {
-    if (arguments.record.empty())
-        throw Failure{ExitCode::Usage, QStringLiteral("verify: the record of the picture is missing")};
     if (arguments.image == "-" && arguments.record == "-")
         throw Failure{ExitCode::Usage,
                       QStringLiteral("picture and record cannot both come from the standard input")};
     if (arguments.difference == "-")
         throw Failure{ExitCode::Usage, QStringLiteral("--diff: a file is needed, for the standard output "
                                                       "gets what was found")};
+}
+
+/// What a picture is to show.
+struct Wanted
+{
+    TestChartToolsData record;
+    QString language;
+};
+
+QString carriedLanguage(const QImage& picture, const QString& path)
+{
+    const QString language = CarriedRecord::language(picture);
+    if (language.isEmpty() || languageCodes().contains(language))
+        return language;
+    throw Failure{ExitCode::Unreadable,
+                  QStringLiteral("%1: its record is for the language \"%2\", which is not known")
+                      .arg(inputName(path), language)};
+}
+
+Wanted wantedFrom(const QImage& picture, const QString& path, const Arguments& arguments)
+{
+    const QByteArray json = CarriedRecord::json(picture);
+    if (json.isEmpty())
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: it carries no record; name one behind it").arg(inputName(path))};
+    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
+    const QString language = arguments.isLanguageGiven ? QString() : carriedLanguage(picture, path);
+    return {requireRecord(json, inputName(path), folder, arguments.changes),
+            language.isEmpty() ? QString::fromStdString(arguments.language) : language};
+}
+
+/// From its file, or where none is named from the picture itself.
+Wanted wantedChart(const QImage& picture, const QString& path, const Arguments& arguments)
+{
+    if (arguments.record.empty())
+        return wantedFrom(picture, path, arguments);
+    return {requireRecord(QString::fromStdString(arguments.record), arguments.changes),
+            QString::fromStdString(arguments.language)};
+}
+
+/// What was found in the picture at `path`.
+struct Verdict
+{
+    QString path;
+    ChartComparison::Result result;
+    qint64 translucent = 0;
+
+    bool isGood() const { return result.equal && translucent == 0; }
+};
+
+void printText(const Verdict& verdict)
+{
+    const std::string name = inputName(verdict.path).toStdString();
+    if (verdict.translucent > 0)
+        std::cout << name << ": " << verdict.translucent << " pixels are translucent\n";
+    if (verdict.isGood())
+        std::cout << name << ": this is the chart, pixel for pixel\n";
+    for (const QString& sentence : verdict.result.sentences())
+        std::cout << name << ": " << sentence.toStdString() << '\n';
+}
+
+void printJson(const Verdict& verdict)
+{
+    QJsonArray findings;
+    for (const ChartComparison::Finding& finding : verdict.result.findings)
+        findings.append(findingJson(finding));
+    std::cout << QJsonDocument(
+                     QJsonObject{{QStringLiteral("format"), QStringLiteral("testchart-verification")},
+                                 {QStringLiteral("version"), 1},
+                                 {QStringLiteral("picture"), verdict.path},
+                                 {QStringLiteral("good"), verdict.isGood()},
+                                 {QStringLiteral("translucentPixels"), verdict.translucent},
+                                 {QStringLiteral("findings"), findings}})
+                     .toJson()
+                     .toStdString();
+}
+
+/// Where nothing differs, what an earlier run has left would mislead.
+void writeDifference(const QString& path, const QString& format, const QImage& difference)
+{
+    if (path.isEmpty())
+        return;
+    if (!difference.isNull())
+        writeOutput(path, encodeImage(difference, format));
+    else if (QFileInfo(path).isFile() && !QFile::remove(path))
+        throw Failure{ExitCode::NotWritten,
+                      QStringLiteral("%1: the old picture of differences cannot be removed").arg(path)};
 }
 
 } // namespace
@@ -93,29 +185,22 @@ ExitCode runVerify(const Arguments& arguments)
     const QString path = QString::fromStdString(arguments.image);
     const QString difference = QString::fromStdString(arguments.difference);
     const QString format = difference.isEmpty() ? QString() : imageFormat(difference);
-    const QString recordPath = QString::fromStdString(arguments.record);
     FileClaims claims;
     claims.reads(path, QStringLiteral("the picture that is looked at"));
-    claims.reads(recordPath, QStringLiteral("the record of the chart"));
+    if (!arguments.record.empty())
+        claims.reads(QString::fromStdString(arguments.record), QStringLiteral("the record of the chart"));
     claims.protect(difference);
-    const auto record = requireRecord(recordPath, arguments.changes);
-    claims.readsLogo(record.logoData);
-    claims.protect(difference);
-    const QImage expected = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
     const QImage picture = readPicture(path);
-    const auto result = ChartComparison::compare(expected, picture, cabinetsOf(record));
-    const qint64 translucent = translucentPixels(picture);
-    if (translucent > 0)
-        std::cout << inputName(path).toStdString() << ": " << translucent << " pixels are translucent\n";
-    if (result.equal && translucent > 0)
-        return ExitCode::Found;
-    if (result.equal) {
-        std::cout << inputName(path).toStdString() << ": this is the chart, pixel for pixel\n";
-        return ExitCode::Good;
-    }
-    for (const QString& sentence : result.sentences())
-        std::cout << inputName(path).toStdString() << ": " << sentence.toStdString() << '\n';
-    if (!difference.isEmpty())
-        writeOutput(difference, encodeImage(result.difference, format));
-    return ExitCode::Found;
+    const Wanted wanted = wantedChart(picture, path, arguments);
+    claims.readsLogo(wanted.record.logoData);
+    claims.protect(difference);
+    const QImage expected = ChartRenderer(wanted.language).render(wanted.record);
+    const Verdict verdict{path, ChartComparison::compare(expected, picture, cabinetsOf(wanted.record)),
+                          translucentPixels(picture)};
+    if (arguments.report == "json")
+        printJson(verdict);
+    else
+        printText(verdict);
+    writeDifference(difference, format, verdict.result.difference);
+    return verdict.isGood() ? ExitCode::Good : ExitCode::Found;
 }
