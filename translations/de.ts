@@ -623,5 +623,9 @@
         <source>Somebody changed this chart meanwhile; both are kept:</source>
         <translation>Jemand hat dieses Testbild inzwischen geändert; beide bleiben erhalten:</translation>
     </message>
+    <message>
+        <source>This chart goes beyond what can be edited here:</source>
+        <translation>Dieses Testbild geht über das hinaus, was sich hier bearbeiten lässt:</translation>
+    </message>
 </context>
 </TS>

@@ -623,5 +623,9 @@
         <source>Somebody changed this chart meanwhile; both are kept:</source>
         <translation>Somebody changed this chart meanwhile; both are kept:</translation>
     </message>
+    <message>
+        <source>This chart goes beyond what can be edited here:</source>
+        <translation>This chart goes beyond what can be edited here:</translation>
+    </message>
 </context>
 </TS>

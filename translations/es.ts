@@ -623,5 +623,9 @@
         <source>Somebody changed this chart meanwhile; both are kept:</source>
         <translation>Alguien ha modificado entretanto esta carta; se conservan ambas:</translation>
     </message>
+    <message>
+        <source>This chart goes beyond what can be edited here:</source>
+        <translation>Esta carta supera lo que se puede editar aquí:</translation>
+    </message>
 </context>
 </TS>

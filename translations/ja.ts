@@ -623,5 +623,9 @@
         <source>Somebody changed this chart meanwhile; both are kept:</source>
         <translation>このテストパターンは別の場所で変更されたため、両方を残しました:</translation>
     </message>
+    <message>
+        <source>This chart goes beyond what can be edited here:</source>
+        <translation>このテストパターンはここで編集できる範囲を超えています:</translation>
+    </message>
 </context>
 </TS>

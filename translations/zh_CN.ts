@@ -623,5 +623,9 @@
         <source>Somebody changed this chart meanwhile; both are kept:</source>
         <translation>此测试图同时被他人更改，两个版本均已保留：</translation>
     </message>
+    <message>
+        <source>This chart goes beyond what can be edited here:</source>
+        <translation>此测试图超出了此处可编辑的范围：</translation>
+    </message>
 </context>
 </TS>

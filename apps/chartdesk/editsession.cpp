@@ -1,6 +1,7 @@
 #include "editsession.h"
 
 #include "chartfolderlist.h"
+#include "editorlimits.h"
 #include "hosttext.h"
 #include "newchart.h"
 
@@ -149,6 +150,12 @@ QStringList EditSession::edit(const QString& folder, const QString& imagePath)
         picture = copy.toStdString();
     }
     open(draft, std::move(draftFolder));
+    const QStringList beyond = beyondEditor(draft.record, m_editor->getTestChartToolsData());
+    if (!beyond.isEmpty()) {
+        giveUp();
+        Q_EMIT notEditable(imagePath, beyond);
+        return {};
+    }
     m_unchanged = current();
     if (!path.isEmpty() && !QFileInfo(path).isFile())
         Q_EMIT pictureMissing(QFileInfo(path).fileName());
@@ -206,11 +213,16 @@ Draft EditSession::collect() const
     return draft;
 }
 
-void EditSession::end()
+void EditSession::giveUp()
 {
     m_isOpen = false;
     m_keeper.end();
     m_store = ChartStore(QString());
+}
+
+void EditSession::end()
+{
+    giveUp();
     Q_EMIT ended(m_lastSaved);
 }
 

@@ -23,6 +23,7 @@ public:
     /// Opens a new chart, to be saved in `folder`.
     void add(const QString& folder);
     /// Opens the chart `imagePath` of `folder`; what is wrong with its record, and nothing is opened then.
+    /// Nor is one that `notEditable` tells of.
     QStringList edit(const QString& folder, const QString& imagePath);
     /// Goes on with an edit that was not ended.
     void resume(std::unique_ptr<DraftFolder> folder, const Draft& draft);
@@ -54,6 +55,8 @@ Q_SIGNALS:
     void failed(const QString& imagePath, const QString& reason);
     /// The chart's picture `name` is not where its record says.
     void pictureMissing(const QString& name);
+    /// The editor would change these `fields` of the chart's record.
+    void notEditable(const QString& imagePath, const QStringList& fields);
     /// The replaced chart was changed by somebody else while it was edited here: both are kept.
     void replacedChartKept(const QString& imagePath);
 
@@ -66,6 +69,7 @@ private:
         bool ends;
     };
 
+    void giveUp();
     void connectEditor();
     void connectChanges();
     void open(const Draft& draft, std::unique_ptr<DraftFolder> folder);

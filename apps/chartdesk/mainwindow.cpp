@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "chartlist.h"
+#include "chartviewer.h"
 #include "desklanguage.h"
 #include "editorlook.h"
 #include "editsession.h"
@@ -91,6 +92,11 @@ void MainWindow::connectSession()
     connect(m_session, &EditSession::ended, this, &MainWindow::editEnded);
     connect(m_session, &EditSession::cancelled, this, &MainWindow::askBeforeEnd);
     connect(m_session, &EditSession::failed, this, &MainWindow::saveFailed);
+    connect(
+        m_session, &EditSession::notEditable, this, [this](const QString& image, const QStringList& fields) {
+            const QString why = hostText(QStringLiteral("This chart goes beyond what can be edited here:"));
+            (new ChartViewer(image, why + QLatin1Char('\n') + fields.join(QLatin1Char('\n')), this))->open();
+        });
     connect(m_session, &EditSession::pictureMissing, this, [this](const QString& name) {
         tell(hostText(QStringLiteral("The logo of this chart is missing:")), name);
     });
@@ -238,9 +244,9 @@ void MainWindow::editSelectedChart()
     if (m_list->selectedChart().isEmpty())
         return;
     const QStringList problems = m_session->edit(m_folder, m_list->selectedChart());
-    if (problems.isEmpty())
+    if (m_session->isOpen())
         openEditor();
-    else
+    else if (!problems.isEmpty())
         tell(hostText(QStringLiteral("The record of this chart cannot be read:")),
              problems.join(QLatin1Char('\n')));
 }

@@ -1,9 +1,6 @@
 #include "messagebox.h"
 
-#include "themepalette.h"
-
 #include <QPainter>
-#include <QPainterPath>
 
 namespace {
 

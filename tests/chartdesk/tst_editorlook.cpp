@@ -3,10 +3,15 @@
 
 #include <basicsettingbox.h>
 #include <customdialog.h>
+#include <inlinesettingbox.h>
+#include <spineditbox.h>
 #include <vtestcharttools.h>
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 using namespace vardeno::testcharttools;
 
@@ -56,6 +61,45 @@ private Q_SLOTS:
         QCOMPARE(backgroundOf(editing.at(2)), blue);
         QVERIFY(backgroundOf(editing.at(1)) != blue);
         QCOMPARE(backgroundOf(editing.at(1)), backgroundOf(editing.at(0)));
+    }
+
+    void theWheelScrollsUnlessTheFieldHasTheFocus_data()
+    {
+        QTest::addColumn<bool>("hasFocus");
+        QTest::newRow("no focus") << false;
+        QTest::newRow("focus") << true;
+    }
+
+    void theWheelScrollsUnlessTheFieldHasTheFocus()
+    {
+        QFETCH(bool, hasFocus);
+        VTestChartTools editor;
+        new EditorLook(&editor);
+        editor.show();
+        QTest::qWait(300); // painted and unlocked
+        auto* panel = editor.findChild<InLineSettingBox*>();
+        SpinEditBox* field = nullptr;
+        for (SpinEditBox* candidate : panel->findChildren<SpinEditBox*>()) {
+            if (candidate->value() == 540)
+                field = candidate;
+        }
+        QVERIFY(field);
+        auto* bar = editor.findChild<QScrollArea*>("ScrollArea")->verticalScrollBar();
+        QVERIFY(bar->maximum() > 0);
+        if (hasFocus) {
+            QApplication::setActiveWindow(&editor);
+            field->setFocus();
+            QTRY_VERIFY(field->hasFocus());
+        } else {
+            editor.setFocus();
+        }
+        const QPoint place = field->rect().center();
+        QWheelEvent turn(place, field->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(field, &turn);
+        QCOMPARE(field->value() != 540, hasFocus);
+        QCOMPARE(bar->value() > 0, !hasFocus);
+        QCOMPARE(field->hasFocus(), hasFocus);
     }
 
     void theQuestionStaysInTheWindowAndOffItsButton()
