@@ -1,11 +1,11 @@
 #include "basicsettingbox.h"
 
 #include "controls/colorlist.h"
-#include "controls/swatch.h"
 #include "customdialog.h"
 #include "geometry/moverange.h"
 #include "imagewidget.h"
 #include "paintbasicwidget.h"
+#include "panels/recordbinding.h"
 #include "panels/settingrows.h"
 #include "testcharttoolsdata.h"
 
@@ -116,7 +116,12 @@ public:
     QWidget* buildColorBarPage(PanelControls& controls);
     void connectControls();
 
-    QPushButton* chessButton(const QString& which) const;
+    void bindControls();
+    void initColor(ColorRole& role, QPushButton* button, const RgbaColor& color,
+                   void (PaintBasicWidget::*apply)(const QColor&));
+    ColorRole* chessColor(const QString& which);
+    void setColor(ColorRole& role, const QColor& color);
+    void pushLists(const BasicChartData& data);
     void showColorBar(Mode mode);
     void setMode(Mode mode);
     void showBarPreview(bool asGradient);
@@ -135,8 +140,8 @@ public:
     QListWidget* stripeList = nullptr;
     QRadioButton* chessRadio = nullptr;
     QRadioButton* barRadio = nullptr;
-    QPushButton* oddButton = nullptr;
-    QPushButton* evenButton = nullptr;
+    ColorRole odd;
+    ColorRole even;
     QPushButton* gradientLeft = nullptr;
     QPushButton* gradientRight = nullptr;
     QPushButton* gradientAdd = nullptr;
@@ -154,8 +159,7 @@ public:
     QPushButton* gradientSwitch = nullptr;
     bool quietWhenEmpty = false;
     QString dialogStyleSheet = QStringLiteral(" ");
-    QColor oddBeforePicking = QColor(255, 170, 255, 255);
-    QColor evenBeforePicking;
+    RecordBinding<BasicChartData> binding;
     std::vector<std::unique_ptr<QListWidgetItem>> leftovers; ///< the last items taken out of a list
 
 public Q_SLOTS:
@@ -249,6 +253,8 @@ QWidget* BasicSettingBox::Impl::buildChessPage(PanelControls& controls)
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(10, 0, 0, 0);
     column->addStretch(); // the page is as high as that of the color bar, which has two rows
+    QPushButton* oddButton = nullptr;
+    QPushButton* evenButton = nullptr;
     SettingRows(page, controls, column, pageCaption)
         .row(QString())
         .shortCaption(QStringLiteral("Odd"), chessCaption)
@@ -258,6 +264,9 @@ QWidget* BasicSettingBox::Impl::buildChessPage(PanelControls& controls)
         .shortCaption(QStringLiteral("Even"), chessCaption)
         .swatch(evenButton, QStringLiteral("evenColorPushButton"), QStringLiteral("even"))
         .named(QStringLiteral("Color of the even cabinets"));
+    initColor(odd, oddButton, BasicChartData().oddColor, &PaintBasicWidget::setOddColor);
+    initColor(even, evenButton, BasicChartData().evenColor, &PaintBasicWidget::setEvenColor);
+    odd.setBeforePicking(QColor(255, 170, 255, 255));
     column->addStretch();
     return page;
 }
@@ -329,8 +338,8 @@ void BasicSettingBox::Impl::connectControls()
     connect(chessRadio, &QRadioButton::toggled, this, &Impl::slotShowchessModel);
     connect(barRadio, &QRadioButton::toggled, this, &Impl::slotShowColorStripeModel);
     connect(gradientSwitch, &QPushButton::toggled, this, &Impl::slotShowGradientModel);
-    connect(oddButton, &QPushButton::clicked, this, &Impl::slotSelectOddColor);
-    connect(evenButton, &QPushButton::clicked, this, &Impl::slotSelectEvenColor);
+    connect(odd.button(), &QPushButton::clicked, this, &Impl::slotSelectOddColor);
+    connect(even.button(), &QPushButton::clicked, this, &Impl::slotSelectEvenColor);
     connect(addButton, &QPushButton::clicked, this, &Impl::slotColorStripeAddColor);
     connect(removeButton, &QPushButton::clicked, this, &Impl::showConfigDialog);
     connect(gradientLeft, &QPushButton::clicked, this, &Impl::slotScrollGradientLeft);
@@ -345,11 +354,63 @@ void BasicSettingBox::Impl::connectControls()
     connect(stripeList, &QListWidget::itemDoubleClicked, this, &Impl::changeColor);
 }
 
-QPushButton* BasicSettingBox::Impl::chessButton(const QString& which) const
+/// The lists are collected first and pushed last.
+void BasicSettingBox::Impl::bindControls()
+{
+    using Data = BasicChartData;
+    const auto bindColor = [this](RgbaColor Data::*member, ColorRole& role) {
+        binding.bind(member, role, [this, &role](const QColor& color) {
+            if (color != role.color())
+                setColor(role, color);
+        });
+    };
+    binding.bind(&Data::chessChecked, chessRadio);
+    binding.bind(&Data::colorBarChecked, barRadio);
+    binding.bind(&Data::gradientChecked, gradientSwitch);
+    binding.bind({}, [this](const Data& data) { showBarPreview(data.gradientChecked); });
+    bindColor(&Data::oddColor, odd);
+    bindColor(&Data::evenColor, even);
+    binding.bind(
+        [this](Data& data) {
+            data.colorStripeColors = listColors(stripeList);
+            data.gradientColors = listColors(gradientList);
+        },
+        [this](const Data& data) { pushLists(data); });
+}
+
+void BasicSettingBox::Impl::pushLists(const BasicChartData& data)
+{
+    const bool barDiffers = listColors(stripeList) != data.colorStripeColors;
+    setListColors(stripeList, data.colorStripeColors);
+    setListColors(gradientList, data.gradientColors);
+    if (painter) {
+        painter->setGradientList(gradientList);
+        painter->setColorStripeList(stripeList);
+    }
+    if (barDiffers)
+        Q_EMIT owner->basicSignal();
+}
+
+void BasicSettingBox::Impl::initColor(ColorRole& role, QPushButton* button, const RgbaColor& color,
+                                      void (PaintBasicWidget::*apply)(const QColor&))
+{
+    role.init(button, toQColor(color), [this, apply](const QColor& told) {
+        if (painter)
+            (painter->*apply)(told);
+    });
+}
+
+ColorRole* BasicSettingBox::Impl::chessColor(const QString& which)
 {
     if (which == QLatin1String("odd"))
-        return oddButton;
-    return which == QLatin1String("even") ? evenButton : nullptr;
+        return &odd;
+    return which == QLatin1String("even") ? &even : nullptr;
+}
+
+void BasicSettingBox::Impl::setColor(ColorRole& role, const QColor& color)
+{
+    role.set(color);
+    Q_EMIT owner->basicSignal();
 }
 
 void BasicSettingBox::Impl::showColorBar(Mode mode)
@@ -501,14 +562,14 @@ void BasicSettingBox::Impl::slotColorStripeRemoveColor()
 
 void BasicSettingBox::Impl::slotSelectOddColor()
 {
-    oddBeforePicking = swatchColor(oddButton);
-    Q_EMIT owner->oddSignal(oddButton);
+    odd.beginPicking();
+    Q_EMIT owner->oddSignal(odd.button());
 }
 
 void BasicSettingBox::Impl::slotSelectEvenColor()
 {
-    evenBeforePicking = swatchColor(evenButton);
-    Q_EMIT owner->evenSignal(evenButton);
+    even.beginPicking();
+    Q_EMIT owner->evenSignal(even.button());
 }
 
 void BasicSettingBox::Impl::slotGradientItemChanged()
@@ -562,8 +623,7 @@ BasicSettingBox::BasicSettingBox(QWidget* parent)
     connect(this, &BasicSettingBox::addSignal, this, &SettingPanel::colorRequested);
     connect(this, &BasicSettingBox::changeSignal, this, &SettingPanel::colorRequested);
     d->build(controls());
-    paintSwatch(d->oddButton, toQColor(BasicChartData().oddColor));
-    paintSwatch(d->evenButton, toQColor(BasicChartData().evenColor));
+    d->bindControls();
     d->connectControls();
     controls().captions.add(QStringLiteral("Widget"), [this](const QString& text) { setWindowTitle(text); });
     retranslate();
@@ -594,22 +654,15 @@ void BasicSettingBox::setPaintWidget(PaintBasicWidget* painter)
 
 void BasicSettingBox::setColor(const QColor& color, const QString& which)
 {
-    QPushButton* const button = d->chessButton(which);
-    if (!button)
-        return;
-    paintSwatch(button, color);
-    if (d->painter && button == d->oddButton)
-        d->painter->setOddColor(color);
-    else if (d->painter)
-        d->painter->setEvenColor(color);
-    Q_EMIT basicSignal();
+    if (ColorRole* role = d->chessColor(which))
+        d->setColor(*role, color);
 }
 
 void BasicSettingBox::restoreColor(const QString& which)
 {
-    const QColor before = which == QLatin1String("odd") ? d->oddBeforePicking : d->evenBeforePicking;
-    if (before.isValid())
-        setColor(before, which);
+    ColorRole* role = d->chessColor(which);
+    if (role && role->beforePicking().isValid())
+        d->setColor(*role, role->beforePicking());
 }
 
 void BasicSettingBox::addColor(const QColor& color, const QString& which)
@@ -627,35 +680,12 @@ void BasicSettingBox::colorStripeAddDefaultColors(bool isFirst)
 
 void BasicSettingBox::getData(BasicChartData& data) const
 {
-    data.colorStripeColors = listColors(d->stripeList);
-    data.gradientColors = listColors(d->gradientList);
-    data.oddColor = toRgbaColor(swatchColor(d->oddButton));
-    data.evenColor = toRgbaColor(swatchColor(d->evenButton));
-    data.chessChecked = d->chessRadio->isChecked();
-    data.colorBarChecked = d->barRadio->isChecked();
-    data.gradientChecked = d->gradientSwitch->isChecked();
+    d->binding.collect(data);
 }
 
 void BasicSettingBox::setData(const BasicChartData& data)
 {
-    d->chessRadio->setChecked(data.chessChecked);
-    d->barRadio->setChecked(data.colorBarChecked);
-    d->gradientSwitch->setChecked(data.gradientChecked);
-    d->showBarPreview(data.gradientChecked);
-    if (toQColor(data.oddColor) != swatchColor(d->oddButton))
-        setColor(toQColor(data.oddColor), QStringLiteral("odd"));
-    if (toQColor(data.evenColor) != swatchColor(d->evenButton))
-        setColor(toQColor(data.evenColor), QStringLiteral("even"));
-
-    const bool barDiffers = listColors(d->stripeList) != data.colorStripeColors;
-    setListColors(d->stripeList, data.colorStripeColors);
-    setListColors(d->gradientList, data.gradientColors);
-    if (d->painter) {
-        d->painter->setGradientList(d->gradientList);
-        d->painter->setColorStripeList(d->stripeList);
-    }
-    if (barDiffers)
-        Q_EMIT basicSignal();
+    d->binding.push(data);
 }
 
 void BasicSettingBox::collectInto(TestChartToolsData& record) const

@@ -1,9 +1,8 @@
 #include "inlinesettingbox.h"
 
-#include "controls/swatch.h"
-#include "controls/wholevalue.h"
 #include "paintinlinewidget.h"
-#include "panels/settingrows.h"
+#include "panels/fieldrange.h"
+#include "panels/recordbinding.h"
 #include "testcharttoolsdata.h"
 
 #include <combobox.h>
@@ -13,8 +12,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace vardeno::testcharttools {
 
@@ -27,15 +24,6 @@ constexpr QSize radioSize(95, 24);
 constexpr QSize comboSize(200, 24);
 constexpr int captionMargin = 2;
 constexpr int smallestRadius = 16;
-
-/// A colour button, and what it showed before a colour dialog opened for it.
-struct ColorRole
-{
-    QPushButton* button = nullptr;
-    SwitchedSwatch swatch;
-    QColor beforePicking;
-    void (PaintInLineWidget::*apply)(const QColor& color) = nullptr;
-};
 
 } // namespace
 
@@ -56,8 +44,10 @@ public:
     void connectControls();
 
     ColorRole* role(const QString& which);
-    void showColor(ColorRole& role, const QColor& color);
-    void showDiffering(ColorRole& role, const RgbaColor& color);
+    void bindControls();
+    void initColor(ColorRole& role, QPushButton* button, const QColor& color,
+                   void (PaintInLineWidget::*apply)(const QColor&));
+    void setColor(ColorRole& role, const QColor& color);
     void switchGroup(ColorRole& role, bool on);
     void checkLettersAtFirst(bool on);
     template <typename Argument, typename Value>
@@ -81,6 +71,7 @@ public:
     ComboBox* sort = nullptr;
     QPointer<PaintInLineWidget> painter;
     InLineSettingBox* owner;
+    RecordBinding<InLineChartData> binding;
     int rowCount = 9;
     int columnCount = 16;
     bool firstTime = true; ///< until the labels have been switched on
@@ -107,9 +98,9 @@ public Q_SLOTS:
     void slotCircleLineWidthEditFinished(QString) {}
     void slotDialogLineWidthEditFinished(QString) {}
     void slotSequeSizeEditFinished(QString) {}
-    void slotCircleColor(bool bChecked) { circle.swatch.keep(bChecked); }
-    void slotDialongColor(bool bChecked) { diagonal.swatch.keep(bChecked); }
-    void slotSequeShowColor(bool bChecked) { serial.swatch.keep(bChecked); }
+    void slotCircleColor(bool bChecked) { circle.keep(bChecked); }
+    void slotDialongColor(bool bChecked) { diagonal.keep(bChecked); }
+    void slotSequeShowColor(bool bChecked) { serial.keep(bChecked); }
     void slotRadiusResetEditFinished();
 };
 
@@ -125,63 +116,99 @@ void InLineSettingBox::Impl::build(PanelControls& controls)
     column->addStretch();
     column->addWidget(createRule(owner, "inlineLine", 360, QFrame::HLine | QFrame::Plain), 0,
                       Qt::AlignHCenter);
+}
 
-    circle.apply = &PaintInLineWidget::setCircleColor;
-    diagonal.apply = &PaintInLineWidget::setDiagonalColor;
-    serial.apply = &PaintInLineWidget::setSerialColor;
-    for (ColorRole* each : {&circle, &diagonal, &serial})
-        each->swatch = SwitchedSwatch(each->button);
-    circle.swatch.paint(QColor(0x00, 0xff, 0x00));
-    diagonal.swatch.paint(QColor(0x00, 0xff, 0x00));
-    serial.swatch.paint(Qt::black);
-    for (ColorRole* each : {&circle, &diagonal, &serial})
-        each->beforePicking = each->swatch.color();
+/// Each only where it differs: the painter follows through the controls' own signals.
+void InLineSettingBox::Impl::bindControls()
+{
+    using Data = InLineChartData;
+    const auto bindColor = [this](RgbaColor Data::*member, ColorRole& role) {
+        binding.bind(member, role, [this, &role](const QColor& color) {
+            if (color != role.color())
+                setColor(role, color);
+        });
+    };
+    binding.bind(&Data::showCircle, circleSwitch);
+    binding.bind(&Data::circleSize, circleRadius);
+    binding.bind(&Data::circleWidth, circleWidth);
+    bindColor(&Data::circleColor, circle);
+    binding.bind(&Data::showDiagonal, diagonalSwitch);
+    binding.bind(&Data::diagonalWidth, diagonalWidth);
+    bindColor(&Data::diagonalColor, diagonal);
+    binding.bind(&Data::showSerialNumber, serialSwitch);
+    binding.bind(&Data::serialSize, serialSize);
+    bindColor(&Data::serialColor, serial);
+    binding.bind(&Data::letterMode, letterMode);
+    binding.bind(&Data::numMode, numMode);
+    binding.bind(&Data::combinationMode, combinationMode);
+    binding.bind(&Data::serialPosition, position);
+    binding.bind(&Data::serialSort, sort);
+}
+
+void InLineSettingBox::Impl::initColor(ColorRole& role, QPushButton* button, const QColor& color,
+                                       void (PaintInLineWidget::*apply)(const QColor&))
+{
+    role.init(button, color, [this, apply](const QColor& told) {
+        if (painter)
+            (painter->*apply)(told);
+    });
+    role.setBeforePicking(color);
 }
 
 void InLineSettingBox::Impl::buildCircleRows(SettingRows& rows)
 {
     const auto whenOn = [this] { return circleSwitch->isChecked(); };
+    QPushButton* colorButton = nullptr;
     rows.row(QStringLiteral("Show Circle"))
         .toggle(circleSwitch, true)
         .named(QStringLiteral("Show the circles"));
     rows.row(QStringLiteral("Circle"))
-        .spin(circleRadius, entrySize, range(1, 16384).value(540).suffix(QStringLiteral("px")), whenOn)
+        .spin(circleRadius, entrySize,
+              rangeOf(&InLineChartData::circleSize).value(540).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Radius of the circles"));
     // This button carries no "btnProperty": its role follows from its name.
     rows.row(QStringLiteral("BorderWidth"))
-        .spin(circleWidth, entrySize, range(1, 100).value(2).suffix(QStringLiteral("px")), whenOn)
+        .spin(circleWidth, entrySize,
+              rangeOf(&InLineChartData::circleWidth).value(2).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Line width of the circles"))
         .caption(QStringLiteral("Color"), captionSize, captionMargin)
-        .swatch(circle.button, QStringLiteral("circleColorButton"), QString(), whenOn)
+        .swatch(colorButton, QStringLiteral("circleColorButton"), QString(), whenOn)
         .named(QStringLiteral("Color of the circles"));
+    initColor(circle, colorButton, QColor(0x00, 0xff, 0x00), &PaintInLineWidget::setCircleColor);
 }
 
 void InLineSettingBox::Impl::buildDiagonalRows(SettingRows& rows)
 {
     const auto whenOn = [this] { return diagonalSwitch->isChecked(); };
+    QPushButton* colorButton = nullptr;
     rows.row(QStringLiteral("Show Diagonal"))
         .toggle(diagonalSwitch, true)
         .named(QStringLiteral("Show the diagonals"));
     rows.row(QStringLiteral("BorderWidth"))
-        .spin(diagonalWidth, entrySize, range(1, 100).value(10).suffix(QStringLiteral("px")), whenOn)
+        .spin(diagonalWidth, entrySize,
+              rangeOf(&InLineChartData::diagonalWidth).value(10).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Line width of the diagonals"))
         .caption(QStringLiteral("Color"), captionSize, captionMargin)
-        .swatch(diagonal.button, QStringLiteral("diagonalColorButton"), QStringLiteral("diagonal"), whenOn)
+        .swatch(colorButton, QStringLiteral("diagonalColorButton"), QStringLiteral("diagonal"), whenOn)
         .named(QStringLiteral("Color of the diagonals"));
+    initColor(diagonal, colorButton, QColor(0x00, 0xff, 0x00), &PaintInLineWidget::setDiagonalColor);
 }
 
 void InLineSettingBox::Impl::buildSerialRows(SettingRows& rows)
 {
     const auto whenOn = [this] { return serialSwitch->isChecked(); };
+    QPushButton* colorButton = nullptr;
     rows.row(QStringLiteral("Show Serial Number"))
         .toggle(serialSwitch, true)
         .named(QStringLiteral("Show the labels"));
     rows.row(QStringLiteral("Serial Size"))
-        .spin(serialSize, entrySize, range(1, 100).value(15).suffix(QStringLiteral("px")), whenOn)
+        .spin(serialSize, entrySize,
+              rangeOf(&InLineChartData::serialSize).value(15).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Size of the labels"))
         .caption(QStringLiteral("Color"), captionSize, captionMargin)
-        .swatch(serial.button, QStringLiteral("sequeColorBtn"), QStringLiteral("seque"), whenOn)
+        .swatch(colorButton, QStringLiteral("sequeColorBtn"), QStringLiteral("seque"), whenOn)
         .named(QStringLiteral("Color of the labels"));
+    initColor(serial, colorButton, Qt::black, &PaintInLineWidget::setSerialColor);
     rows.row(QStringLiteral("Show Model"))
         .radio(letterMode, QStringLiteral("Letter Mode"), radioSize)
         .radio(numMode, QStringLiteral("Num Mode"), radioSize)
@@ -216,9 +243,9 @@ void InLineSettingBox::Impl::connectControls()
     connect(circleWidth, &SpinEditBox::valueChanged, this, &Impl::slotUpdateCircleLineWidth);
     connect(diagonalWidth, &SpinEditBox::valueChanged, this, &Impl::slotUpdateDiagonalLineWidth);
     connect(serialSize, &SpinEditBox::valueChanged, this, &Impl::slotSequeSize);
-    connect(circle.button, &QPushButton::clicked, this, &Impl::slotUpdateCircleColor);
-    connect(diagonal.button, &QPushButton::clicked, this, &Impl::slotUpdateDiagonalColor);
-    connect(serial.button, &QPushButton::clicked, this, &Impl::slotSequeColor);
+    connect(circle.button(), &QPushButton::clicked, this, &Impl::slotUpdateCircleColor);
+    connect(diagonal.button(), &QPushButton::clicked, this, &Impl::slotUpdateDiagonalColor);
+    connect(serial.button(), &QPushButton::clicked, this, &Impl::slotSequeColor);
     connect(letterMode, &QRadioButton::toggled, this, &Impl::soltShowLetterModel);
     connect(numMode, &QRadioButton::toggled, this, &Impl::soltShowNumberModel);
     connect(combinationMode, &QRadioButton::toggled, this, &Impl::soltShowCombinationModel);
@@ -235,26 +262,19 @@ ColorRole* InLineSettingBox::Impl::role(const QString& which)
     return which == QLatin1String("seque") ? &serial : nullptr;
 }
 
-void InLineSettingBox::Impl::showColor(ColorRole& role, const QColor& color)
+void InLineSettingBox::Impl::setColor(ColorRole& role, const QColor& color)
 {
-    role.swatch.paint(color);
-    tell(role.apply, color);
-}
-
-void InLineSettingBox::Impl::showDiffering(ColorRole& role, const RgbaColor& color)
-{
-    if (toQColor(color) != role.swatch.color())
-        showColor(role, toQColor(color));
+    role.set(color);
+    Q_EMIT owner->inlineSignal();
 }
 
 /// What a group's switch does besides its layer's visibility.
 void InLineSettingBox::Impl::switchGroup(ColorRole& role, bool on)
 {
     owner->controls().update();
-    role.swatch.show(on);
-    const bool hasRole = role.button->property("btnProperty").isValid();
-    if (on && hasRole && painter)
-        (painter->*role.apply)(role.swatch.color());
+    role.show(on);
+    if (on && role.button()->property("btnProperty").isValid())
+        role.tell();
     Q_EMIT owner->inlineSignal();
 }
 
@@ -278,8 +298,8 @@ void InLineSettingBox::Impl::tell(void (PaintInLineWidget::*setter)(Argument), V
 
 void InLineSettingBox::Impl::askForColor(ColorRole& role, void (InLineSettingBox::*signal)(QPushButton*))
 {
-    role.beforePicking = swatchColor(role.button);
-    Q_EMIT(owner->*signal)(role.button);
+    role.beginPicking();
+    Q_EMIT(owner->*signal)(role.button());
 }
 
 void InLineSettingBox::Impl::slotUpdateDiagonalLineWidth()
@@ -372,6 +392,7 @@ InLineSettingBox::InLineSettingBox(QWidget* parent)
     connect(this, &InLineSettingBox::inlineDialongSignal, this, &SettingPanel::colorRequested);
     connect(this, &InLineSettingBox::inlineSequeSignal, this, &SettingPanel::colorRequested);
     d->build(controls());
+    d->bindControls();
     d->connectControls();
     controls().captions.add(QStringLiteral("Widget"), [this](const QString& text) { setWindowTitle(text); });
     retranslate();
@@ -396,14 +417,14 @@ void InLineSettingBox::initPaintWidget()
 void InLineSettingBox::setColor(const QColor& color, const QString& which)
 {
     if (ColorRole* role = d->role(which))
-        d->showColor(*role, color);
+        d->setColor(*role, color);
 }
 
 void InLineSettingBox::restoreColor(const QString& which)
 {
     ColorRole* role = d->role(which);
-    if (role && role->beforePicking.isValid())
-        d->showColor(*role, role->beforePicking);
+    if (role && role->beforePicking().isValid())
+        d->setColor(*role, role->beforePicking());
 }
 
 void InLineSettingBox::setRows(int rows)
@@ -418,41 +439,12 @@ void InLineSettingBox::setColumns(int columns)
 
 void InLineSettingBox::getData(InLineChartData& data) const
 {
-    data.showCircle = d->circleSwitch->isChecked();
-    data.circleSize = wholeValue(d->circleRadius);
-    data.circleWidth = wholeValue(d->circleWidth);
-    data.circleColor = toRgbaColor(d->circle.swatch.color());
-    data.showDiagonal = d->diagonalSwitch->isChecked();
-    data.diagonalWidth = wholeValue(d->diagonalWidth);
-    data.diagonalColor = toRgbaColor(d->diagonal.swatch.color());
-    data.showSerialNumber = d->serialSwitch->isChecked();
-    data.serialSize = wholeValue(d->serialSize);
-    data.serialColor = toRgbaColor(d->serial.swatch.color());
-    data.letterMode = d->letterMode->isChecked();
-    data.numMode = d->numMode->isChecked();
-    data.combinationMode = d->combinationMode->isChecked();
-    data.serialPosition = d->position->currentIndex();
-    data.serialSort = d->sort->currentIndex();
+    d->binding.collect(data);
 }
 
 void InLineSettingBox::setData(const InLineChartData& data)
 {
-    // In this order, each only where it differs: the painter follows through the controls' own signals.
-    d->circleSwitch->setChecked(data.showCircle);
-    d->circleRadius->setValue(data.circleSize);
-    d->circleWidth->setValue(data.circleWidth);
-    d->showDiffering(d->circle, data.circleColor);
-    d->diagonalSwitch->setChecked(data.showDiagonal);
-    d->diagonalWidth->setValue(data.diagonalWidth);
-    d->showDiffering(d->diagonal, data.diagonalColor);
-    d->serialSwitch->setChecked(data.showSerialNumber);
-    d->serialSize->setValue(data.serialSize);
-    d->showDiffering(d->serial, data.serialColor);
-    d->letterMode->setChecked(data.letterMode);
-    d->numMode->setChecked(data.numMode);
-    d->combinationMode->setChecked(data.combinationMode);
-    d->position->setCurrentIndex(std::clamp(data.serialPosition, 0, d->position->count() - 1));
-    d->sort->setCurrentIndex(std::clamp(data.serialSort, 0, d->sort->count() - 1));
+    d->binding.push(data);
 }
 
 void InLineSettingBox::collectInto(TestChartToolsData& record) const

@@ -1,12 +1,11 @@
 #include "logosettingbox.h"
 
 #include "controls/sliderentry.h"
-#include "controls/swatch.h"
 #include "controls/textentry.h"
-#include "controls/wholevalue.h"
 #include "paintpiclogowidget.h"
 #include "painttextlogowidget.h"
-#include "panels/settingrows.h"
+#include "panels/fieldrange.h"
+#include "panels/recordbinding.h"
 #include "testcharttoolsdata.h"
 
 #include <combobox.h>
@@ -21,8 +20,6 @@
 #include <QSlider>
 #include <QStackedWidget>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace vardeno::testcharttools {
 
@@ -40,7 +37,6 @@ constexpr QSize radioSize(115, 24);
 constexpr int buttonMargin = 2; ///< also of the radio buttons, whose indicators are not counted
 constexpr QSize shortEntry(70, 24);
 constexpr QSize axisCaption(12, 24);
-constexpr int farthestMove = 16384;
 constexpr int storedTextSize = 100; ///< what the reset button sets on the text page
 
 } // namespace
@@ -60,6 +56,9 @@ public:
     QLayout* buildHint(QWidget* page, PanelControls& controls);
     QWidget* buildTextPage(PanelControls& controls);
     void buildPlacementRows(SettingRows& rows);
+    void bindControls();
+    void bindPlacement();
+    void pushPicture(const LogoChartData& data);
     void connectControls();
     void connectValues();
 
@@ -73,7 +72,6 @@ public:
     template <typename Value>
     void tellBoth(void (PaintPicLogoWidget::*ofPicture)(Value), void (PaintTextLogoWidget::*ofText)(Value),
                   Value value);
-    void showTextColor(const QColor& color);
 
     QPushButton* showButton = nullptr;
     QRadioButton* pictureRadio = nullptr;
@@ -84,7 +82,7 @@ public:
     QPushButton* scaleReset = nullptr;
     QLineEdit* text = nullptr;
     SpinEditBox* textSize = nullptr;
-    QPushButton* colorButton = nullptr;
+    ColorRole textColor;
     ComboBox* position = nullptr;
     SpinEditBox* moveX = nullptr;
     SpinEditBox* moveY = nullptr;
@@ -94,8 +92,7 @@ public:
     QPointer<PaintTextLogoWidget> textPainter;
     QPointer<QStackedWidget> logoStack;
     LogoSettingBox* owner;
-    QColor textColor; ///< as it was when the colour button was last clicked
-    SwitchedSwatch textSwatch;
+    RecordBinding<LogoChartData> binding;
     bool positionChanged = false;
 
 public Q_SLOTS:
@@ -123,7 +120,7 @@ public Q_SLOTS:
     void slotTextLogoSizeEditFinished(QString strOldName) { textSize->setValue(strOldName.toInt()); }
     void slotTextLogoEditFinished(QString strOldName);
     void slotLogoColor();
-    void slotTextColor(bool checked) { textSwatch.keep(checked); }
+    void slotTextColor(bool checked) { textColor.keep(checked); }
 };
 
 void LogoSettingBox::Impl::build(PanelControls& controls)
@@ -157,14 +154,15 @@ QWidget* LogoSettingBox::Impl::buildPicturePage(PanelControls& controls)
     column->setSpacing(5);
     const auto whenOn = [this] { return isOn(); };
     SettingRows rows(page, controls, column, captionSize);
+    const SpinRange percents = rangeOf(&LogoChartData::scale).value(100);
     rows.row(QStringLiteral("UpLogo"))
         .button(uploadButton, QStringLiteral("Upload your logo"), QSize(120, 24),
                 QStringLiteral("CancleButton"), whenOn);
     column->addLayout(buildHint(page, controls));
     rows.row(QStringLiteral("Scale Logo"))
-        .slider(scale.slider, 200, whenOn)
+        .slider(scale.slider, int(percents.maximum), whenOn)
         .named(QStringLiteral("Size of the logo in percent"))
-        .spin(scale.entry, shortEntry, range(0, 200).value(100), whenOn)
+        .spin(scale.entry, shortEntry, percents, whenOn)
         .named(QStringLiteral("Size of the logo in percent"))
         .iconButton(scaleReset, QStringLiteral(":/resources/images/icon_reset.png"), QStringLiteral("Reset"),
                     QStringLiteral("scalelogoBtn"), whenOn);
@@ -203,21 +201,25 @@ QWidget* LogoSettingBox::Impl::buildTextPage(PanelControls& controls)
     column->setSpacing(5);
     const auto whenOn = [this] { return isOn(); };
     SettingRows rows(page, controls, column, captionSize);
+    QPushButton* colorButton = nullptr;
     rows.row(QStringLiteral("Text Logo"))
         .text(text, QString::fromStdString(LogoChartData().logoText), QSize(266, 24), whenOn)
         .named(QStringLiteral("Text of the logo"));
     rows.row(QStringLiteral("Text Size"))
         .spacing(0)
         .gap(8)
-        .spin(textSize, shortEntry, range(0, 100).value(100).suffix(QStringLiteral("px")), whenOn)
+        .spin(textSize, shortEntry,
+              rangeOf(&LogoChartData::textSize).value(storedTextSize).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Size of the logo text"))
         .gap(12)
         .caption(QStringLiteral("Color"), captionSize)
         .gap(7)
         .swatch(colorButton, QStringLiteral("textColorBtn"), QStringLiteral("logo"), whenOn)
         .named(QStringLiteral("Color of the logo text"));
-    textSwatch = SwitchedSwatch(colorButton);
-    textSwatch.paint(Qt::black);
+    textColor.init(colorButton, Qt::black, [this](const QColor& color) {
+        if (textPainter)
+            textPainter->setTextColor(color);
+    });
     column->addStretch();
     return page;
 }
@@ -234,19 +236,71 @@ void LogoSettingBox::Impl::buildPlacementRows(SettingRows& rows)
     position->installEventFilter(owner);
     rows.row(QStringLiteral("Position adjustment"))
         .caption(QStringLiteral("X"), axisCaption)
-        .spin(moveX, shortEntry, range(0, farthestMove), whenOn)
+        .spin(moveX, shortEntry, rangeOf(&LogoChartData::offsetX), whenOn)
         .named(QStringLiteral("Sideways shift of the logo in pixels"))
         .caption(QStringLiteral("Y"), axisCaption)
-        .spin(moveY, shortEntry, range(0, farthestMove), whenOn)
+        .spin(moveY, shortEntry, rangeOf(&LogoChartData::offsetY), whenOn)
         .named(QStringLiteral("Vertical shift of the logo in pixels"));
+    const SpinRange percents = rangeOf(&LogoChartData::opacity).value(100);
     rows.row(QStringLiteral("Opacity"))
-        .slider(opacity.slider, 100, whenOn)
+        .slider(opacity.slider, int(percents.maximum), whenOn)
         .named(QStringLiteral("Opacity of the logo in percent"))
-        .spin(opacity.entry, shortEntry, range(0, 100).value(100), whenOn)
+        .spin(opacity.entry, shortEntry, percents, whenOn)
         .named(QStringLiteral("Opacity of the logo in percent"))
         .iconButton(opacityReset, QStringLiteral(":/resources/images/icon_reset.png"),
                     QStringLiteral("Reset"), QStringLiteral("logoOpacityBtn"), whenOn);
     opacity.slider->setPageStep(0);
+}
+
+/// The painters are told of every value but those that their controls tell them of anyway.
+void LogoSettingBox::Impl::bindControls()
+{
+    using Data = LogoChartData;
+    binding.bind(&Data::showLogo, showButton);
+    binding.bind(&Data::pictureLogo, pictureRadio);
+    binding.bind(&Data::textLogo, textRadio);
+    binding.bind({}, [this](const Data& data) {
+        scale.slider->setValue(data.scale);
+        slotScaleLogo();
+    });
+    binding.bind(&Data::scale, scale.entry);
+    bindPlacement();
+    binding.bind(&Data::logoText, text);
+    binding.bind(&Data::textSize, textSize, [this] { slotScaleLogo(); });
+    binding.bind(&Data::textColor, textColor, [this](const QColor& color) { textColor.set(color); });
+    binding.bind(
+        [this](Data& data) {
+            if (picturePainter && !picturePainter->showsDefaultPicLogo())
+                data.picturePath = picturePainter->picPath();
+        },
+        [this](const Data& data) { pushPicture(data); });
+}
+
+void LogoSettingBox::Impl::bindPlacement()
+{
+    using Data = LogoChartData;
+    binding.bind(&Data::displayPosition, position);
+    binding.bind(&Data::offsetX, moveX, [this] {
+        tellBoth(&PaintPicLogoWidget::setMoveX, &PaintTextLogoWidget::setMoveX, wholeValue(moveX));
+    });
+    binding.bind(&Data::offsetY, moveY, [this] {
+        tellBoth(&PaintPicLogoWidget::setMoveY, &PaintTextLogoWidget::setMoveY, wholeValue(moveY));
+    });
+    binding.bind({}, [this](const Data& data) { opacity.slider->setValue(data.opacity); });
+    binding.bind(&Data::opacity, opacity.entry, [this] {
+        tellBoth(&PaintPicLogoWidget::setOpacity, &PaintTextLogoWidget::setOpacity, opacity.slider->value());
+    });
+}
+
+/// The entry tells the text painter only of changes.
+void LogoSettingBox::Impl::pushPicture(const LogoChartData& data)
+{
+    if (textPainter)
+        textPainter->setText(text->text());
+    if (picturePainter && data.picturePath.empty())
+        picturePainter->setDefaultPicLogo();
+    else if (picturePainter)
+        picturePainter->setPicPath(data.picturePath);
 }
 
 void LogoSettingBox::Impl::connectControls()
@@ -265,7 +319,7 @@ void LogoSettingBox::Impl::connectControls()
     connect(new TextEntryWatcher(text), &TextEntryWatcher::editFinished, this,
             &Impl::slotTextLogoEditFinished);
     connect(textSize, &SpinEditBox::valueChanged, this, &Impl::slotScaleLogo);
-    connect(colorButton, &QPushButton::clicked, this, &Impl::slotLogoColor);
+    connect(textColor.button(), &QPushButton::clicked, this, &Impl::slotLogoColor);
 }
 
 void LogoSettingBox::Impl::connectValues()
@@ -319,18 +373,11 @@ void LogoSettingBox::Impl::tellBoth(void (PaintPicLogoWidget::*ofPicture)(Value)
         (textPainter->*ofText)(value);
 }
 
-void LogoSettingBox::Impl::showTextColor(const QColor& color)
-{
-    textSwatch.paint(color);
-    if (textPainter)
-        textPainter->setTextColor(color);
-}
-
 void LogoSettingBox::Impl::slotLogoVisible(bool on)
 {
     owner->controls().update();
     showCurrentPainter();
-    textSwatch.show(on);
+    textColor.show(on);
     Q_EMIT owner->logoSignal();
 }
 
@@ -447,8 +494,8 @@ void LogoSettingBox::Impl::slotTextLogoEditFinished(QString strOldName)
 
 void LogoSettingBox::Impl::slotLogoColor()
 {
-    textColor = swatchColor(colorButton);
-    Q_EMIT owner->logoColorSingal(colorButton);
+    textColor.beginPicking();
+    Q_EMIT owner->logoColorSingal(textColor.button());
 }
 
 LogoSettingBox::LogoSettingBox(QWidget* parent)
@@ -464,6 +511,7 @@ LogoSettingBox::LogoSettingBox(QWidget* parent)
     connect(this, &LogoSettingBox::logoSignal, this, &SettingPanel::changed);
     connect(this, &LogoSettingBox::logoColorSingal, this, &SettingPanel::colorRequested);
     d->build(controls());
+    d->bindControls();
     d->connectControls();
     SettingPanel::retranslate();
 }
@@ -495,49 +543,13 @@ void LogoSettingBox::setLogoStack(QStackedWidget* stack)
 LogoChartData LogoSettingBox::getData() const
 {
     LogoChartData data;
-    data.showLogo = d->isOn();
-    data.pictureLogo = d->pictureRadio->isChecked();
-    data.textLogo = d->textRadio->isChecked();
-    data.logoText = d->text->text().toStdString();
-    data.textSize = wholeValue(d->textSize);
-    data.textColor = toRgbaColor(d->textSwatch.color());
-    data.scale = wholeValue(d->scale.entry);
-    if (d->picturePainter && !d->picturePainter->showsDefaultPicLogo())
-        data.picturePath = d->picturePainter->picPath();
-    data.displayPosition = d->position->currentIndex();
-    data.offsetX = wholeValue(d->moveX);
-    data.offsetY = wholeValue(d->moveY);
-    data.opacity = wholeValue(d->opacity.entry);
+    d->binding.collect(data);
     return data;
 }
 
 void LogoSettingBox::setData(const LogoChartData& data)
 {
-    d->showButton->setChecked(data.showLogo);
-    d->pictureRadio->setChecked(data.pictureLogo);
-    d->textRadio->setChecked(data.textLogo);
-    d->scale.slider->setValue(data.scale);
-    d->slotScaleLogo();
-    d->scale.entry->setValue(data.scale);
-    d->position->setCurrentIndex(std::clamp(data.displayPosition, 0, d->position->count() - 1));
-    d->moveX->setValue(data.offsetX);
-    d->tellBoth(&PaintPicLogoWidget::setMoveX, &PaintTextLogoWidget::setMoveX, wholeValue(d->moveX));
-    d->moveY->setValue(data.offsetY);
-    d->tellBoth(&PaintPicLogoWidget::setMoveY, &PaintTextLogoWidget::setMoveY, wholeValue(d->moveY));
-    d->opacity.slider->setValue(data.opacity);
-    d->opacity.entry->setValue(data.opacity);
-    d->tellBoth(&PaintPicLogoWidget::setOpacity, &PaintTextLogoWidget::setOpacity,
-                d->opacity.slider->value());
-    d->text->setText(QString::fromStdString(data.logoText));
-    d->textSize->setValue(data.textSize);
-    d->slotScaleLogo();
-    d->showTextColor(toQColor(data.textColor));
-    if (d->textPainter)
-        d->textPainter->setText(d->text->text()); // the entry tells it only of changes
-    if (d->picturePainter && data.picturePath.empty())
-        d->picturePainter->setDefaultPicLogo();
-    else if (d->picturePainter)
-        d->picturePainter->setPicPath(data.picturePath);
+    d->binding.push(data);
     // The radio buttons tell of clicks only.
     d->showPage(d->textRadio->isChecked() ? TextPage : PicturePage);
     Q_EMIT logoSignal();
@@ -545,14 +557,14 @@ void LogoSettingBox::setData(const LogoChartData& data)
 
 void LogoSettingBox::setTextLogoColor(const QColor& color)
 {
-    d->showTextColor(color);
+    d->textColor.set(color);
     Q_EMIT logoSignal();
 }
 
 void LogoSettingBox::restoreTextLogoColor()
 {
-    if (d->textColor.isValid())
-        setTextLogoColor(d->textColor);
+    if (d->textColor.beforePicking().isValid())
+        setTextLogoColor(d->textColor.beforePicking());
 }
 
 void LogoSettingBox::retranslate()

@@ -1,11 +1,10 @@
 #include "publicsettingbox.h"
 
 #include "controls/sliderentry.h"
-#include "controls/swatch.h"
-#include "controls/wholevalue.h"
 #include "paintpublicbrightwidget.h"
 #include "paintpublicwidget.h"
-#include "panels/settingrows.h"
+#include "panels/fieldrange.h"
+#include "panels/recordbinding.h"
 #include "testcharttoolsdata.h"
 
 #include <spineditbox.h>
@@ -22,11 +21,16 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-constexpr int smallestResolution = 16;
 constexpr int usualHeight = 160;
 constexpr QSize captionSize(80, 24);
 constexpr QSize shortEntry(70, 24);
 constexpr QSize entrySize(110, 24);
+
+/// Whatever a host has made of the entries' ranges.
+int smallestResolution()
+{
+    return int(rangeOf(&PublicChartData::resolutionWidth).minimum);
+}
 
 } // namespace
 
@@ -42,7 +46,9 @@ public:
 
     void buildRows(PanelControls& controls);
     void connectControls();
-    void showBorderColor(const QColor& color);
+    void bindControls();
+    void pushBrightness(int percent);
+    void setBorderColor(const QColor& color);
 
     SliderEntry brightness;
     QPushButton* brightReset = nullptr;
@@ -52,12 +58,11 @@ public:
     SpinEditBox* col = nullptr;
     QCheckBox* borderSwitch = nullptr;
     SpinEditBox* borderWidth = nullptr;
-    QPushButton* borderColor = nullptr;
+    ColorRole borderColor;
     QPointer<PaintPublicWidget> borderPainter;
     QPointer<PaintPublicBrightWidget> brightPainter;
     PublicSettingBox* owner;
-    QColor colorBeforePicking;
-    SwitchedSwatch borderSwatch;
+    RecordBinding<PublicChartData> binding;
 
 public Q_SLOTS:
     void slotAdjustBrightnessChangeLineedit() { brightness.entryFollows(); }
@@ -66,7 +71,7 @@ public Q_SLOTS:
     void slotResetSliderAndLineedit();
     void slotOutLineWidth();
     void slotSelectColor();
-    void slotOutLineWidthColor(bool bChecked) { borderSwatch.keep(bChecked); }
+    void slotOutLineWidthColor(bool bChecked) { borderColor.keep(bChecked); }
     void slotSetOutLineVisible(bool bChecked);
     void slotEmitSignal();
     void slotSetRow();
@@ -92,36 +97,41 @@ void PublicSettingBox::Impl::buildRows(PanelControls& controls)
     column->setSpacing(5);
 
     const auto whenBorderOn = [this] { return borderSwitch->isChecked(); };
+    const SpinRange percents = rangeOf(&PublicChartData::brightness).value(100);
+    QPushButton* colorButton = nullptr;
     SettingRows rows(inner, controls, column, captionSize);
     rows.row(QStringLiteral("Brightness"))
-        .slider(brightness.slider, 100)
+        .slider(brightness.slider, int(percents.maximum))
         .named(QStringLiteral("Brightness in percent"))
-        .spin(brightness.entry, shortEntry, range(0, 100).value(100))
+        .spin(brightness.entry, shortEntry, percents)
         .named(QStringLiteral("Brightness in percent"))
         .iconButton(brightReset, QStringLiteral(":/resources/images/icon_reset.png"), QStringLiteral("Reset"),
                     QStringLiteral("BrightResetBtn"));
     rows.row(QStringLiteral("Resolution"))
-        .spin(width, shortEntry, range(smallestResolution, 4320).value(1920))
+        .spin(width, shortEntry, rangeOf(&PublicChartData::resolutionWidth).value(1920))
         .named(QStringLiteral("Chart width in pixels"))
-        .spin(height, shortEntry, range(smallestResolution, 4320).value(1080))
+        .spin(height, shortEntry, rangeOf(&PublicChartData::resolutionHeight).value(1080))
         .named(QStringLiteral("Chart height in pixels"));
     rows.row(QStringLiteral("Box RowColNum"))
-        .spin(row, shortEntry, range(1, 100).value(9))
+        .spin(row, shortEntry, rangeOf(&PublicChartData::boxRow).value(9))
         .named(QStringLiteral("Rows of cabinets"))
-        .spin(col, shortEntry, range(1, 100).value(16))
+        .spin(col, shortEntry, rangeOf(&PublicChartData::boxCol).value(16))
         .named(QStringLiteral("Columns of cabinets"));
     row->setObjectName(QStringLiteral("Row"));
     col->setObjectName(QStringLiteral("Col"));
     rows.row(QStringLiteral("OutBorder")).toggle(borderSwitch, true).named(QStringLiteral("Show the border"));
     rows.row(QStringLiteral("BorderWidth"))
-        .spin(borderWidth, entrySize, range(1, 100).value(6).suffix(QStringLiteral("px")), whenBorderOn)
+        .spin(borderWidth, entrySize,
+              rangeOf(&PublicChartData::outBorderWidth).value(6).suffix(QStringLiteral("px")), whenBorderOn)
         .named(QStringLiteral("Width of the border"))
         .caption(QStringLiteral("Color"), captionSize)
-        .swatch(borderColor, QStringLiteral("outLineColorButton"), QStringLiteral("outLineColorButton"),
+        .swatch(colorButton, QStringLiteral("outLineColorButton"), QStringLiteral("outLineColorButton"),
                 whenBorderOn)
         .named(QStringLiteral("Color of the border"));
-    borderSwatch = SwitchedSwatch(borderColor);
-    borderSwatch.paint(Qt::white);
+    borderColor.init(colorButton, Qt::white, [this](const QColor& color) {
+        if (borderPainter)
+            borderPainter->setOutLineColor(color);
+    });
 
     auto* outer = new QVBoxLayout(owner);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -135,7 +145,7 @@ void PublicSettingBox::Impl::connectControls()
     connect(brightness.entry, &SpinEditBox::valueChanged, this, &Impl::slotChangeSlider);
     connect(brightReset, &QPushButton::clicked, this, &Impl::slotResetSliderAndLineedit);
     connect(borderWidth, &SpinEditBox::valueChanged, this, &Impl::slotOutLineWidth);
-    connect(borderColor, &QPushButton::clicked, this, &Impl::slotSelectColor);
+    connect(borderColor.button(), &QPushButton::clicked, this, &Impl::slotSelectColor);
     connect(borderSwitch, &QCheckBox::toggled, this, &Impl::slotOutLineWidthColor);
     connect(borderSwitch, &QCheckBox::toggled, this, &Impl::slotSetOutLineVisible);
     connect(width, &SpinEditBox::valueChanged, this, &Impl::slotEmitSignal);
@@ -144,11 +154,49 @@ void PublicSettingBox::Impl::connectControls()
     connect(col, &SpinEditBox::valueChanged, this, &Impl::slotSetCol);
 }
 
-void PublicSettingBox::Impl::showBorderColor(const QColor& color)
+/// Each only where it differs. Painters and shell follow through the controls' own signals; a changed row or
+/// column is announced once more.
+void PublicSettingBox::Impl::bindControls()
 {
-    borderSwatch.paint(color);
-    if (borderPainter)
-        borderPainter->setOutLineColor(color);
+    using Data = PublicChartData;
+    binding.bind({}, [this](const Data& data) { pushBrightness(data.brightness); });
+    binding.bind([this](Data& data) { data.resolutionHeight = owner->resolutionHeight(); },
+                 [this](const Data& data) { height->setValue(data.resolutionHeight); });
+    binding.bind([this](Data& data) { data.resolutionWidth = owner->resolutionWidth(); },
+                 [this](const Data& data) { width->setValue(data.resolutionWidth); });
+    const auto bindCount = [this](int Data::*count, SpinEditBox* entry, void (Impl::*announce)()) {
+        binding.bind([=](Data& data) { data.*count = wholeValue(entry); },
+                     [=](const Data& data) {
+                         if (wholeValue(entry) == data.*count)
+                             return;
+                         entry->setValue(data.*count);
+                         (this->*announce)();
+                     });
+    };
+    bindCount(&Data::boxRow, row, &Impl::slotSetRow);
+    bindCount(&Data::boxCol, col, &Impl::slotSetCol);
+    binding.bind(&Data::outBorderWidth, borderWidth);
+    binding.bind(&Data::brightness, brightness.entry,
+                 [this] { brightness.entry->setProperty("lastValue", brightness.entry->value()); });
+    binding.bind(&Data::showOutBorder, borderSwitch);
+    binding.bind(&Data::outBorderColor, borderColor, [this](const QColor& color) {
+        if (color != borderColor.color())
+            setBorderColor(color);
+    });
+}
+
+void PublicSettingBox::Impl::pushBrightness(int percent)
+{
+    if (brightness.slider->value() == percent)
+        return;
+    brightness.slider->setValue(percent);
+    if (brightPainter) // even while the slider is held
+        brightPainter->setBrightness(ushort(brightness.slider->value()));
+}
+
+void PublicSettingBox::Impl::setBorderColor(const QColor& color)
+{
+    borderColor.set(color);
     Q_EMIT owner->publicSignal();
 }
 
@@ -180,8 +228,8 @@ void PublicSettingBox::Impl::slotOutLineWidth()
 
 void PublicSettingBox::Impl::slotSelectColor()
 {
-    colorBeforePicking = swatchColor(borderColor);
-    Q_EMIT owner->colorBtnSignal(borderColor);
+    borderColor.beginPicking();
+    Q_EMIT owner->colorBtnSignal(borderColor.button());
 }
 
 void PublicSettingBox::Impl::slotSetOutLineVisible(bool bChecked)
@@ -189,7 +237,7 @@ void PublicSettingBox::Impl::slotSetOutLineVisible(bool bChecked)
     if (borderPainter)
         borderPainter->setOutLineVisible(bChecked);
     owner->controls().update();
-    borderSwatch.show(bChecked);
+    borderColor.show(bChecked);
     Q_EMIT owner->publicSignal();
 }
 
@@ -218,12 +266,12 @@ void PublicSettingBox::Impl::slotSetCol()
 
 void PublicSettingBox::Impl::slotResetResolutionWidthEditFinished(QString)
 {
-    width->setValue(std::max<double>(width->value(), smallestResolution));
+    width->setValue(std::max<double>(width->value(), smallestResolution()));
 }
 
 void PublicSettingBox::Impl::slotResetResolutionHeightEditFinished(QString)
 {
-    height->setValue(std::max<double>(height->value(), smallestResolution));
+    height->setValue(std::max<double>(height->value(), smallestResolution()));
 }
 
 PublicSettingBox::PublicSettingBox(QWidget* parent)
@@ -234,6 +282,7 @@ PublicSettingBox::PublicSettingBox(QWidget* parent)
     connect(this, &PublicSettingBox::publicSignal, this, &SettingPanel::changed);
     connect(this, &PublicSettingBox::colorBtnSignal, this, &SettingPanel::colorRequested);
     d->buildRows(controls());
+    d->bindControls();
     d->connectControls();
     retranslate();
 }
@@ -255,43 +304,13 @@ void PublicSettingBox::setPaintPublicBrightWidget(PaintPublicBrightWidget* paint
 PublicChartData PublicSettingBox::getData() const
 {
     PublicChartData data;
-    data.brightness = wholeValue(d->brightness.entry);
-    data.resolutionWidth = resolutionWidth();
-    data.resolutionHeight = resolutionHeight();
-    data.boxRow = wholeValue(d->row);
-    data.boxCol = wholeValue(d->col);
-    data.showOutBorder = d->borderSwitch->isChecked();
-    data.outBorderWidth = wholeValue(d->borderWidth);
-    data.outBorderColor = toRgbaColor(d->borderSwatch.color());
+    d->binding.collect(data);
     return data;
 }
 
 void PublicSettingBox::setData(const PublicChartData& data)
 {
-    // In this order, each only where it differs. Painters and shell follow through the controls' own signals;
-    // a changed row or column is announced once more.
-    if (d->brightness.slider->value() != data.brightness) {
-        d->brightness.slider->setValue(data.brightness);
-        if (d->brightPainter) // even while the slider is held
-            d->brightPainter->setBrightness(ushort(d->brightness.slider->value()));
-    }
-    d->height->setValue(data.resolutionHeight);
-    d->width->setValue(data.resolutionWidth);
-    if (wholeValue(d->row) != data.boxRow) {
-        d->row->setValue(data.boxRow);
-        d->slotSetRow();
-    }
-    if (wholeValue(d->col) != data.boxCol) {
-        d->col->setValue(data.boxCol);
-        d->slotSetCol();
-    }
-    d->borderWidth->setValue(data.outBorderWidth);
-    d->brightness.entry->setValue(data.brightness);
-    d->brightness.entry->setProperty("lastValue", d->brightness.entry->value());
-    d->borderSwitch->setChecked(data.showOutBorder);
-    const QColor color = toQColor(data.outBorderColor);
-    if (color != d->borderSwatch.color())
-        d->showBorderColor(color);
+    d->binding.push(data);
 }
 
 void PublicSettingBox::setBrightnessValue(int percent)
@@ -302,23 +321,23 @@ void PublicSettingBox::setBrightnessValue(int percent)
 
 int PublicSettingBox::resolutionWidth() const
 {
-    return std::max(wholeValue(d->width), smallestResolution);
+    return std::max(wholeValue(d->width), smallestResolution());
 }
 
 int PublicSettingBox::resolutionHeight() const
 {
-    return std::max(wholeValue(d->height), smallestResolution);
+    return std::max(wholeValue(d->height), smallestResolution());
 }
 
 void PublicSettingBox::setOutLineColor(const QColor& color)
 {
-    d->showBorderColor(color);
+    d->setBorderColor(color);
 }
 
 void PublicSettingBox::restoreOutLineColor()
 {
-    if (d->colorBeforePicking.isValid())
-        d->showBorderColor(d->colorBeforePicking);
+    if (d->borderColor.beforePicking().isValid())
+        d->setBorderColor(d->borderColor.beforePicking());
 }
 
 void PublicSettingBox::collectInto(TestChartToolsData& record) const

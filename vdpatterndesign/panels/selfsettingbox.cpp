@@ -1,10 +1,9 @@
 #include "selfsettingbox.h"
 
-#include "controls/swatch.h"
 #include "controls/textentry.h"
-#include "controls/wholevalue.h"
 #include "paintselfwidget.h"
-#include "panels/settingrows.h"
+#include "panels/fieldrange.h"
+#include "panels/recordbinding.h"
 #include "support/translation.h"
 #include "testcharttoolsdata.h"
 
@@ -22,7 +21,6 @@ constexpr int usualHeight = 160;
 constexpr QSize captionSize(80, 24);
 constexpr QSize inputSize(266, 24);
 constexpr QSize entrySize(110, 24);
-constexpr int longestText = 50;
 
 } // namespace
 
@@ -38,28 +36,29 @@ public:
 
     void buildRows(PanelControls& controls);
     void connectControls();
-    SwitchedSwatch* swatchOf(const QPushButton* button);
+    void bindControls();
+    void initColor(ColorRole& role, QPushButton* button);
+    ColorRole* roleOf(const QPushButton* button);
     QColor colorOf(const QPushButton* button);
-    void pushColor(const QColor& color, QPushButton* button);
+    void setColor(const QColor& color, QPushButton* button);
     void tellColor(const QColor& color, const QPushButton* button);
-    void switchGroup(QPushButton* button, bool on);
+    void tellTextSize();
+    void tellResolutionSize();
+    void switchGroup(ColorRole& role, bool on);
 
     QCheckBox* textSwitch = nullptr;
     QLineEdit* text = nullptr;
     SpinEditBox* textSize = nullptr;
-    QPushButton* textColor = nullptr;
+    ColorRole textColor;
     QCheckBox* resolutionSwitch = nullptr;
     SpinEditBox* resolutionSize = nullptr;
-    QPushButton* resolutionColor = nullptr;
+    ColorRole resolutionColor;
     QPointer<PaintSelfWidget> painter;
     SelfSettingBox* owner;
     int rows = 9;
     int columns = 16;
     QSize resolution = QSize(1920, 1080);
-    QColor textBeforePicking;
-    QColor resolutionBeforePicking;
-    SwitchedSwatch textSwatch;
-    SwitchedSwatch resolutionSwatch;
+    RecordBinding<SelfChartData> binding;
 
 public Q_SLOTS:
     void slotResolutionVisible(bool bChecked);
@@ -72,8 +71,8 @@ public Q_SLOTS:
     void slotTextInputEditFinished(QString strOldName);
     void slotTextSizeEditFinished(QString strOldName) { textSize->setValue(strOldName.toInt()); }
     void slotResolutionEditFinished(QString strOldName) { resolutionSize->setValue(strOldName.toInt()); }
-    void slotText(bool bChecked) { textSwatch.keep(bChecked); }
-    void slotResolution(bool bChecked) { resolutionSwatch.keep(bChecked); }
+    void slotText(bool bChecked) { textColor.keep(bChecked); }
+    void slotResolution(bool bChecked) { resolutionColor.keep(bChecked); }
     void slotBoxNum() {}
 };
 
@@ -91,7 +90,11 @@ void SelfSettingBox::Impl::buildRows(PanelControls& controls)
 
     const auto whenTextOn = [this] { return textSwitch->isChecked(); };
     const auto whenResolutionOn = [this] { return resolutionSwitch->isChecked(); };
-    const SpinRange sizes = range(1, 200).value(50).suffix(QStringLiteral("px"));
+    const auto sizes = [](int SelfChartData::*size) {
+        return rangeOf(size).value(50).suffix(QStringLiteral("px"));
+    };
+    QPushButton* textButton = nullptr;
+    QPushButton* resolutionButton = nullptr;
     SettingRows rowsOf(inner, controls, column, captionSize);
     rowsOf.row(QStringLiteral("Display custom text"))
         .toggle(textSwitch, true)
@@ -100,27 +103,25 @@ void SelfSettingBox::Impl::buildRows(PanelControls& controls)
         .text(text, QString::fromStdString(SelfChartData().selfText), inputSize, whenTextOn)
         .named(QStringLiteral("Custom text"));
     text->setObjectName(QStringLiteral("selfInputLineEdit"));
-    text->setMaxLength(longestText);
+    text->setMaxLength(recordfields::selfTextLength.most);
     rowsOf.row(QStringLiteral("Text Size"))
-        .spin(textSize, entrySize, sizes, whenTextOn)
+        .spin(textSize, entrySize, sizes(&SelfChartData::selfTextSize), whenTextOn)
         .named(QStringLiteral("Size of the custom text"))
         .caption(QStringLiteral("Color"), captionSize)
-        .swatch(textColor, QStringLiteral("selfTextColorButton"), QStringLiteral("selfText"), whenTextOn)
+        .swatch(textButton, QStringLiteral("selfTextColorButton"), QStringLiteral("selfText"), whenTextOn)
         .named(QStringLiteral("Color of the custom text"));
     rowsOf.row(QStringLiteral("Show Resolution"))
         .toggle(resolutionSwitch, true)
         .named(QStringLiteral("Show the information line"));
     rowsOf.row(QStringLiteral("Show Size"))
-        .spin(resolutionSize, entrySize, sizes, whenResolutionOn)
+        .spin(resolutionSize, entrySize, sizes(&SelfChartData::resolutionTextSize), whenResolutionOn)
         .named(QStringLiteral("Size of the information line"))
         .caption(QStringLiteral("Color"), captionSize)
-        .swatch(resolutionColor, QStringLiteral("resolutionColorButton"), QStringLiteral("resolution"),
+        .swatch(resolutionButton, QStringLiteral("resolutionColorButton"), QStringLiteral("resolution"),
                 whenResolutionOn)
         .named(QStringLiteral("Color of the information line"));
-    textSwatch = SwitchedSwatch(textColor);
-    resolutionSwatch = SwitchedSwatch(resolutionColor);
-    textSwatch.paint(Qt::black);
-    resolutionSwatch.paint(Qt::black);
+    initColor(textColor, textButton);
+    initColor(resolutionColor, resolutionButton);
 
     auto* outer = new QVBoxLayout(owner);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -135,36 +136,57 @@ void SelfSettingBox::Impl::connectControls()
     connect(new TextEntryWatcher(text), &TextEntryWatcher::editFinished, this,
             &Impl::slotTextInputEditFinished);
     connect(textSize, &SpinEditBox::valueChanged, this, &Impl::soltChangeSelfTextSize);
-    connect(textColor, &QPushButton::clicked, this, &Impl::slotChangeSelfTextColor);
+    connect(textColor.button(), &QPushButton::clicked, this, &Impl::slotChangeSelfTextColor);
     connect(resolutionSwitch, &QCheckBox::toggled, this, &Impl::slotResolution);
     connect(resolutionSwitch, &QCheckBox::toggled, this, &Impl::slotResolutionVisible);
     connect(resolutionSize, &SpinEditBox::valueChanged, this, &Impl::slotChangeResolutionSize);
-    connect(resolutionColor, &QPushButton::clicked, this, &Impl::slotChangeResolutionColor);
+    connect(resolutionColor.button(), &QPushButton::clicked, this, &Impl::slotChangeResolutionColor);
+}
+
+void SelfSettingBox::Impl::bindControls()
+{
+    using Data = SelfChartData;
+    const auto bindColor = [this](RgbaColor Data::*member, ColorRole& role) {
+        binding.bind(member, role, [this, &role](const QColor& color) { setColor(color, role.button()); });
+    };
+    binding.bind(&Data::showSelfText, textSwitch);
+    binding.bind(&Data::selfText, text);
+    binding.bind(&Data::selfTextSize, textSize, [this] { tellTextSize(); });
+    bindColor(&Data::selfTextColor, textColor);
+    binding.bind(&Data::showResolution, resolutionSwitch);
+    binding.bind(&Data::resolutionTextSize, resolutionSize, [this] { tellResolutionSize(); });
+    bindColor(&Data::resolutionTextColor, resolutionColor);
+}
+
+void SelfSettingBox::Impl::initColor(ColorRole& role, QPushButton* button)
+{
+    role.init(button, Qt::black, [this, button](const QColor& color) { tellColor(color, button); });
 }
 
 /// Null for a button that is none of the panel's own.
-SwitchedSwatch* SelfSettingBox::Impl::swatchOf(const QPushButton* button)
+ColorRole* SelfSettingBox::Impl::roleOf(const QPushButton* button)
 {
-    if (button == textColor)
-        return &textSwatch;
-    return button == resolutionColor ? &resolutionSwatch : nullptr;
+    if (button == textColor.button())
+        return &textColor;
+    return button == resolutionColor.button() ? &resolutionColor : nullptr;
 }
 
 QColor SelfSettingBox::Impl::colorOf(const QPushButton* button)
 {
-    const SwitchedSwatch* swatch = swatchOf(button);
-    return swatch ? swatch->color() : swatchColor(button);
+    const ColorRole* role = roleOf(button);
+    return role ? role->color() : swatchColor(button);
 }
 
 /// Tells the painter in any case, and the shell of a change.
-void SelfSettingBox::Impl::pushColor(const QColor& color, QPushButton* button)
+void SelfSettingBox::Impl::setColor(const QColor& color, QPushButton* button)
 {
     const bool differs = color != colorOf(button);
-    if (SwitchedSwatch* swatch = swatchOf(button))
-        swatch->paint(color);
-    else
+    if (ColorRole* role = roleOf(button)) {
+        role->set(color);
+    } else {
         paintSwatch(button, color);
-    tellColor(color, button);
+        tellColor(color, button);
+    }
     if (differs)
         Q_EMIT owner->selfSignal();
 }
@@ -183,10 +205,10 @@ void SelfSettingBox::Impl::tellColor(const QColor& color, const QPushButton* but
 }
 
 /// What a group's switch does besides its line's visibility.
-void SelfSettingBox::Impl::switchGroup(QPushButton* button, bool on)
+void SelfSettingBox::Impl::switchGroup(ColorRole& role, bool on)
 {
     owner->controls().update();
-    swatchOf(button)->show(on);
+    role.show(on);
     Q_EMIT owner->selfSignal();
 }
 
@@ -199,14 +221,25 @@ void SelfSettingBox::Impl::slotResolutionVisible(bool bChecked)
 
 void SelfSettingBox::Impl::slotChangeResolutionColor()
 {
-    resolutionBeforePicking = swatchColor(resolutionColor);
-    Q_EMIT owner->resolutionSignal(resolutionColor);
+    resolutionColor.beginPicking();
+    Q_EMIT owner->resolutionSignal(resolutionColor.button());
+}
+
+void SelfSettingBox::Impl::tellTextSize()
+{
+    if (painter)
+        painter->setSelfTextSize(ushort(wholeValue(textSize)));
+}
+
+void SelfSettingBox::Impl::tellResolutionSize()
+{
+    if (painter)
+        painter->setResolutionSize(ushort(wholeValue(resolutionSize)));
 }
 
 void SelfSettingBox::Impl::slotChangeResolutionSize()
 {
-    if (painter)
-        painter->setResolutionSize(ushort(wholeValue(resolutionSize)));
+    tellResolutionSize();
     Q_EMIT owner->selfSignal();
 }
 
@@ -228,15 +261,14 @@ void SelfSettingBox::Impl::soltChangeSelfText()
 
 void SelfSettingBox::Impl::soltChangeSelfTextSize(int)
 {
-    if (painter)
-        painter->setSelfTextSize(ushort(wholeValue(textSize)));
+    tellTextSize();
     Q_EMIT owner->selfSignal();
 }
 
 void SelfSettingBox::Impl::slotChangeSelfTextColor()
 {
-    textBeforePicking = swatchColor(textColor);
-    Q_EMIT owner->selfTextSignal(textColor);
+    textColor.beginPicking();
+    Q_EMIT owner->selfTextSignal(textColor.button());
 }
 
 void SelfSettingBox::Impl::slotTextInputEditFinished(QString strOldName)
@@ -255,6 +287,7 @@ SelfSettingBox::SelfSettingBox(QWidget* parent)
     connect(this, &SelfSettingBox::resolutionSignal, this, &SettingPanel::colorRequested);
     connect(this, &SelfSettingBox::boxNumSignal, this, [this] { Q_EMIT colorRequested(nullptr); });
     d->buildRows(controls());
+    d->bindControls();
     d->connectControls();
     SettingPanel::retranslate();
 }
@@ -273,43 +306,27 @@ void SelfSettingBox::setPaintSelfWidget(PaintSelfWidget* painter)
 SelfChartData SelfSettingBox::getData() const
 {
     SelfChartData data;
-    data.showSelfText = d->textSwitch->isChecked();
-    data.selfText = d->text->text().toStdString();
-    data.selfTextSize = wholeValue(d->textSize);
-    data.selfTextColor = toRgbaColor(d->textSwatch.color());
-    data.showResolution = d->resolutionSwitch->isChecked();
-    data.resolutionTextSize = wholeValue(d->resolutionSize);
-    data.resolutionTextColor = toRgbaColor(d->resolutionSwatch.color());
+    d->binding.collect(data);
     return data;
 }
 
 void SelfSettingBox::setData(const SelfChartData& data)
 {
-    d->textSwitch->setChecked(data.showSelfText);
-    d->text->setText(QString::fromStdString(data.selfText));
-    d->textSize->setValue(data.selfTextSize);
-    if (d->painter)
-        d->painter->setSelfTextSize(ushort(wholeValue(d->textSize)));
-    d->pushColor(toQColor(data.selfTextColor), d->textColor);
-    d->resolutionSwitch->setChecked(data.showResolution);
-    d->resolutionSize->setValue(data.resolutionTextSize);
-    if (d->painter)
-        d->painter->setResolutionSize(ushort(wholeValue(d->resolutionSize)));
-    d->pushColor(toQColor(data.resolutionTextColor), d->resolutionColor);
+    d->binding.push(data);
 }
 
 void SelfSettingBox::setButtonColor(const QColor& color, QPushButton* button)
 {
     if (button && color.isValid() && color != d->colorOf(button))
-        d->pushColor(color, button);
+        d->setColor(color, button);
 }
 
 void SelfSettingBox::restoreButtonColor(const QString& key)
 {
     if (key == QLatin1String("selfText"))
-        setButtonColor(d->textBeforePicking, d->textColor);
+        setButtonColor(d->textColor.beforePicking(), d->textColor.button());
     else if (key == QLatin1String("resolution"))
-        setButtonColor(d->resolutionBeforePicking, d->resolutionColor);
+        setButtonColor(d->resolutionColor.beforePicking(), d->resolutionColor.button());
 }
 
 void SelfSettingBox::setResolution(int width, int height)
@@ -347,9 +364,9 @@ void SelfSettingBox::pushFrom(const TestChartToolsData& record)
 void SelfSettingBox::setRoleColor(const QString& role, const QColor& color)
 {
     if (role == QLatin1String("selfText"))
-        setButtonColor(color, d->textColor);
+        setButtonColor(color, d->textColor.button());
     else if (role == QLatin1String("resolution"))
-        setButtonColor(color, d->resolutionColor);
+        setButtonColor(color, d->resolutionColor.button());
 }
 
 void SelfSettingBox::focusAfterLock(bool locked)

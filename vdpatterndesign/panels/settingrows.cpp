@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 #include <algorithm>
 
@@ -41,6 +43,24 @@ int captionMargin(const QPushButton* button)
 {
     return button->property("btnProperty") == QLatin1String("uplogo") ? 68 : 2;
 }
+
+/// A switch whose picture has smooth edges where the screen's scale lies between its two sizes.
+template <typename Button, QStyle::ControlElement element>
+class Switch : public Button
+{
+public:
+    using Button::Button;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QStylePainter painter(this);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        QStyleOptionButton option;
+        this->initStyleOption(&option);
+        painter.drawControl(element, option);
+    }
+};
 
 /// A frame's own line is drawn without width, and vanishes at some places of a scaled screen.
 class Rule : public QFrame
@@ -192,7 +212,7 @@ SettingRow& SettingRow::button(QPushButton*& button, const QString& source, cons
 
 SettingRow& SettingRow::toggle(QCheckBox*& box, bool checked)
 {
-    box = new QCheckBox(m_panel);
+    box = new Switch<QCheckBox, QStyle::CE_CheckBox>(m_panel);
     box->setProperty("switchStyle", QStringLiteral("general"));
     box->setChecked(checked);
     appendLocked(box, switchSize, {});
@@ -201,7 +221,7 @@ SettingRow& SettingRow::toggle(QCheckBox*& box, bool checked)
 
 SettingRow& SettingRow::toggle(QPushButton*& button, bool checked, Allowed allowed)
 {
-    button = new QPushButton(m_panel);
+    button = new Switch<QPushButton, QStyle::CE_PushButton>(m_panel);
     button->setProperty("switchStyle", QStringLiteral("general"));
     button->setCheckable(true);
     button->setChecked(checked);
