@@ -86,6 +86,38 @@ private Q_SLOTS:
         }
     }
 
+    void theDisplayDoesNotMatter_data()
+    {
+        QTest::addColumn<int>("hinting");
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("no hinting") << int(QFont::PreferNoHinting) << false;
+        QTest::newRow("the display's own") << int(QFont::PreferDefaultHinting) << false;
+        QTest::newRow("from right to left") << int(QFont::PreferFullHinting) << true;
+    }
+
+    void theDisplayDoesNotMatter()
+    {
+        QFETCH(int, hinting);
+        QFETCH(bool, rightToLeft);
+        TestChartToolsData record;
+        record.logoData.textLogo = true;
+        record.selfData.selfText = "(1) wall A, 70 %!";
+        const QImage expected = ChartPicture(record).image();
+        const QFont before = QApplication::font();
+        const auto restore = qScopeGuard([&] {
+            QApplication::setFont(before);
+            QApplication::setLayoutDirection(Qt::LeftToRight);
+        });
+        QFont font = before;
+        font.setHintingPreference(QFont::HintingPreference(hinting));
+        QApplication::setFont(font);
+        QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        VD_COMPARE_IMAGES(ChartPicture(record).image(), expected);
+        VTestChartTools tool;
+        tool.applyRecord(record);
+        VD_COMPARE_IMAGES(tool.chartImage(), ChartPicture(record, ChartCaptions::current()).image());
+    }
+
     void choices_data()
     {
         QTest::addColumn<bool>("chess");

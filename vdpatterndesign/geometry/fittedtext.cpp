@@ -1,5 +1,7 @@
 #include "geometry/fittedtext.h"
 
+#include "geometry/textfont.h"
+
 #include <QFontMetrics>
 
 #include <algorithm>
@@ -10,7 +12,7 @@ namespace {
 
 FittedText measured(const QString& text, int pixelSize)
 {
-    QFont font;
+    QFont font = textFont();
     if (pixelSize > 0) // a size of 0 would only warn and change nothing
         font.setPixelSize(pixelSize);
     font.setFamily(

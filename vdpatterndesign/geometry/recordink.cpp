@@ -2,6 +2,7 @@
 
 #include "chartcabinets.h"
 #include "geometry/recordcabinets.h"
+#include "geometry/textfont.h"
 #include "support/defaultlogo.h"
 #include "support/imagefile.h"
 #include "support/translation.h"
@@ -74,7 +75,7 @@ QRect pictureLogoInk(const TestChartToolsData& record)
 
 QFont labelFont(const TestChartToolsData& record)
 {
-    QFont font;
+    QFont font = textFont();
     font.setPixelSize(std::max(1, fittedLabelSize(record)));
     return font;
 }
@@ -156,7 +157,7 @@ QRect logoInk(const TestChartToolsData& record)
 
 int fittedLabelSize(const TestChartToolsData& record)
 {
-    return fittedLabelSize(record.inLineData.serialSize, QFont(), cabinetGrid(record.publicData));
+    return fittedLabelSize(record.inLineData.serialSize, textFont(), cabinetGrid(record.publicData));
 }
 
 CoveredLabels coveredLabels(const TestChartToolsData& record, const QRect& area)

@@ -1,5 +1,6 @@
 #include "layers/cabinetpainter.h"
 
+#include "geometry/textfont.h"
 #include "layers/chartpen.h"
 #include "layers/textbatch.h"
 
@@ -29,6 +30,7 @@ void drawCabinetLabels(QPainter& painter, const CabinetGrid& grid, const LabelSt
                        const QColor& color)
 {
     QFont font = painter.font();
+    font.setHintingPreference(textFont().hintingPreference());
     if (pixelSize > 0)
         font.setPixelSize(pixelSize);
     drawCabinetLabels(painter, grid, style, font, color);

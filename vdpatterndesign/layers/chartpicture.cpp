@@ -15,6 +15,7 @@ void lay(const ChartLayer& layer, LayerPicture& picture, QImage& chart)
 {
     {
         QPainter painter(&picture.begin(chart.size(), layer.coverage()));
+        painter.setLayoutDirection(Qt::LeftToRight); // whatever the host's is
         layer.draw(painter, chart.size());
     }
     picture.end();

@@ -1,6 +1,7 @@
 #include "layers/inlinelayer.h"
 
 #include "geometry/circlepair.h"
+#include "geometry/textfont.h"
 #include "layers/cabinetpainter.h"
 #include "layers/chartpen.h"
 
@@ -19,7 +20,8 @@ void InlineLayer::fit(const QSize& chart)
     if (circleVisible)
         effectiveDiameter = testcharttools::effectiveDiameter(chart, circleRadius);
     if (serialVisible)
-        workingSerialSize = ushort(fittedLabelSize(serialSize, QFont(), CabinetGrid{chart, rows, columns}));
+        workingSerialSize =
+            ushort(fittedLabelSize(serialSize, textFont(), CabinetGrid{chart, rows, columns}));
 }
 
 void InlineLayer::draw(QPainter& painter, const QSize& chart) const

@@ -1,5 +1,6 @@
 #include "layers/sequencelayer.h"
 
+#include "geometry/textfont.h"
 #include "layers/cabinetpainter.h"
 #include "layers/chartpen.h"
 
@@ -16,7 +17,7 @@ void SequenceLayer::fit(const QSize& chart)
 {
     if (linesVisible || labelsVisible)
         fittedLabelSize =
-            ushort(testcharttools::fittedLabelSize(labelSize, QFont(), CabinetGrid{chart, rows, columns}));
+            ushort(testcharttools::fittedLabelSize(labelSize, textFont(), CabinetGrid{chart, rows, columns}));
 }
 
 void SequenceLayer::draw(QPainter& painter, const QSize& chart) const

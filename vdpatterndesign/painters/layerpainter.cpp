@@ -83,6 +83,7 @@ void LayerPainter::renderPicture()
     if (image.isNull())
         return;
     QPainter painter(&image);
+    painter.setLayoutDirection(Qt::LeftToRight); // whatever the host's is
     if (coverage() == Coverage::Whole || coverage() == Coverage::Opaque)
         painter.setCompositionMode(QPainter::CompositionMode_Source); // over its last picture
     draw(painter, image.size());

@@ -51,6 +51,7 @@ const QImage& CachedPicture::load(const QString& path)
         return m_image;
     m_state = state;
     m_image = examinePicture(path) == PictureFile::Readable ? QImage(path) : QImage();
+    m_image.setDevicePixelRatio(1); // a file may be called "logo@2x.png"
     return m_image;
 }
 
