@@ -16,11 +16,19 @@
 
 namespace {
 
-constexpr int mostAtOnce = 4; ///< by itself: more do not keep the one that renders waiting, and take memory
+constexpr qint64 mostMemory = 1024LL * 1024 * 1024; ///< bytes, of pictures that are made at the same time
+constexpr qint64 bytesPerPixel = 12;                ///< of a picture, its largest layer, and its file
 
-int atOnce(int wanted)
+/// By itself, as many as there are cores, and fewer where the largest pictures would take too much memory.
+int atOnce(int wanted, const std::vector<PlannedPicture>& plan)
 {
-    return wanted > 0 ? wanted : std::min(QThread::idealThreadCount() + 1, mostAtOnce);
+    qint64 largest = 1;
+    for (const PlannedPicture& planned : plan) {
+        const auto& chart = planned.record.publicData;
+        largest = std::max(largest, qint64(chart.resolutionWidth) * chart.resolutionHeight);
+    }
+    const qint64 roomFor = std::max<qint64>(mostMemory / (largest * bytesPerPixel), 1);
+    return wanted > 0 ? wanted : int(std::min<qint64>(QThread::idealThreadCount(), roomFor));
 }
 
 Failure outOfMemory()
@@ -33,22 +41,22 @@ Failure outOfMemory()
 Batch::Batch(const Arguments& arguments, std::vector<PlannedPicture> plan)
     : m_arguments(arguments)
     , m_plan(std::move(plan))
-    , m_atOnce(atOnce(arguments.jobs))
+    , m_atOnce(atOnce(arguments.jobs, m_plan))
 {
 }
 
 Batch::~Batch()
 {
-    waitForEncoders(0);
+    waitForWorkers(0);
 }
 
 ExitCode Batch::run(const std::atomic<bool>& stop, const std::function<void()>& between)
 {
-    ChartRenderer renderer(QString::fromStdString(m_arguments.language));
+    const ChartRenderer renderer(QString::fromStdString(m_arguments.language));
     const ProgressBar bar(int(m_plan.size()));
     int begun = 0;
     for (PlannedPicture& planned : m_plan) {
-        waitForEncoders(m_atOnce - 1);
+        waitForWorkers(m_atOnce - 1);
         if (between)
             between();
         if (planned.picture.isKept) {
@@ -62,42 +70,45 @@ ExitCode Batch::run(const std::atomic<bool>& stop, const std::function<void()>& 
             make(planned, renderer);
         }
     }
-    waitForEncoders(0);
+    waitForWorkers(0);
     ExitCode worst = ExitCode::Good;
     for (const PlannedPicture& planned : m_plan)
         worst = std::max(worst, planned.code);
     return worst;
 }
 
-void Batch::make(PlannedPicture& planned, ChartRenderer& renderer)
+void Batch::make(PlannedPicture& planned, const ChartRenderer& renderer)
 {
     planned.picture.begun = true;
     if (planned.code != ExitCode::Good)
         return;
     try {
-        encode(planned, renderer.render(planned.record));
+        m_workers.emplace_back([this, &planned, &renderer] { draw(planned, renderer); });
+    } catch (const std::system_error&) { // no thread is to be had
+        draw(planned, renderer);
+    }
+}
+
+/// Which no exception may leave: it is what a thread does.
+void Batch::draw(PlannedPicture& planned, const ChartRenderer& renderer)
+{
+    try {
+        finish(planned, renderer.render(planned.record));
     } catch (const Failure& failure) {
+        const std::lock_guard<std::mutex> lock(m_results);
         planned.fail(failure);
     } catch (const std::bad_alloc&) {
+        const std::lock_guard<std::mutex> lock(m_results);
         planned.fail(outOfMemory());
     }
 }
 
-void Batch::encode(PlannedPicture& planned, const QImage& image)
-{
-    try {
-        m_encoders.emplace_back([this, &planned, image] { finish(planned, image); });
-    } catch (const std::system_error&) { // no thread is to be had
-        finish(planned, image);
-    }
-}
-
 /// Until no more than `count` are at work. They take about as long as one another: the first one ends first.
-void Batch::waitForEncoders(int count)
+void Batch::waitForWorkers(int count)
 {
-    while (int(m_encoders.size()) > count) {
-        m_encoders.front().join();
-        m_encoders.pop_front();
+    while (int(m_workers.size()) > count) {
+        m_workers.front().join();
+        m_workers.pop_front();
     }
 }
 
@@ -114,26 +125,18 @@ void Batch::write(const PlannedPicture& planned, const QByteArray& file)
 
 void Batch::finish(PlannedPicture& planned, const QImage& image)
 {
-    try {
-        PngOptions options;
-        options.compression = m_arguments.compression;
-        if (!m_arguments.withoutRecord)
-            options.texts = CarriedRecord::texts(planned.record, QString::fromStdString(m_arguments.language),
-                                                 batchPath(m_arguments, planned.picture.file));
-        const QByteArray file = encodeImage(image, QString::fromStdString(m_arguments.format), options);
-        write(planned, file);
-        const QByteArray sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
-        const std::lock_guard<std::mutex> lock(m_results);
-        planned.picture.size = image.size();
-        planned.picture.bytes = file.size();
-        planned.picture.sha256 = sha256;
-    } catch (const Failure& failure) {
-        const std::lock_guard<std::mutex> lock(m_results);
-        planned.fail(failure);
-    } catch (const std::bad_alloc&) { // which a thread may not leave
-        const std::lock_guard<std::mutex> lock(m_results);
-        planned.fail(outOfMemory());
-    }
+    PngOptions options;
+    options.compression = m_arguments.compression;
+    if (!m_arguments.withoutRecord)
+        options.texts = CarriedRecord::texts(planned.record, QString::fromStdString(m_arguments.language),
+                                             batchPath(m_arguments, planned.picture.file));
+    const QByteArray file = encodeImage(image, QString::fromStdString(m_arguments.format), options);
+    write(planned, file);
+    const QByteArray sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
+    const std::lock_guard<std::mutex> lock(m_results);
+    planned.picture.size = image.size();
+    planned.picture.bytes = file.size();
+    planned.picture.sha256 = sha256;
 }
 
 std::vector<BatchPicture> Batch::pictures() const

@@ -14,8 +14,8 @@
 class ChartRenderer;
 struct Arguments;
 
-/// Makes many pictures: charts are rendered one after another, and encoded and written beside that. A picture
-/// that fails does not keep the others from being made, unless it could not be written.
+/// Makes many pictures, several at a time: each of them is rendered, encoded and written by one thread. A
+/// picture that fails does not keep the others from being made, unless it could not be written.
 class Batch
 {
 public:
@@ -30,16 +30,16 @@ public:
     std::vector<BatchPicture> pictures() const;
 
 private:
-    void make(PlannedPicture& planned, ChartRenderer& renderer);
-    void encode(PlannedPicture& planned, const QImage& image);
-    void waitForEncoders(int count);
+    void make(PlannedPicture& planned, const ChartRenderer& renderer);
+    void draw(PlannedPicture& planned, const ChartRenderer& renderer);
+    void waitForWorkers(int count);
     void finish(PlannedPicture& planned, const QImage& image);
     void write(const PlannedPicture& planned, const QByteArray& file);
 
     const Arguments& m_arguments;
     std::vector<PlannedPicture> m_plan;
-    int m_atOnce;                       ///< encoders at the most
-    std::deque<std::thread> m_encoders; ///< at work, in the order of their pictures
+    int m_atOnce;                      ///< pictures at the most
+    std::deque<std::thread> m_workers; ///< in the order of their pictures
     std::atomic<bool> m_unwritable{false};
-    mutable std::mutex m_results; ///< of the pictures, which encoders write
+    mutable std::mutex m_results; ///< of the pictures, which workers write
 };
