@@ -10,17 +10,21 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-/// Lays the picture of `layer` over `chart`.
-void lay(const ChartLayer& layer, LayerPicture& picture, QImage& chart)
+/// Lays the picture of `layer` over `chart`; false where there is no memory for it.
+bool lay(const ChartLayer& layer, LayerPicture& picture, QImage& chart)
 {
+    QImage& own = picture.begin(chart.size(), layer.coverage());
+    if (own.isNull())
+        return false;
     {
-        QPainter painter(&picture.begin(chart.size(), layer.coverage()));
+        QPainter painter(&own);
         painter.setLayoutDirection(Qt::LeftToRight); // whatever the host's is
         layer.draw(painter, chart.size());
     }
     picture.end();
     QPainter painter(&chart);
     picture.paint(painter);
+    return true;
 }
 
 } // namespace
@@ -71,8 +75,8 @@ QImage ChartPicture::image() const
         if (layer->drawsOnLayersBelow()) {
             QPainter painter(&chart);
             layer->draw(painter, chart.size());
-        } else {
-            lay(*layer, picture, chart);
+        } else if (!lay(*layer, picture, chart)) {
+            return {};
         }
     }
     return chart;
