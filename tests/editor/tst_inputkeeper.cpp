@@ -165,9 +165,12 @@ private Q_SLOTS:
         QSignalSpy ends(entry, &QLineEdit::editingFinished);
         entry->setFocus();
         entry->selectAll();
+        other.setUpdateFlag(true); // the lock stays
         other.slotGetHeightWidth();
         QTRY_VERIFY(!otherUser.cancel()->isEnabled());
         QCOMPARE(shown.window.focusWidget(), entry);
+        other.setUpdateFlag(false);
+        other.slotGetHeightWidth();
         QVERIFY(otherUser.settle());
         QCOMPARE(ends.count(), 0); // the edit goes on
         repaints.start(70);
