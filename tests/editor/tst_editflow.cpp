@@ -234,10 +234,13 @@ private Q_SLOTS:
         QCOMPARE(m_tool->saveButtonsFollowState(), followsState);
         open(false);
         m_tool->updateShowSaveBtnStatus(unsaved);
+        m_tool->setUpdateFlag(true); // the lock stays
         m_tool->slotGetHeightWidth();
-        QTRY_VERIFY(!m_user->cancel()->isEnabled()); // locked
+        QTRY_VERIFY(!m_user->cancel()->isEnabled());
         QVERIFY(!m_user->replaceConfirm()->isEnabled());
         QVERIFY(!m_user->replaceApply()->isEnabled());
+        m_tool->setUpdateFlag(false);
+        m_tool->slotGetHeightWidth();
         QVERIFY(m_user->settle());
         QCOMPARE(enabledButtons(*m_user), buttons);
     }

@@ -152,6 +152,37 @@ private Q_SLOTS:
         QCOMPARE(entry->cursorPosition(), entry->text().size());
     }
 
+    void typingBesideAnotherToolThatRepaints()
+    {
+        Shown shown;
+        VTestChartTools other;
+        shown.window.layout()->addWidget(&other);
+        charttool::User otherUser(other);
+        QVERIFY(otherUser.settle());
+        QTimer repaints;
+        QObject::connect(&repaints, &QTimer::timeout, &other, &VTestChartTools::slotGetHeightWidth);
+        QLineEdit* entry = shown.customText();
+        QSignalSpy ends(entry, &QLineEdit::editingFinished);
+        entry->setFocus();
+        entry->selectAll();
+        other.setUpdateFlag(true); // the lock stays
+        other.slotGetHeightWidth();
+        QTRY_VERIFY(!otherUser.cancel()->isEnabled());
+        QCOMPARE(shown.window.focusWidget(), entry);
+        other.setUpdateFlag(false);
+        other.slotGetHeightWidth();
+        QVERIFY(otherUser.settle());
+        QCOMPARE(ends.count(), 0); // the edit goes on
+        repaints.start(70);
+        keysToFocus(&shown.window, QStringLiteral("main stage left 24x13"));
+        repaints.stop();
+        QVERIFY(shown.idle());
+        QVERIFY(otherUser.settle());
+        QCOMPARE(entry->text(), QStringLiteral("main stage left 24x13"));
+        QVERIFY(entry->hasFocus());
+        QCOMPARE(entry->cursorPosition(), entry->text().size());
+    }
+
     void typingGoesOnAtTheCursor()
     {
         Shown shown;

@@ -625,6 +625,31 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(m_host->last().path));
     }
 
+    void aToolThatIsGoneLeavesTheRemovalToTheApplication_data()
+    {
+        QTest::addColumn<bool>("replacementIsThere");
+        QTest::newRow("replaced") << true;
+        QTest::newRow("the replacement was taken away") << false;
+    }
+
+    void aToolThatIsGoneLeavesTheRemovalToTheApplication()
+    {
+        QFETCH(bool, replacementIsThere);
+        replace(oldChart());
+        const QString chart = m_host->last().path;
+        if (!replacementIsThere)
+            QVERIFY(QFile::remove(chart));
+        m_host.reset();
+        m_tool.reset();
+        QVERIFY(QFile::exists(oldChart())); // not before the host had its two seconds
+        if (replacementIsThere)
+            QTRY_VERIFY(!QFileInfo::exists(folderOf(oldChart())));
+        else
+            QTest::qWait(2300);
+        QCOMPARE(QFile::exists(oldChart()), !replacementIsThere);
+        QCOMPARE(QFile::exists(chart), replacementIsThere);
+    }
+
     void savePathMayChangeBeforeTheRemoval()
     {
         replace(oldChart());

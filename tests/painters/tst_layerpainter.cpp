@@ -1,8 +1,10 @@
 #include "layerpainter.h"
 #include "testcase.h"
 
+#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QPainter>
+#include <QThread>
 
 using namespace vardeno::testcharttools;
 
@@ -201,26 +203,6 @@ private Q_SLOTS:
         VD_COMPARE_IMAGES(layer.grab().toImage(), filled(QSize(30, 20), Qt::blue));
     }
 
-    void aShownLayerComesToRest()
-    {
-        PlainLayer layer;
-        layer.resize(300, 200);
-        QSignalSpy painted(&layer, &LayerPainter::sigPaintEventUpdated);
-        layer.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&layer));
-        QTRY_VERIFY(painted.count() > 0);
-        QTest::qWait(50);
-        const int renders = layer.drawn.size();
-        painted.clear();
-        QTest::qWait(150);
-        QCOMPARE(painted.count(), 0);
-        QCOMPARE(layer.drawn.size(), renders);
-
-        layer.setColor(Qt::green);
-        QTRY_VERIFY(painted.count() > 0);
-        QCOMPARE(layer.drawn.size(), renders + 1);
-    }
-
     void aLayerWithNothingToDrawFromKeepsItsPicture()
     {
         PlainLayer layer;
@@ -315,6 +297,68 @@ private Q_SLOTS:
         layer.grab();
         layer.draws = false;
         QVERIFY(!layer.coversItsArea());
+    }
+
+    void aShownLayerGoesOnPainting()
+    {
+        PlainLayer layer;
+        layer.resize(200, 100);
+        layer.setColor(Qt::green);
+        layer.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&layer));
+        const QSignalSpy reports(&layer, &LayerPainter::sigPaintEventUpdated);
+        QTRY_VERIFY(reports.count() >= 4);
+        QCOMPARE(layer.drawn.size(), 1);
+
+        layer.hide();
+        const int before = reports.count();
+        QTest::qWait(300);
+        QCOMPARE(reports.count(), before);
+        layer.show();
+        QTRY_VERIFY(reports.count() >= before + 3);
+    }
+
+    void anUnseenLayerPaintsWhenItIsAskedTo()
+    {
+        PlainLayer layer;
+        layer.resize(200, 100);
+        const QSignalSpy reports(&layer, &LayerPainter::sigPaintEventUpdated);
+        layer.grab();
+        QTest::qWait(300);
+        QCOMPARE(reports.count(), 1);
+    }
+
+    void pausesAreLongBesideThePaints_data()
+    {
+        QTest::addColumn<int>("work");
+        QTest::addColumn<int>("pause");
+        QTest::newRow("next to nothing") << 0 << 50;
+        QTest::newRow("5 ms") << 5 << 250;
+        QTest::newRow("15 ms") << 15 << 750;
+    }
+
+    void pausesAreLongBesideThePaints()
+    {
+        QFETCH(int, work);
+        QFETCH(int, pause);
+        PlainLayer layer;
+        layer.resize(200, 100);
+        QElapsedTimer clock;
+        clock.start();
+        QVector<qint64> pauses;
+        qint64 end = 0;
+        connect(&layer, &LayerPainter::sigPaintEventUpdated, this, [&] {
+            pauses.append(clock.elapsed() - end);
+            QThread::msleep(ulong(work));
+            end = clock.elapsed();
+        });
+        layer.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&layer));
+        QTest::qWait(200); // what showing the window sets off
+        const int shown = pauses.size();
+        QTRY_VERIFY(pauses.size() >= shown + 3);
+        for (int i = shown + 1; i < pauses.size(); ++i)
+            QVERIFY2(pauses[i] >= pause - 1, qPrintable(QString::number(pauses[i])));
     }
 
     void anEmptyLayerIsNotDrawn_data()

@@ -694,6 +694,94 @@ private Q_SLOTS:
         QVERIFY(!QSettings("image", "path").contains("lastImagePath"));
     }
 
+    void theHostHearsOfARefusal_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+        QTest::addColumn<QSize>("size");
+        const QString notRead = QStringLiteral("This is not a picture that can be read.");
+        QTest::newRow("too wide") << encoded(picture({3841, 1}), "PNG")
+                                  << QStringLiteral("The picture is too large.") << QSize(3841, 1);
+        QTest::newRow("text") << QByteArray("Cabinets: 144\n") << notRead << QSize();
+        QTest::newRow("empty") << QByteArray() << notRead << QSize();
+        QTest::newRow("truncated") << encoded(picture({90, 90}), "PNG").left(90)
+                                   << QStringLiteral("The picture is damaged.") << QSize(90, 90);
+    }
+
+    void theHostHearsOfARefusal()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        QFETCH(QSize, size);
+        PaintPicLogoWidget layer;
+        QVERIFY(!layer.hostTellsRefusals());
+        QVERIFY(layer.setProperty("hostTellsRefusals", true)); // no message box waits for its button
+        QVERIFY(layer.hostTellsRefusals());
+        const QSignalSpy refusals(&layer, &PaintPicLogoWidget::sigLogoRefused);
+        store(path("mark.png"), bytes);
+        upload(layer, path("mark.png"));
+        QCOMPARE(refusals.count(), 1);
+        QCOMPARE(refusals.first(), QVariantList({path("mark.png"), reason, size, QSize(3840, 3840)}));
+        QVERIFY(layer.picPath().empty());
+        upload(layer, saved(picture({40, 30}), "mark.png"));
+        QCOMPARE(refusals.count(), 1);
+    }
+
+    void theHostHearsOfWhatTheUserIsTold()
+    {
+        PaintPicLogoWidget layer;
+        const QSignalSpy refusals(&layer, &PaintPicLogoWidget::sigLogoRefused);
+        store(path("notes.png"), "Cabinets: 144");
+        bool heardBefore = false;
+        onDialog<QFileDialog>([&](QFileDialog* dialog) {
+            onDialog<QMessageBox>([&](QMessageBox* box) {
+                heardBefore = refusals.count() > 0;
+                QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+            });
+            open(dialog, path("notes.png"));
+        });
+        layer.uploadPicLogo();
+        QVERIFY(!heardBefore);
+        QCOMPARE(refusals.count(), 1);
+    }
+
+    void hostsThatTellRefusalsOfferJpegToo()
+    {
+        PaintPicLogoWidget layer;
+        layer.setHostTellsRefusals(true);
+        QStringList filters;
+        onDialog<QFileDialog>([&](QFileDialog* dialog) {
+            filters = dialog->nameFilters();
+            dialog->reject();
+        });
+        layer.uploadPicLogo();
+        QCOMPARE(filters, QStringList("Files(*.jpg *.jpeg *.bmp *.png)"));
+        const QString file = path("mark.jpeg");
+        QVERIFY(picture({40, 30}).save(file, "JPEG"));
+        upload(layer, file);
+        QCOMPARE(layer.picPath(), uploaded(QStringLiteral("mark.jpeg")).toStdString());
+    }
+
+    /// A photo of a camera that was held upright.
+    void turnedPhotosStandUpright()
+    {
+        QImage photo(40, 20, QImage::Format_RGB32);
+        photo.fill(Qt::blue);
+        QByteArray jpeg = encoded(photo, "JPEG");
+        jpeg.insert(2, QByteArray::fromHex("ffe10022457869660000"         // EXIF, big endian
+                                           "4d4d002a00000008"             //
+                                           "0001011200030000000100060000" // orientation 6: to the right
+                                           "00000000"));
+        store(path("photo.jpg"), jpeg);
+        PaintPicLogoWidget layer;
+        layer.resize(200, 120);
+        upload(layer, path("photo.jpg"));
+        QCOMPARE(QImage(uploaded(QStringLiteral("photo.jpg"))).size(), QSize(20, 40));
+        layer.setPicPath(path("photo.jpg").toStdString());
+        layer.grab();
+        QCOMPARE(layerImage(layer).size(), QSize(20, 40));
+    }
+
     void cancelIsLoggedOnly()
     {
         PaintPicLogoWidget layer;

@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QProcess>
 #include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 
 using namespace vardeno::testcharttools;
@@ -69,6 +70,9 @@ class TestInstalledTheme : public TestCase
     Q_OBJECT
 
     QTemporaryDir installation;
+    QString m_complaints; ///< of the last host
+
+    QString configFolder() const { return installation.filePath(QStringLiteral("config")); }
 
     QString themeFolder() const
     {
@@ -85,9 +89,13 @@ class TestInstalledTheme : public TestCase
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.debug=false"));
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), installation.path());
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), configFolder());
         process.setProcessEnvironment(environment);
         process.start(copy, {QLatin1String(reportArgument)});
         process.waitForFinished(60000);
+        m_complaints = QString::fromUtf8(process.readAllStandardError());
         return QString::fromUtf8(process.readAllStandardOutput());
     }
 
@@ -104,6 +112,37 @@ private Q_SLOTS:
         QVERIFY2(told.startsWith(QLatin1String("name LmTestChartTools\ntext #eeeef9\nsheet /* The look of")),
                  qPrintable(told));
         QVERIFY2(told.endsWith(QLatin1String("picker 1\n")), qPrintable(told));
+    }
+
+    void theCompiledInThemeWarnsOfNothing()
+    {
+        report();
+        m_complaints.remove(QStringLiteral("This plugin does not support propagateSizeHints()\n"));
+        QCOMPARE(m_complaints, QString());
+    }
+
+    void anInstalledThemeIsWarnedOf()
+    {
+        QVERIFY(writeFile(themeFolder() + QLatin1String("/default.testcharttoolstheme"),
+                          "[Colors]\nText01=red\n"));
+        report();
+        QVERIFY(m_complaints.contains(QLatin1String("Color \"red\" is neither a named color")));
+        QVERIFY(m_complaints.contains(QLatin1String("Theme Color Text02 is not set.")));
+    }
+
+    /// All of a user's programs share them.
+    void theUsersCustomColorsStay()
+    {
+        QByteArray colors = "[Qt]\n";
+        for (int i = 0; i < 16; ++i)
+            colors +=
+                "customColors\\" + QByteArray::number(i) + '=' + QByteArray::number(0xff102030U + i) + '\n';
+        QVERIFY(writeFile(configFolder() + QLatin1String("/QtProject.conf"), colors));
+        report();
+        const QSettings settings(configFolder() + QLatin1String("/QtProject.conf"), QSettings::IniFormat);
+        for (int i = 0; i < 16; ++i)
+            QCOMPARE(settings.value(QStringLiteral("Qt/customColors/%1").arg(i)).toUInt(),
+                     0xff102030U + uint(i));
     }
 
     void anInstalledThemeWins()

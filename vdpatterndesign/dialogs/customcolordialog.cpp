@@ -1,5 +1,6 @@
 #include "customcolordialog.h"
 
+#include "dialogs/userscolors.h"
 #include "support/translation.h"
 
 #include <QColorDialog>
@@ -17,7 +18,6 @@ namespace vardeno::testcharttools {
 namespace {
 
 constexpr char nameProperty[] = "name";
-constexpr int customColorCount = 16;
 
 struct Relabelling
 {
@@ -67,8 +67,7 @@ CustomColorDialog::CustomColorDialog(QWidget* parent)
     setObjectName(QStringLiteral("includeDialog"));
     setWindowFlags(windowFlags() | Qt::WindowStaysOnTopHint);
     setHideOnClose(true);
-    for (int i = 0; i < customColorCount; ++i)
-        QColorDialog::setCustomColor(i, QColor(43, 43, 46, 255));
+    UsersColors::replaceBy(QColor(43, 43, 46, 255));
     m_dialog->setObjectName(QStringLiteral("CustomDialog"));
     m_dialog->setModal(false);
     m_dialog->setOption(QColorDialog::DontUseNativeDialog);

@@ -1,7 +1,8 @@
 #include "editor/chartfolder.h"
 
+#include "support/chartlog.h"
+
 #include <QDateTime>
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -53,21 +54,22 @@ bool mayRemoveChartFolder(const QString& folder, const QString& replacement, con
 void removeChartFolder(const QString& path, const QString& replacement, const QString& saveRoot)
 {
     if (!QFileInfo(path).isFile()) {
-        qDebug() << Q_FUNC_INFO << "testChartImage does not exist:" << path;
+        qCDebug(chartLog) << Q_FUNC_INFO << "testChartImage does not exist:" << path;
         return;
     }
     const QString folder = QFileInfo(path).absolutePath();
     if (!QFileInfo::exists(folder)) {
-        qDebug() << Q_FUNC_INFO << "testChartImage Folder does not exist:" << folder;
+        qCDebug(chartLog) << Q_FUNC_INFO << "testChartImage Folder does not exist:" << folder;
         return;
     }
     const bool holdsTheChart =
         QFileInfo(path).canonicalPath() == canonical(folder); // not so behind "link/.."
     const bool removed = holdsTheChart && mayRemoveChartFolder(folder, replacement, saveRoot) &&
                          QDir(folder).removeRecursively();
-    qDebug() << Q_FUNC_INFO
-             << (removed ? "testChartImage Folder Removed success:" : "testChartImage Folder Removed Failed:")
-             << folder;
+    qCDebug(chartLog) << Q_FUNC_INFO
+                      << (removed ? "testChartImage Folder Removed success:"
+                                  : "testChartImage Folder Removed Failed:")
+                      << folder;
 }
 
 } // namespace vardeno::testcharttools

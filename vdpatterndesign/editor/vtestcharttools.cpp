@@ -1,12 +1,13 @@
 #include "vtestcharttools.h"
 
 #include "basicsettingbox.h"
-#include "controls/swatch.h"
 #include "customcolordialog.h"
-#include "editor/chartfolder.h"
+#include "editor/chartsaver.h"
+#include "editor/colorpicking.h"
 #include "editor/editbuttons.h"
-#include "editor/heldarrow.h"
-#include "editor/inputkeeper.h"
+#include "editor/livesliders.h"
+#include "editor/repaintcycle.h"
+#include "editor/settingscolumn.h"
 #include "geometry/previewfit.h"
 #include "inlinesettingbox.h"
 #include "logosettingbox.h"
@@ -20,8 +21,8 @@
 #include "paintselfwidget.h"
 #include "painttextlogowidget.h"
 #include "publicsettingbox.h"
-#include "saveimagethread.h"
 #include "selfsettingbox.h"
+#include "support/chartlog.h"
 #include "support/translation.h"
 #include "theme/resources.h"
 #include "theme/themefile.h"
@@ -29,20 +30,12 @@
 
 #include <propertybox.h>
 
-#include <QDateTime>
 #include <QDebug>
-#include <QDir>
 #include <QHBoxLayout>
 #include <QHideEvent>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QTimer>
-
-#include <algorithm>
 
 namespace vardeno::testcharttools {
 
@@ -50,33 +43,6 @@ namespace {
 
 constexpr QSize toolSize(1610, 803);
 constexpr QSize viewAreaSize(1199, 766);
-constexpr QSize settingsSize(410, 802);
-
-constexpr char servedRole[] = "customColorDialog"; ///< of the colour picker: what its colour is for
-
-constexpr int lockDelay = 10;       ///< ms: lets the mask paint before the panels lock
-constexpr int snapshotDelay = 100;  ///< ms: one snapshot for all that a change sets off
-constexpr int deletionDelay = 2000; ///< ms: the host learns of the new chart before the old one goes
-
-/// The column of the panels, which fill its width: its scroll bar, when there is one, lies over their right
-/// margin.
-class SettingsColumn : public QScrollArea
-{
-public:
-    explicit SettingsColumn(QWidget* parent)
-        : QScrollArea(parent)
-    {
-        setFixedSize(settingsSize);
-        setWidgetResizable(true);
-        setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int maximum) {
-            const int width = verticalScrollBar()->sizeHint().width();
-            setViewportMargins(0, 0, maximum > 0 ? -width : 0, 0);
-            verticalScrollBar()->parentWidget()->raise();
-        });
-    }
-};
 
 } // namespace
 
@@ -89,34 +55,18 @@ public:
     void createWidget();
     QWidget* createViewColumn();
     QWidget* createSettingsColumn();
-    PropertyBox* createSection(const char* objectName, const QString& title);
     template <typename Panel>
     Panel* addPanel(PropertyBox* section, const char* itemName, int lockRank);
-    void createColorDialog();
     void createConnects();
     void connectButtons();
     void connectReports();
     void connectColorDialog();
     void initTestChartTools();
-    void centreColorDialog();
 
     void fitToResolution();
-    void captureAndDisplay();
-    void beginCycle();
-    void showMask();
-    void lockControls(bool locked);
+    void captureAndDisplay() { cycle.start(); }
     void takeSnapshot();
-    bool isPaintDone() const;
-    QString servedColorRole() const
-    {
-        return colorDialog ? colorDialog->property(servedRole).toString() : QString();
-    }
-
-    QString saveImage(EditType type, const QString& name);
     QImage imageForSaving();
-    void write(const QImage& image, const QString& path, const std::function<void()>& written);
-    void chartWritten(EditType type, const QString& path);
-    void scheduleFileDeletion(const QString& path, const QString& replacement);
 
     VTestChartTools* owner;
     PropertyBox* layerSection = nullptr;
@@ -127,47 +77,28 @@ public:
     PublicSettingBox* publicPanel = nullptr;
     SelfSettingBox* selfPanel = nullptr;
     std::vector<SettingPanel*> panels; ///< as they follow one another in the column and in the record
-    std::map<int, SettingPanel*> panelsByLockRank; ///< the order in which they are locked, and take the focus
     LayerStack layers;
-    CustomColorDialog* colorDialog = nullptr; ///< null without a grandparent
     QWidget* viewArea = nullptr;
-    QScrollArea* scrollArea = nullptr;
-    QWidget* scrollContent = nullptr;
     EditButtons* buttons = nullptr;
-    QWidget* mask = nullptr;
     QLabel* previewLabel = nullptr;
-    QVBoxLayout* scrollLayout = nullptr;
-    InputKeeper input;
-    HeldArrow heldArrow;
     QRect fittedPreviewRect;
     QImage snapshot;
-    QString savePath = QStringLiteral(" ");
-    QString previewName = QStringLiteral(" ");
-    QString currentEditName = QStringLiteral(" ");
-    QString lastSavePath = QStringLiteral(" ");
-    QString failedPath;
-    QString failedReason;
     TestChartToolsData record;
-    QPoint dialogAnchor;
-    QColor colorBeforePicking; ///< invalid while there is none to go back to
     bool showForAdd = false;
-    int testImageNumber = 0;
-    std::map<int, bool> paintStatus;
     bool updating = false;
-    bool cycleBegun = false; ///< since control was last given back to the event loop
-    bool pushing = false;    ///< a record is being pushed: one capture at its end serves all its changes
-    bool captureWanted = false;
-    QList<QTimer*> deletionTimers;
+    RepaintCycle cycle;
+    LiveSliders liveSliders;
+    ColorPicking picking;
+    std::unique_ptr<ChartSaver> saver;
 };
 
 VTestChartTools::Impl::Impl(VTestChartTools* tool)
     : owner(tool)
     , layers(tool)
-    , input(tool)
-    , heldArrow(tool)
+    , cycle(tool, [this] { takeSnapshot(); })
+    , liveSliders([this](const std::function<void()>& change) { cycle.showAtOnce(change); })
+    , picking(tool, panels)
 {
-    for (int painter = 0; painter < 8; ++painter)
-        paintStatus[painter] = false;
 }
 
 void VTestChartTools::Impl::createWidget()
@@ -187,19 +118,9 @@ void VTestChartTools::Impl::createWidget()
     logoPanel->setPicLogoWidget(layers.find<PaintPicLogoWidget>());
     logoPanel->setTextLogoWidget(layers.find<PaintTextLogoWidget>());
     selfPanel->setPaintSelfWidget(layers.find<PaintSelfWidget>());
-    createColorDialog();
+    picking.createDialog();
     publicPanel->setPaintPublicBrightWidget(layers.find<PaintPublicBrightWidget>());
     publicPanel->setPaintPublicWidget(layers.find<PaintPublicWidget>());
-}
-
-void VTestChartTools::Impl::createColorDialog()
-{
-    if (!owner->parentWidget() || !owner->parentWidget()->parentWidget())
-        return;
-    colorDialog = new CustomColorDialog(owner);
-    colorDialog->setFloating(false);
-    colorDialog->setMoveClamped(true);
-    colorDialog->hide();
 }
 
 QWidget* VTestChartTools::Impl::createViewColumn()
@@ -218,50 +139,26 @@ QWidget* VTestChartTools::Impl::createViewColumn()
     layout->addWidget(viewArea);
     buttons = new EditButtons(column);
     layout->addWidget(buttons);
+    cycle.setButtons(buttons);
+    saver = std::make_unique<ChartSaver>(owner, buttons, record);
     return column;
 }
 
 QWidget* VTestChartTools::Impl::createSettingsColumn()
 {
-    scrollArea = new SettingsColumn(owner);
-    scrollArea->setObjectName(QStringLiteral("ScrollArea"));
-    scrollContent = new QWidget;
-    scrollContent->setObjectName(QStringLiteral("scrollWidget"));
-    scrollContent->setAttribute(Qt::WA_StyledBackground);
-    scrollArea->setWidget(scrollContent);
-    scrollLayout = new QVBoxLayout(scrollContent);
-    scrollLayout->setContentsMargins(0, 0, 0, 0);
-    scrollLayout->setSpacing(0);
-
-    layerSection = createSection("basePropertyBox", translated(QStringLiteral("Layer settings")));
+    auto* column = new SettingsColumn(owner);
+    layerSection = column->addSection("basePropertyBox", translated(QStringLiteral("Layer settings")));
     basicPanel = addPanel<BasicSettingBox>(layerSection, "basicSetting", 0);
     publicPanel = addPanel<PublicSettingBox>(layerSection, "publicSetting", 3);
-    contentSection = createSection("userSettingPropertyBox",
-                                   translated(QStringLiteral("Display content personalization")));
+    contentSection = column->addSection("userSettingPropertyBox",
+                                        translated(QStringLiteral("Display content personalization")));
     inLinePanel = addPanel<InLineSettingBox>(contentSection, "inLineSetting", 1);
     logoPanel = addPanel<LogoSettingBox>(contentSection, "logoSetting", 2);
     selfPanel = addPanel<SelfSettingBox>(contentSection, "selfSetting", 4);
-    scrollLayout->addStretch();
-
-    mask = new QWidget(scrollContent);
-    mask->setObjectName(QStringLiteral("maskWidget"));
-    mask->setFixedSize(settingsSize);
-    mask->setAttribute(Qt::WA_StyledBackground);
-    mask->hide();
-    connect(scrollArea->verticalScrollBar(), &QScrollBar::valueChanged, mask,
-            [this](int y) { mask->move(0, y); });
-    input.setCover(mask);
-    return scrollArea;
-}
-
-PropertyBox* VTestChartTools::Impl::createSection(const char* objectName, const QString& title)
-{
-    auto* section = new PropertyBox(scrollContent);
-    section->setObjectName(QLatin1String(objectName));
-    section->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    section->setTitleItem(title);
-    scrollLayout->addWidget(section);
-    return section;
+    column->finish();
+    cycle.setMask(column->mask());
+    cycle.finishSetup(column->widget());
+    return column;
 }
 
 template <typename Panel>
@@ -273,7 +170,8 @@ Panel* VTestChartTools::Impl::addPanel(PropertyBox* section, const char* itemNam
     layout->addWidget(panel);
     section->addItem(QLatin1String(itemName), layout, panel->sectionHeight());
     panels.push_back(panel);
-    panelsByLockRank[lockRank] = panel;
+    cycle.addPanel(panel, lockRank);
+    liveSliders.watch(panel);
     return panel;
 }
 
@@ -309,6 +207,7 @@ void VTestChartTools::Impl::createConnects()
 
 void VTestChartTools::Impl::connectColorDialog()
 {
+    const CustomColorDialog* const colorDialog = picking.dialog();
     if (!colorDialog)
         return;
     connect(colorDialog, &CustomColorDialog::sigColorSelected, owner, &VTestChartTools::slotColorSelected);
@@ -317,19 +216,6 @@ void VTestChartTools::Impl::connectColorDialog()
     connect(colorDialog, &CustomColorDialog::sigColorDialogRejected, owner,
             &VTestChartTools::slotColorDialogRejected);
     connect(colorDialog, &CustomColorDialog::sigColorAccept, owner, &VTestChartTools::slotDialogAccepted);
-}
-
-/// On the anchor first, then on the host, from which the tool may have been taken since it was built.
-void VTestChartTools::Impl::centreColorDialog()
-{
-    const QWidget* page = owner->parentWidget();
-    const QWidget* host = page ? page->parentWidget() : nullptr;
-    colorDialog->adjustSize(); // before it is first shown it has no size of its own
-    QRect frame = colorDialog->frameGeometry();
-    frame.moveCenter(dialogAnchor);
-    if (host)
-        frame.moveCenter(host->mapToGlobal(host->rect().center()));
-    colorDialog->move(frame.topLeft());
 }
 
 void VTestChartTools::Impl::connectReports()
@@ -357,80 +243,15 @@ void VTestChartTools::Impl::fitToResolution()
     fittedPreviewRect = fittedPreview(viewArea->size(), chart);
 }
 
-void VTestChartTools::Impl::captureAndDisplay()
-{
-    captureWanted = pushing;
-    if (pushing)
-        return;
-    if (!owner->isVisible()) {
-        takeSnapshot();
-        return;
-    }
-    for (auto& [number, painted] : paintStatus)
-        painted = false;
-    showMask();
-    if (!cycleBegun)
-        beginCycle();
-}
-
-/// One pair of timers serves all the signals of one change.
-void VTestChartTools::Impl::beginCycle()
-{
-    cycleBegun = true;
-    QTimer::singleShot(0, this, [this] { cycleBegun = false; });
-    QTimer::singleShot(lockDelay, this, [this] {
-        if (owner->isVisible())
-            lockControls(true);
-    });
-    QTimer::singleShot(snapshotDelay, this, [this] {
-        if (owner->isVisible())
-            takeSnapshot();
-    });
-}
-
-void VTestChartTools::Impl::showMask()
-{
-    mask->raise();
-    mask->show();
-}
-
-void VTestChartTools::Impl::lockControls(bool locked)
-{
-    input.begin(); // unlocking takes the focus as well, and a cycle may end before its lock has come
-    for (const auto& [rank, panel] : panelsByLockRank)
-        panel->setControlsDisabled(locked);
-    buttons->setLocked(locked);
-    if (locked)
-        return;
-    input.end();
-    heldArrow.resume();
-}
-
 void VTestChartTools::Impl::takeSnapshot()
 {
+    // What is shown at once is no cycle, and ends none.
+    const QScopedValueRollback<bool> ignored(updating, updating || cycle.showsAtOnce());
     previewLabel->clear(); // lets go of the snapshot, whose memory is used again
     layers.compose(snapshot);
     previewLabel->setPixmap(QPixmap::fromImage(snapshot));
     previewLabel->resize(fittedPreviewRect.size());
     previewLabel->move(fittedPreviewRect.topLeft());
-}
-
-bool VTestChartTools::Impl::isPaintDone() const
-{
-    return std::all_of(chartLayers().begin(), chartLayers().end(),
-                       [this](const Layer& layer) { return !layer.awaited || paintStatus.at(layer.number); });
-}
-
-QString VTestChartTools::Impl::saveImage(EditType type, const QString& name)
-{
-    const QString folder = chartFolder(savePath, QDateTime::currentDateTime());
-    QDir().mkpath(folder);
-    const QString fileName = name.isEmpty() ? translated(QStringLiteral("TestImage")) +
-                                                  QString::number(testImageNumber) + QLatin1String(".png")
-                                            : name;
-    const QString path = folder + QLatin1Char('/') + fileName;
-    write(imageForSaving(), path, [this, type, path] { chartWritten(type, path); });
-    return path;
 }
 
 /// The layers' reports while they paint for saving are not those of a repaint cycle.
@@ -440,58 +261,6 @@ QImage VTestChartTools::Impl::imageForSaving()
     const QImage image = layers.image();
     updating = false;
     return image;
-}
-
-void VTestChartTools::Impl::write(const QImage& image, const QString& path,
-                                  const std::function<void()>& written)
-{
-    buttons->beginWriting();
-    auto* thread = new SaveImageThread(image, path, owner);
-    connect(
-        thread, &SaveImageThread::saveFinished, this,
-        [this, thread, path, written](bool success) {
-            if (success) {
-                written();
-                return;
-            }
-            failedPath = path;
-            failedReason = thread->failedReason();
-            buttons->endWriting(false);
-            Q_EMIT owner->sigFail();
-        },
-        Qt::QueuedConnection);
-    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-    thread->start(QThread::InheritPriority);
-}
-
-void VTestChartTools::Impl::chartWritten(EditType type, const QString& path)
-{
-    const QString superseded = lastSavePath;      // the host may name the new chart while it is told of it
-    const QPointer<VTestChartTools> alive(owner); // or delete the tool
-    owner->getTestChartToolsData();
-    buttons->endWriting(true);
-    Q_EMIT owner->sigSave(record);
-    if (alive)
-        Q_EMIT owner->sigTestToolEditDone(owner->getTestChartToolsData(), path, type);
-    qDebug() << Q_FUNC_INFO << "testChartImage Folder Generated success:" << path;
-    if (alive && (type == ReplaceConfirm || type == ReplaceApply))
-        scheduleFileDeletion(superseded, path);
-}
-
-void VTestChartTools::Impl::scheduleFileDeletion(const QString& path, const QString& replacement)
-{
-    qDebug() << Q_FUNC_INFO << "testChartImage Folder Add to Timer :" << path;
-    auto* timer = new QTimer(owner);
-    timer->setSingleShot(true);
-    connect(timer, &QTimer::timeout, this, [this, path, timer, replacement, root = savePath] {
-        removeChartFolder(path, replacement, root);
-        deletionTimers.removeOne(timer);
-        timer->deleteLater();
-        qDebug() << Q_FUNC_INFO << "Delete timer completed for:" << path;
-    });
-    deletionTimers.append(timer);
-    qDebug() << Q_FUNC_INFO << "QTimer Start for:" << path << "in 2 seconds";
-    timer->start(deletionDelay);
 }
 
 VTestChartTools::VTestChartTools(QWidget* parent)
@@ -527,16 +296,14 @@ TestChartToolsData VTestChartTools::getTestChartToolsData()
 void VTestChartTools::setTestChartToolsData(TestChartToolsData data)
 {
     d->record = data;
-    d->pushing = true;
+    d->cycle.setHeld(true);
     d->layers.setHeld(true);
     for (SettingPanel* panel : d->panels)
         panel->pushFrom(data);
     if (d->showForAdd)
         d->basicPanel->colorStripeAddDefaultColors(true);
     d->layers.setHeld(false);
-    d->pushing = false;
-    if (d->captureWanted)
-        d->captureAndDisplay();
+    d->cycle.setHeld(false);
 }
 
 void VTestChartTools::applyRecord(const TestChartToolsData& record)
@@ -556,23 +323,23 @@ QImage VTestChartTools::chartImage()
 
 void VTestChartTools::setSavePath(const QString& root, const QString& name)
 {
-    d->savePath = root;
-    d->previewName = name;
+    d->saver->root = root;
+    d->saver->previewName = name;
 }
 
 void VTestChartTools::setLastSavePath(const QString& path)
 {
-    d->lastSavePath = path;
+    d->saver->lastSavePath = path;
 }
 
 void VTestChartTools::setCurrentEditNum(const QString& name)
 {
-    d->currentEditName = name;
+    d->saver->currentEditName = name;
 }
 
 void VTestChartTools::setTestImageNum(int number)
 {
-    d->testImageNumber = number;
+    d->saver->testImageNumber = number;
 }
 
 void VTestChartTools::setUpdateFlag(bool updating)
@@ -582,12 +349,12 @@ void VTestChartTools::setUpdateFlag(bool updating)
 
 QString VTestChartTools::failedPath() const
 {
-    return d->failedPath;
+    return d->saver->failedPath();
 }
 
 QString VTestChartTools::failedReason() const
 {
-    return d->failedReason;
+    return d->saver->failedReason();
 }
 
 void VTestChartTools::setShowForAdd(bool add)
@@ -616,6 +383,31 @@ void VTestChartTools::setSaveButtonsFollowState(bool follows)
     d->buttons->setFollowsState(follows);
 }
 
+bool VTestChartTools::liveSliders() const
+{
+    return d->liveSliders.isOn();
+}
+
+void VTestChartTools::setLiveSliders(bool live)
+{
+    d->liveSliders.setOn(live);
+}
+
+bool VTestChartTools::calmLock() const
+{
+    return d->cycle.look().isOn();
+}
+
+void VTestChartTools::setCalmLock(bool calm)
+{
+    d->cycle.look().setOn(calm);
+}
+
+PaintPicLogoWidget* VTestChartTools::pictureLogo() const
+{
+    return d->layers.find<PaintPicLogoWidget>();
+}
+
 void VTestChartTools::hideViewWidget()
 {
     d->previewLabel->hide();
@@ -634,9 +426,7 @@ bool VTestChartTools::wheelScrollsPanels() const
 
 void VTestChartTools::setMoveRange(const QRect& range)
 {
-    d->dialogAnchor = range.center();
-    if (d->colorDialog)
-        d->colorDialog->setMoveRange(range);
+    d->picking.setMoveRange(range);
 }
 
 void VTestChartTools::setTestChartToolsStyleSheet(const QString& themeFile)
@@ -645,14 +435,12 @@ void VTestChartTools::setTestChartToolsStyleSheet(const QString& themeFile)
     const QString sheet = findStyleSheet(themeFile);
     setStyleSheet(sheet);
     d->basicPanel->setDialogStyleSheet(sheet);
-    if (d->colorDialog)
-        d->colorDialog->setStyleSheet(sheet);
+    d->picking.setStyleSheet(sheet);
 }
 
 void VTestChartTools::closeColorDialog()
 {
-    if (d->colorDialog)
-        d->colorDialog->hide();
+    d->picking.hide();
 }
 
 void VTestChartTools::loadLanguageFiles(const std::vector<QString>& files)
@@ -674,10 +462,7 @@ void VTestChartTools::translateLanguage()
         panel->retranslate();
     d->layerSection->setTitleText(translated(QStringLiteral("Layer settings")));
     d->contentSection->setTitleText(translated(QStringLiteral("Display content personalization")));
-    if (!d->colorDialog)
-        return;
-    d->colorDialog->setTitle(translated(QStringLiteral("SelectColor")));
-    d->colorDialog->retranslate();
+    d->picking.retranslate();
 }
 
 void VTestChartTools::slotGetHeightWidth()
@@ -688,53 +473,45 @@ void VTestChartTools::slotGetHeightWidth()
 
 void VTestChartTools::slotSaveImage()
 {
-    const QString folder = d->savePath + QLatin1Char('/') + d->previewName;
-    QDir().mkpath(folder);
-    // The image lies beside the folder of its name, not in it.
-    d->write(d->layers.image(), folder + QLatin1String(".png"), [this] {
-        getTestChartToolsData();
-        d->buttons->endWriting(true);
-        d->buttons->cancel()->setEnabled(false);
-        Q_EMIT sigSave(d->record);
-    });
+    d->saver->savePreview([this] { return d->layers.image(); });
 }
 
 void VTestChartTools::slotCancleButtonClicked()
 {
-    qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
-             << "EditType::Cancle";
+    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
+                      << "EditType::Cancle";
     Q_EMIT sigTestToolEditDone(TestChartToolsData(), QString(), Cancle);
 }
 
 void VTestChartTools::slotAddConfirmButtonClicked()
 {
-    qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
-             << "EditType::AddConfirm";
+    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
+                      << "EditType::AddConfirm";
     d->buttons->addConfirm()->setEnabled(false);
-    d->saveImage(AddConfirm, QString());
+    d->saver->save(AddConfirm, QString(), [this] { return d->imageForSaving(); });
 }
 
 void VTestChartTools::slotReplaceConfirmButtonClicked()
 {
     if (!d->buttons->replaceApply()->isEnabled()) {
-        qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
-                 << "EditType::ReplaceConfirmOnlyCancle";
+        qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
+                          << "EditType::ReplaceConfirmOnlyCancle";
         Q_EMIT sigTestToolEditDone(getTestChartToolsData(), QString(), ReplaceConfirmOnlyCancle);
         return;
     }
     d->buttons->replaceConfirm()->setEnabled(false);
     d->buttons->replaceApply()->setEnabled(false);
-    qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
-             << "EditType::ReplaceConfirm";
-    d->saveImage(ReplaceConfirm, d->currentEditName);
+    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
+                      << "EditType::ReplaceConfirm";
+    d->saver->save(ReplaceConfirm, d->saver->currentEditName, [this] { return d->imageForSaving(); });
 }
 
 void VTestChartTools::slotReplaceApplyButtonClicked()
 {
     d->buttons->replaceApply()->setEnabled(false);
-    qDebug() << Q_FUNC_INFO << "TestChartTools EditType is :"
-             << "EditType::ReplaceApply";
-    d->saveImage(ReplaceApply, d->currentEditName);
+    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
+                      << "EditType::ReplaceApply";
+    d->saver->save(ReplaceApply, d->saver->currentEditName, [this] { return d->imageForSaving(); });
 }
 
 void VTestChartTools::slotUpdateRow(int row)
@@ -763,76 +540,42 @@ void VTestChartTools::slotSaveBtnLight()
 
 void VTestChartTools::slotMainWindowMove(const QRect& globalRect, const QPoint& movePos)
 {
-    d->dialogAnchor = globalRect.center();
-    if (d->colorDialog)
-        d->colorDialog->slotMainWindowMove(globalRect, movePos);
+    d->picking.moveWithHost(globalRect, movePos);
 }
 
 void VTestChartTools::slotShowColorDialog(QPushButton* button)
 {
-    if (!d->colorDialog || !button)
-        return;
-    const QString role = colorRole(button);
-    const QColor start = role == QLatin1String("add") ? QColor() : startColor(button);
-    // Another click on the button of an open picker does not change the colour to go back to.
-    if (!d->colorDialog->isVisible() || role != d->servedColorRole())
-        d->colorBeforePicking = start;
-    d->colorDialog->setProperty(servedRole, role);
-    d->colorDialog->setCurrentColor(start);
-    if (!d->colorDialog->isVisible()) {
-        d->colorDialog->setWindowFlags(d->colorDialog->windowFlags() | Qt::Window | Qt::WindowStaysOnTopHint);
-        d->centreColorDialog();
-    }
-    d->colorDialog->setWindowState(d->colorDialog->windowState() & ~Qt::WindowMinimized);
-    const QPointer<CustomColorDialog> dialog = d->colorDialog;
-    dialog->show(); // handles events, one of which may be the end of this tool
-    if (!dialog)
-        return;
-    dialog->raise();
-    dialog->activateWindow();
+    d->picking.open(button);
 }
 
 void VTestChartTools::slotColorSelected(const QColor& color)
 {
-    if (!d->isPaintDone())
-        return;
-    for (SettingPanel* panel : d->panels)
-        panel->setRoleColor(d->servedColorRole(), color);
+    if (d->cycle.status().isDone())
+        d->picking.select(color);
 }
 
 void VTestChartTools::slotColorDialogRejected()
 {
-    if (!d->colorBeforePicking.isValid())
-        return;
-    for (SettingPanel* panel : d->panels)
-        panel->setRoleColor(d->servedColorRole(), d->colorBeforePicking);
-    d->colorDialog->setCurrentColor(d->colorBeforePicking); // for the next choice, while it is locked open
+    d->picking.reject();
 }
 
 void VTestChartTools::slotDialogAccepted(QColor color)
 {
-    if (d->colorBeforePicking.isValid())
-        d->colorBeforePicking = color; // what the next choice goes back to, while the picker is locked open
-    d->basicPanel->addColor(color, d->servedColorRole());
+    d->picking.accept(color);
+    d->basicPanel->addColor(color, d->picking.servedRole());
 }
 
 void VTestChartTools::slotUpdatePaintEventStatus(QString senderName)
 {
-    qDebug() << Q_FUNC_INFO << "PaintTextChartTool is begining";
+    qCDebug(chartLog) << Q_FUNC_INFO << "PaintTextChartTool is begining";
     if (!isVisible() || d->updating)
         return;
-    for (const Layer& layer : chartLayers()) {
-        if (senderName != QLatin1String(layer.memberName))
-            continue;
-        d->paintStatus[layer.number] = true;
-        qDebug() << Q_FUNC_INFO << layer.doneText;
-        break;
-    }
-    if (!d->isPaintDone())
+    if (const char* const done = d->cycle.status().note(senderName))
+        qCDebug(chartLog) << Q_FUNC_INFO << done;
+    if (!d->cycle.status().isDone())
         return;
-    d->mask->hide();
-    d->lockControls(false);
-    qDebug() << Q_FUNC_INFO << "PaintTextChartTool is done";
+    d->cycle.finish();
+    qCDebug(chartLog) << Q_FUNC_INFO << "PaintTextChartTool is done";
 }
 
 void VTestChartTools::showEvent(QShowEvent* event)

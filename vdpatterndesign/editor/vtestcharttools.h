@@ -13,6 +13,8 @@ class QPushButton;
 
 namespace vardeno::testcharttools {
 
+class PaintPicLogoWidget;
+
 /// The test chart editor that a host embeds: the live chart on the left, the settings on the right, the edit
 /// buttons below. 1610 x 803 pixels.
 ///
@@ -24,6 +26,8 @@ class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
     Q_OBJECT
     Q_PROPERTY(bool saveButtonsFollowState READ saveButtonsFollowState WRITE setSaveButtonsFollowState)
     Q_PROPERTY(bool wheelScrollsPanels READ wheelScrollsPanels WRITE setWheelScrollsPanels)
+    Q_PROPERTY(bool liveSliders READ liveSliders WRITE setLiveSliders)
+    Q_PROPERTY(bool calmLock READ calmLock WRITE setCalmLock)
 
 public:
     explicit VTestChartTools(QWidget* parent = nullptr);
@@ -77,6 +81,19 @@ public:
     /// too.
     bool saveButtonsFollowState() const;
     void setSaveButtonsFollowState(bool follows);
+
+    /// Whether the chart follows a slider while it is dragged, as fast as it can be drawn. Off, at first, it
+    /// follows when the slider is released.
+    bool liveSliders() const;
+    void setLiveSliders(bool live);
+    /// Whether controls that are locked while the chart is repainted look so only when that takes longer than
+    /// 0.4 s. Off, at first, they look so at once. They are locked in the same way.
+    bool calmLock() const;
+    void setCalmLock(bool calm);
+
+    /// The layer of the picture logo, of this tool's life: its `sigLogoRefused` tells why a picture that the
+    /// user has chosen was not taken.
+    PaintPicLogoWidget* pictureLogo() const;
 
     /// Hides the preview.
     void hideViewWidget();

@@ -2,6 +2,7 @@
 
 #include "layers/chartlayer.h"
 #include "layers/layerpicture.h"
+#include "painters/paintpace.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -12,6 +13,12 @@ namespace vardeno::testcharttools {
 class LayerPainter::Impl
 {
 public:
+    explicit Impl(QWidget* layer)
+        : pace(layer)
+    {
+    }
+
+    PaintPace pace;
     ChartLayer* value = nullptr; ///< of the layer that this is the base of
     LayerPicture picture;
     QSize renderedSize;
@@ -23,7 +30,7 @@ public:
 
 LayerPainter::LayerPainter(QWidget* parent)
     : QLabel(parent)
-    , d(std::make_unique<Impl>())
+    , d(std::make_unique<Impl>(this))
 {
     // The layer takes the size of the chart; the picture of its previous size must not hold it.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
@@ -46,6 +53,7 @@ bool LayerPainter::coversItsArea()
 
 void LayerPainter::paintEvent(QPaintEvent* event)
 {
+    d->pace.begin();
     refresh();
     Q_EMIT sigPaintEventUpdated();
     paintStored(event);

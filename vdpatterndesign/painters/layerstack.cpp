@@ -25,9 +25,9 @@ LayerPainter* create()
 
 } // namespace
 
-const std::vector<Layer>& chartLayers()
+std::vector<Layer>& layerTable()
 {
-    static const std::vector<Layer> layers = {
+    static std::vector<Layer> layers = {
         {0, "m_pPaintBasicWidget", "PaintBasicWidget is done", true, false, create<PaintBasicWidget>},
         {3, "m_pPaintRowColSequeWidget", "PaintRowColSequeWidget is done", true, false,
          create<PaintRowColSequeWidget>},
@@ -42,6 +42,11 @@ const std::vector<Layer>& chartLayers()
         {5, "m_pPaintPublicWidget", "PaintPublicWidget is done", true, false, create<PaintPublicWidget>},
     };
     return layers;
+}
+
+const std::vector<Layer>& chartLayers()
+{
+    return layerTable();
 }
 
 LayerStack::LayerStack(QWidget* owner)

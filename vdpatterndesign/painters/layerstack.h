@@ -23,7 +23,10 @@ struct Layer
     LayerPainter* (*create)();
 };
 
-/// The layers of the chart, bottom to top. A layer is added to the chart by a line here.
+/// The layers of the chart, bottom to top. A layer is added to the chart by a line here; its number is its
+/// own.
+std::vector<Layer>& layerTable();
+/// The same, for all who only read it.
 const std::vector<Layer>& chartLayers();
 
 /// The painters of all layers, stacked in one hidden view of the chart's full resolution.

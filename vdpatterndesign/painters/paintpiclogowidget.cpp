@@ -2,14 +2,16 @@
 
 #include "defaultlogo.h"
 #include "layers/picturelogolayer.h"
+#include "support/chartlog.h"
 #include "support/imagefile.h"
 #include "support/translation.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFileDialog>
+#include <QImageReader>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -26,6 +28,22 @@ QString uploadFolder()
     return folder;
 }
 
+/// Why the picture in the file cannot be taken.
+QString refusal(const QString& path)
+{
+    switch (examinePicture(path)) {
+    case PictureFile::TooLarge:
+        return translated(QStringLiteral("The picture is too large."));
+    case PictureFile::Readable:
+        return translated(QStringLiteral("The picture is damaged."));
+    case PictureFile::Unreadable:
+        break;
+    }
+    return QFile(path).open(QIODevice::ReadOnly)
+               ? translated(QStringLiteral("This is not a picture that can be read."))
+               : translated(QStringLiteral("The file cannot be opened."));
+}
+
 } // namespace
 
 class PaintPicLogoWidget::Impl : public QObject
@@ -35,6 +53,7 @@ public:
 
     PictureLogoLayer layer;
     QString dialogTitle;
+    bool hostTellsRefusals = false;
     std::string picPath;
     CachedPicture picture;
 };
@@ -109,8 +128,8 @@ void PaintPicLogoWidget::setDefaultPicLogo()
 {
     d->picPath = defaultLogo().toStdString();
     const QPixmap whole = QPixmap::fromImage(d->picture.load(d->path()));
-    qDebug() << Q_FUNC_INFO << "picPixmap isNull:" << whole.isNull();
-    qDebug() << Q_FUNC_INFO << "picPixmap isNull:" << width();
+    qCDebug(chartLog) << Q_FUNC_INFO << "picPixmap isNull:" << whole.isNull();
+    qCDebug(chartLog) << Q_FUNC_INFO << "picPixmap isNull:" << width();
     setPixmap(whole);
 }
 
@@ -118,17 +137,17 @@ void PaintPicLogoWidget::uploadPicLogo()
 {
     QSettings settings(QStringLiteral("image"), QStringLiteral("path"));
     const QString lastFolder = settings.value(QStringLiteral("lastImagePath"), QDir::homePath()).toString();
-    const QString chosen = QFileDialog::getOpenFileName(nullptr, d->dialogTitle, lastFolder,
-                                                        QStringLiteral("Files(*.jpg *.bmp *.png)"));
+    const QString chosen =
+        QFileDialog::getOpenFileName(nullptr, d->dialogTitle, lastFolder,
+                                     d->hostTellsRefusals ? QStringLiteral("Files(*.jpg *.jpeg *.bmp *.png)")
+                                                          : QStringLiteral("Files(*.jpg *.bmp *.png)"));
     if (chosen.isEmpty()) {
-        qDebug() << Q_FUNC_INFO << "fileName open fail";
+        qCDebug(chartLog) << Q_FUNC_INFO << "fileName open fail";
         return;
     }
-    if (examinePicture(chosen) == PictureFile::TooLarge)
-        return;
-    const QImage image(chosen);
+    const QImage image = readPicture(chosen);
     if (image.isNull()) {
-        QMessageBox::information(this, QStringLiteral("result"), QStringLiteral("Error"), QMessageBox::Ok);
+        refuse(chosen);
         return;
     }
     const QFileInfo file(chosen);
@@ -137,6 +156,26 @@ void PaintPicLogoWidget::uploadPicLogo()
     setPicPath(copy.toStdString());
     update(); // the file may be new where its path is not
     settings.setValue(QStringLiteral("lastImagePath"), file.absolutePath());
+}
+
+void PaintPicLogoWidget::refuse(const QString& path)
+{
+    const QPointer<PaintPicLogoWidget> alive(this); // the box waits for the user
+    if (!d->hostTellsRefusals && examinePicture(path) != PictureFile::TooLarge)
+        QMessageBox::information(this, QStringLiteral("result"), QStringLiteral("Error"), QMessageBox::Ok);
+    if (alive)
+        Q_EMIT sigLogoRefused(path, refusal(path), QImageReader(path).size(),
+                              QSize(largestPicture, largestPicture));
+}
+
+bool PaintPicLogoWidget::hostTellsRefusals() const
+{
+    return d->hostTellsRefusals;
+}
+
+void PaintPicLogoWidget::setHostTellsRefusals(bool tells)
+{
+    d->hostTellsRefusals = tells;
 }
 
 void PaintPicLogoWidget::translateTitle()

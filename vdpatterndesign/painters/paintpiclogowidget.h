@@ -14,6 +14,7 @@ namespace vardeno::testcharttools {
 class VDPATTERNDESIGN_EXPORT PaintPicLogoWidget : public LayerPainter
 {
     Q_OBJECT
+    Q_PROPERTY(bool hostTellsRefusals READ hostTellsRefusals WRITE setHostTellsRefusals)
 
 public:
     explicit PaintPicLogoWidget(QWidget* parent = nullptr);
@@ -41,15 +42,25 @@ public:
     void setDefaultPicLogo();
 
     /// Lets the user choose a picture, copies it into the application's data folder as PNG data under its own
-    /// name, and shows it. An unreadable file is told in a message box; a picture that is too large is
-    /// refused in silence.
+    /// name, upright where the file says how the camera was held, and shows it. An unreadable file is told in
+    /// a message box; a picture that is too large is refused without a word to the user. The host hears of
+    /// both.
     void uploadPicLogo();
+
+    /// Whether the host tells its user of refused pictures. Off, at first, there is the message box for an
+    /// unreadable file. On, there is `sigLogoRefused` alone, and ".jpeg" is among the endings to choose from.
+    bool hostTellsRefusals() const;
+    void setHostTellsRefusals(bool tells);
 
     /// Looks up the title of the file dialog in the current language.
     void translateTitle();
 
 Q_SIGNALS:
     void sigMoveXY(int x, int y);
+    /// The user has chosen the file `path`, and it could not be taken: `reason` is a sentence in the current
+    /// language, `size` that of the picture as far as it is known, `limit` the largest that is taken, in
+    /// pixels.
+    void sigLogoRefused(const QString& path, const QString& reason, const QSize& size, const QSize& limit);
 
 protected:
     void draw(QPainter& painter, const QSize& size) override;
@@ -58,6 +69,8 @@ protected:
     bool sourceChanged() const override;
 
 private:
+    void refuse(const QString& path);
+
     class Impl;
     std::unique_ptr<Impl> d;
 };

@@ -27,7 +27,13 @@ int SettingPanel::sectionHeight() const
 void SettingPanel::setControlsDisabled(bool disabled)
 {
     m_controls->setLocked(disabled);
-    focusAfterLock(disabled);
+    if (m_lockTakesFocus)
+        focusAfterLock(disabled);
+}
+
+void SettingPanel::setLockTakesFocus(bool takes)
+{
+    m_lockTakesFocus = takes;
 }
 
 void SettingPanel::setWheelScrolls(bool scrolls)

@@ -37,6 +37,8 @@ public:
     /// focus. At first false.
     void setWheelScrolls(bool scrolls);
     bool wheelScrolls() const;
+    /// Whether a lock and an unlock move the focus; at first they do.
+    void setLockTakesFocus(bool takes);
 
     /// Shows every caption in the current language, in the panel and in the painters that it drives.
     virtual void retranslate();
@@ -66,6 +68,7 @@ protected:
 private:
     std::unique_ptr<PanelControls> m_controls;
     int m_usualHeight;
+    bool m_lockTakesFocus = true;
 };
 
 } // namespace vardeno::testcharttools

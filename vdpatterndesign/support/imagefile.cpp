@@ -44,13 +44,22 @@ PictureFile examinePicture(const QString& path)
     return small ? PictureFile::Readable : PictureFile::TooLarge;
 }
 
+QImage readPicture(const QString& path)
+{
+    if (examinePicture(path) == PictureFile::TooLarge)
+        return {};
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    return reader.read();
+}
+
 const QImage& CachedPicture::load(const QString& path)
 {
     const State state = stateOf(path);
     if (state == m_state)
         return m_image;
     m_state = state;
-    m_image = examinePicture(path) == PictureFile::Readable ? QImage(path) : QImage();
+    m_image = examinePicture(path) == PictureFile::Readable ? readPicture(path) : QImage();
     m_image.setDevicePixelRatio(1); // a file may be called "logo@2x.png"
     return m_image;
 }

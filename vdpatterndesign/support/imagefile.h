@@ -26,6 +26,10 @@ enum class PictureFile
 };
 VDCHARTCORE_EXPORT PictureFile examinePicture(const QString& path);
 
+/// The picture in `path`, upright where the file says how the camera was held; null for a file that is too
+/// large, which is not decoded, or that cannot be read.
+VDCHARTCORE_EXPORT QImage readPicture(const QString& path);
+
 /// A picture file that is decoded again only when the file has changed.
 class VDCHARTCORE_EXPORT CachedPicture
 {

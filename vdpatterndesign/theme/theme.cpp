@@ -1,5 +1,6 @@
 #include "theme.h"
 
+#include "support/chartlog.h"
 #include "support/safesettings.h"
 
 #include <QDebug>
@@ -68,7 +69,7 @@ void Theme::Impl::readColors(const Theme& theme, QSettings& settings, const char
         if (settings.contains(key))
             colors[std::size_t(i)] = theme.readNamedColor(settings.value(key).toString());
         else if (caller)
-            qWarning().noquote().nospace() << caller << " Theme Color " << key << " is not set.";
+            qCWarning(themeLog).noquote().nospace() << caller << " Theme Color " << key << " is not set.";
     }
     settings.endGroup();
 }
@@ -81,7 +82,8 @@ void Theme::Impl::readImageFiles(QSettings& settings, const char* caller)
         if (settings.contains(key))
             imageFiles.insert(key, settings.value(key).toString());
         else if (caller)
-            qWarning().noquote().nospace() << caller << " Theme image file " << key << " is not set.";
+            qCWarning(themeLog).noquote().nospace()
+                << caller << " Theme image file " << key << " is not set.";
     }
     settings.endGroup();
 }
@@ -95,7 +97,8 @@ void Theme::Impl::readIntegers(QSettings& settings, const char* caller)
         if (settings.contains(key))
             integers[std::size_t(i)] = settings.value(key).toInt();
         else if (caller)
-            qWarning().noquote().nospace() << caller << " Theme Interger type " << key << " is not set.";
+            qCWarning(themeLog).noquote().nospace()
+                << caller << " Theme Interger type " << key << " is not set.";
     }
     settings.endGroup();
 }
@@ -144,8 +147,8 @@ QPair<QColor, QString> Theme::readNamedColor(const QString& value) const
     const qlonglong argb = value.toLongLong(&isNumber, 16);
     if (isNumber)
         return {QColor::fromRgba(QRgb(argb)), QString()};
-    qWarning("%s Color \"%s\" is neither a named color nor a valid color", Q_FUNC_INFO,
-             value.toLocal8Bit().constData());
+    qCWarning(themeLog, "%s Color \"%s\" is neither a named color nor a valid color", Q_FUNC_INFO,
+              value.toLocal8Bit().constData());
     return {Qt::black, QString()};
 }
 

@@ -1,5 +1,6 @@
 #include "theme/themefile.h"
 
+#include "support/chartlog.h"
 #include "theme.h"
 #include "theme/resources.h"
 #include "theming.h"
@@ -18,6 +19,23 @@ namespace {
 constexpr char compiledInFolder[] = ":/theme/teststylesheet";
 constexpr char themeName[] = "default.testcharttoolstheme";
 
+/// Warns of nothing: what is odd in the compiled-in theme is meant, and no host can mend it.
+class QuietThemeLog
+{
+public:
+    explicit QuietThemeLog(bool quiet)
+        : m_before(themeLog().isWarningEnabled())
+    {
+        themeLog().setEnabled(QtWarningMsg, m_before && !quiet);
+    }
+    ~QuietThemeLog() { themeLog().setEnabled(QtWarningMsg, m_before); }
+    QuietThemeLog(const QuietThemeLog&) = delete;
+    QuietThemeLog& operator=(const QuietThemeLog&) = delete;
+
+private:
+    const bool m_before;
+};
+
 /// Empty where `folder` has no sheet that can be read.
 QString sheetIn(const QDir& folder)
 {
@@ -25,7 +43,7 @@ QString sheetIn(const QDir& folder)
     QFile file(folder.filePath(sheets.value(0)));
     if (!sheets.isEmpty() && file.open(QIODevice::ReadOnly))
         return QString::fromUtf8(file.readAll());
-    qDebug() << Q_FUNC_INFO << folder.filePath(QStringLiteral("*.qss")) << "not there!";
+    qCDebug(chartLog) << Q_FUNC_INFO << folder.filePath(QStringLiteral("*.qss")) << "not there!";
     return {};
 }
 
@@ -46,6 +64,7 @@ void loadTheme(const QString& file)
 {
     auto* theme = new Theme(QStringLiteral("testcharttools.theme"), QCoreApplication::instance());
     QSettings settings(file, QSettings::IniFormat);
+    const QuietThemeLog quiet(file.startsWith(QLatin1String(compiledInFolder)));
     theme->readSettings(settings);
     Theme::setCurrentTheme(theme);
 }
@@ -54,6 +73,7 @@ void extendTheme(const QString& file)
 {
     if (!QFileInfo::exists(file) || !Theme::currentTheme())
         return;
+    const QuietThemeLog quiet(file.startsWith(QLatin1String(compiledInFolder)));
     QSettings settings(file, QSettings::IniFormat);
     Theme::currentTheme()->readSettings(settings);
 }

@@ -1,5 +1,6 @@
 #include "theming.h"
 
+#include "support/chartlog.h"
 #include "theme.h"
 
 #include <QColor>
@@ -65,7 +66,8 @@ QString cssImage(const QString& key)
     if (!path.startsWith(QLatin1String(":/")))
         path = Theming::resolveThemePath(path);
     if (!QFileInfo::exists(path))
-        qDebug().noquote().nospace() << Q_FUNC_INFO << " " << key << "\t" << path << " is not exist!";
+        qCDebug(chartLog).noquote().nospace()
+            << Q_FUNC_INFO << " " << key << "\t" << path << " is not exist!";
     return path;
 }
 

@@ -1,0 +1,59 @@
+#include "editor/settingscolumn.h"
+
+#include <propertybox.h>
+
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace vardeno::testcharttools {
+
+namespace {
+
+constexpr QSize columnSize(410, 802);
+
+} // namespace
+
+SettingsColumn::SettingsColumn(QWidget* parent)
+    : QScrollArea(parent)
+{
+    setFixedSize(columnSize);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int maximum) {
+        const int width = verticalScrollBar()->sizeHint().width();
+        setViewportMargins(0, 0, maximum > 0 ? -width : 0, 0);
+        verticalScrollBar()->parentWidget()->raise();
+    });
+    setObjectName(QStringLiteral("ScrollArea"));
+    auto* content = new QWidget;
+    content->setObjectName(QStringLiteral("scrollWidget"));
+    content->setAttribute(Qt::WA_StyledBackground);
+    setWidget(content);
+    m_sections = new QVBoxLayout(content);
+    m_sections->setContentsMargins(0, 0, 0, 0);
+    m_sections->setSpacing(0);
+}
+
+PropertyBox* SettingsColumn::addSection(const char* objectName, const QString& title)
+{
+    auto* section = new PropertyBox(widget());
+    section->setObjectName(QLatin1String(objectName));
+    section->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    section->setTitleItem(title);
+    m_sections->addWidget(section);
+    return section;
+}
+
+void SettingsColumn::finish()
+{
+    m_sections->addStretch();
+    m_mask = new QWidget(widget());
+    m_mask->setObjectName(QStringLiteral("maskWidget"));
+    m_mask->setFixedSize(columnSize);
+    m_mask->setAttribute(Qt::WA_StyledBackground);
+    m_mask->hide();
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, m_mask, [this](int y) { m_mask->move(0, y); });
+}
+
+} // namespace vardeno::testcharttools

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "vdchartcore_export.h"
+
+#include <QLoggingCategory>
+
+namespace vardeno::testcharttools {
+
+/// What the library's debug lines belong to: "vardeno.testcharttools", on at first.
+VDCHARTCORE_EXPORT const QLoggingCategory& chartLog();
+
+/// What a theme that cannot be read as it should is warned of in: "vardeno.testcharttools.theme", on at
+/// first.
+VDCHARTCORE_EXPORT QLoggingCategory& themeLog();
+
+} // namespace vardeno::testcharttools
