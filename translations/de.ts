@@ -584,6 +584,14 @@
         <translation>Erneut versuchen</translation>
     </message>
     <message>
+        <source>This file is damaged, or no picture that can be read.</source>
+        <translation>Diese Datei ist beschädigt oder kein lesbares Bild.</translation>
+    </message>
+    <message>
+        <source>The picture has %1 x %2 pixels; a logo has at most %3 x %4.</source>
+        <translation>Das Bild hat %1 x %2 Pixel; ein Logo hat höchstens %3 x %4.</translation>
+    </message>
+    <message>
         <source>Save elsewhere…</source>
         <translation>Anderswo speichern…</translation>
     </message>

@@ -584,6 +584,14 @@
         <translation>Try again</translation>
     </message>
     <message>
+        <source>This file is damaged, or no picture that can be read.</source>
+        <translation>This file is damaged, or no picture that can be read.</translation>
+    </message>
+    <message>
+        <source>The picture has %1 x %2 pixels; a logo has at most %3 x %4.</source>
+        <translation>The picture has %1 x %2 pixels; a logo has at most %3 x %4.</translation>
+    </message>
+    <message>
         <source>Save elsewhere…</source>
         <translation>Save elsewhere…</translation>
     </message>

@@ -584,6 +584,14 @@
         <translation>Reintentar</translation>
     </message>
     <message>
+        <source>This file is damaged, or no picture that can be read.</source>
+        <translation>El archivo está dañado o no es una imagen legible.</translation>
+    </message>
+    <message>
+        <source>The picture has %1 x %2 pixels; a logo has at most %3 x %4.</source>
+        <translation>La imagen tiene %1 x %2 píxeles; un logotipo tiene como máximo %3 x %4.</translation>
+    </message>
+    <message>
         <source>Save elsewhere…</source>
         <translation>Guardar en otro lugar…</translation>
     </message>

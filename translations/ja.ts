@@ -584,6 +584,14 @@
         <translation>再試行</translation>
     </message>
     <message>
+        <source>This file is damaged, or no picture that can be read.</source>
+        <translation>このファイルは破損しているか、読み取れる画像ではありません。</translation>
+    </message>
+    <message>
+        <source>The picture has %1 x %2 pixels; a logo has at most %3 x %4.</source>
+        <translation>画像は %1 x %2 ピクセルです。ロゴは最大 %3 x %4 です。</translation>
+    </message>
+    <message>
         <source>Save elsewhere…</source>
         <translation>別の場所に保存…</translation>
     </message>

@@ -584,6 +584,14 @@
         <translation>重试</translation>
     </message>
     <message>
+        <source>This file is damaged, or no picture that can be read.</source>
+        <translation>此文件已损坏，或不是可读取的图片。</translation>
+    </message>
+    <message>
+        <source>The picture has %1 x %2 pixels; a logo has at most %3 x %4.</source>
+        <translation>图片为 %1 x %2 像素；徽标最大为 %3 x %4。</translation>
+    </message>
+    <message>
         <source>Save elsewhere…</source>
         <translation>保存到其他位置…</translation>
     </message>

@@ -125,8 +125,10 @@ int main(int argc, char** argv)
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setFont(chartFont());
 
-    // The editor's and the toolkit's log is for developers, who get it with QT_LOGGING_RULES="default=true".
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
+    // The log is for developers, who get the editor's with QT_LOGGING_RULES="vardeno.testcharttools=true" and
+    // the toolkit's with "default=true".
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("default.debug=false\ndefault.warning=false\nvardeno.testcharttools*.debug=false"));
 
     const Options options = parseCommandLine(application);
     if (!isShown && !options.headless)

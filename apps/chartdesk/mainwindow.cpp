@@ -7,6 +7,7 @@
 #include "editsession.h"
 #include "hosttext.h"
 #include "languages.h"
+#include "logorefusal.h"
 #include "messagebox.h"
 #include "obstacle.h"
 
@@ -173,6 +174,9 @@ QWidget* MainWindow::createEditorPage()
     scroll->setAlignment(Qt::AlignCenter);
     m_editor = new VTestChartTools(scroll);
     m_editor->setWheelScrollsPanels(true);
+    m_editor->setLiveSliders(true);
+    m_editor->setCalmLock(true);
+    tellRefusedLogos(m_editor);
     m_editor->findChild<BasicSettingBox*>()->setQuietWhenEmpty(true);
     scroll->setWidget(m_editor);
     m_session = new EditSession(m_editor, this);

@@ -10,7 +10,7 @@ inline bool isUtf8(const QByteArray& text)
 {
     // Behind a character a byte order mark is one like any other, and is not left out.
     const QByteArray whole = 'x' + text;
-    return QString::fromUtf8(whole).toUtf8() == whole;
+    return QString::fromUtf8(whole.constData(), whole.size()).toUtf8() == whole; // with its zero bytes
 }
 
 } // namespace vardeno::testcharttools
