@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the project and runs every functional test once. With --all also: the tests under AddressSanitizer and
-# UndefinedBehaviorSanitizer, the release with its benchmarks built, and each fuzz target for half a minute.
+# UndefinedBehaviorSanitizer, and each fuzz target for half a minute.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -45,10 +45,6 @@ if [ -n "$all" ]; then
   cmake --preset asan
   cmake --build --preset asan
   run_tests asan
-  step 'Release, with benchmarks'
-  scripts/setup.sh libbenchmark-dev
-  cmake --preset release
-  cmake --build --preset release
   step 'Fuzzing'
   scripts/fuzz.sh 30
 fi

@@ -19,11 +19,13 @@ public:
     void begin();
 
 private:
+    void ask();
     void pause();
 
     QWidget* m_widget;
     QElapsedTimer m_begun;
     QTimer m_next;
+    bool m_asked = false;
     bool m_measuring = false;
 };
 
