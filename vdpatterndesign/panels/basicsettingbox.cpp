@@ -711,8 +711,8 @@ bool BasicSettingBox::eventFilter(QObject* watched, QEvent* event)
     const bool ofStripeList = watched == d->stripeList || watched == d->stripeList->viewport();
     const bool dragsIn = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
                          event->type() == QEvent::Drop;
-    if (watched == d->stripeList && event->type() == QEvent::KeyPress &&
-        d->handleListKey(static_cast<const QKeyEvent&>(*event)))
+    const auto* key = event->type() == QEvent::KeyPress ? dynamic_cast<const QKeyEvent*>(event) : nullptr;
+    if (watched == d->stripeList && key && d->handleListKey(*key))
         return true;
     return (ofStripeList && dragsIn) || SettingPanel::eventFilter(watched, event);
 }
