@@ -85,7 +85,9 @@ int confirmDefaultChart(MainWindow& window, QApplication& application)
                      });
     window.addChart();
     window.session()->confirm();
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    window.session()->end(); // after a failure too: there is nobody to go on with a draft
+    return code;
 }
 
 /// Whether one of `options` is among the arguments, before any of them is parsed.

@@ -1,6 +1,7 @@
 #include "testcase.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QImage>
 #include <QProcess>
@@ -14,11 +15,14 @@ class TestChartDeskProgram : public TestCase
 
 private:
     QTemporaryDir m_runtimeFolder; // its absence is logged
+    QTemporaryDir m_home;          // the user's own keeps no drafts of tests
 
     void start(QProcess& process, const QStringList& arguments, const QStringList& without = {}) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_runtimeFolder.path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.path());
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.path());
         for (const QString& variable : without)
             environment.remove(variable);
         process.setProcessEnvironment(environment);
@@ -51,6 +55,16 @@ private Q_SLOTS:
         QVERIFY(desk.readAllStandardError().contains("/dev/null/charts"));
         QCOMPARE(desk.exitCode(), 1);
         QCOMPARE(desk.readAllStandardOutput(), QByteArray());
+    }
+
+    /// Nobody edited anything: the next user is asked nothing.
+    void aFailureWithoutAUserLeavesNoDraft()
+    {
+        QProcess desk;
+        run(desk, {"--headless", "--folder", "/dev/null/charts"});
+        QDirIterator drafts(m_home.path(), {QStringLiteral("draft.json")}, QDir::Files,
+                            QDirIterator::Subdirectories);
+        QVERIFY2(!drafts.hasNext(), qPrintable(drafts.next()));
     }
 
     /// All of them say success, and so each chart must be there.
