@@ -4,15 +4,10 @@
 #include <customdialog.h>
 #include <vtestcharttools.h>
 
-#include <QAbstractScrollArea>
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QBoxLayout>
-#include <QComboBox>
 #include <QEvent>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QSlider>
 #include <QStyle>
 
 #include <algorithm>
@@ -35,44 +30,17 @@ void arrangeButtons(const QWidget* bar)
     apply->style()->polish(apply);
 }
 
-/// No field takes the focus when the wheel is turned over it.
-template <typename Field>
-void keepFocusFromWheel(const QWidget* editor)
-{
-    const auto fields = editor->findChildren<Field*>();
-    for (Field* field : fields) {
-        if (field->focusPolicy() == Qt::WheelFocus)
-            field->setFocusPolicy(Qt::StrongFocus);
-    }
-}
-
-bool takesTheWheel(const QWidget* widget)
-{
-    return qobject_cast<const QAbstractSpinBox*>(widget) || qobject_cast<const QComboBox*>(widget) ||
-           qobject_cast<const QSlider*>(widget);
-}
-
-/// What is turned over `field` turns the page that it lies in.
-void scrollAround(const QWidget* field, QEvent* turn)
-{
-    for (QWidget* around = field->parentWidget(); around; around = around->parentWidget()) {
-        if (auto* area = qobject_cast<QAbstractScrollArea*>(around)) {
-            QCoreApplication::sendEvent(area->verticalScrollBar(), turn);
-            return;
-        }
-    }
-}
-
 } // namespace
 
 EditorLook::EditorLook(VTestChartTools* editor)
     : QObject(editor)
     , m_editor(editor)
 {
+    editor->setWheelScrollsPanels(true);
+    editor->setLiveSliders(true);
+    editor->setCalmLock(true);
+    editor->findChild<BasicSettingBox*>()->setQuietWhenEmpty(true);
     arrangeButtons(editor->findChild<QWidget*>(QStringLiteral("saveWidget")));
-    keepFocusFromWheel<QAbstractSpinBox>(editor);
-    keepFocusFromWheel<QComboBox>(editor);
-    keepFocusFromWheel<QSlider>(editor);
     QApplication::instance()->installEventFilter(this); // the question has no parent
 }
 
@@ -82,17 +50,7 @@ bool EditorLook::eventFilter(QObject* watched, QEvent* event)
         if (auto* question = qobject_cast<CustomDialog*>(watched))
             placeQuestion(question);
     }
-    if (event->type() == QEvent::Wheel && isFieldWithoutFocus(watched)) {
-        scrollAround(static_cast<const QWidget*>(watched), event);
-        return true;
-    }
     return QObject::eventFilter(watched, event);
-}
-
-bool EditorLook::isFieldWithoutFocus(const QObject* watched) const
-{
-    const auto* widget = qobject_cast<const QWidget*>(watched);
-    return widget && takesTheWheel(widget) && !widget->hasFocus() && m_editor->isAncestorOf(widget);
 }
 
 /// Below its button, or above it, as far to the right as the window allows.

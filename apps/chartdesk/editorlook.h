@@ -7,8 +7,8 @@ class VTestChartTools;
 }
 
 /// What this host wants otherwise than the editor has it: Confirm is always the last of its buttons, the only
-/// blue one, the question before a colour is deleted stays in the window and off its button, and the wheel
-/// turns a field that has the focus and scrolls the panel over every other.
+/// blue one, the question before a colour is deleted stays in the window and off its button and is not asked
+/// of an empty list, the wheel turns a field only with the focus, sliders are live, and the lock is calm.
 class EditorLook : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool isFieldWithoutFocus(const QObject* watched) const;
     void placeQuestion(QWidget* question) const;
 
     vardeno::testcharttools::VTestChartTools* m_editor;

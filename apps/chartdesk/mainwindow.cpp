@@ -11,7 +11,6 @@
 #include "messagebox.h"
 #include "obstacle.h"
 
-#include <basicsettingbox.h>
 #include <translatemanager1.h>
 
 #include <QActionGroup>
@@ -173,11 +172,7 @@ QWidget* MainWindow::createEditorPage()
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setAlignment(Qt::AlignCenter);
     m_editor = new VTestChartTools(scroll);
-    m_editor->setWheelScrollsPanels(true);
-    m_editor->setLiveSliders(true);
-    m_editor->setCalmLock(true);
     tellRefusedLogos(m_editor);
-    m_editor->findChild<BasicSettingBox*>()->setQuietWhenEmpty(true);
     scroll->setWidget(m_editor);
     m_session = new EditSession(m_editor, this);
     new EditorLook(m_editor);

@@ -1,11 +1,11 @@
 #include "charttool.h"
 #include "language.h"
+#include "wheel.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSlider>
 #include <QToolTip>
-#include <QWheelEvent>
 
 using namespace charttool;
 
@@ -43,17 +43,6 @@ double shownValue(const QWidget* field)
     if (const auto* box = qobject_cast<const QComboBox*>(field))
         return box->currentIndex();
     return qobject_cast<const QSlider*>(field)->value();
-}
-
-/// A step of the wheel as the platform reports it: to the window, which finds who lies on top there.
-void turn(const QWidget* field, int angle)
-{
-    QWidget* const window = field->window();
-    const QPoint place = field->mapTo(window, field->rect().center());
-    QWheelEvent event(place, window->mapToGlobal(place), {}, QPoint(0, angle), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(window->windowHandle(), &event);
 }
 
 } // namespace
@@ -109,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(user.show());
         SpinEditBox* const rows = user.entry("Box RowColNum");
         const double before = rows->value();
-        turn(rows, 120);
+        turnWheelOver(rows, 120);
         QCOMPARE(rows->value(), before + 1);
     }
 
@@ -141,8 +130,8 @@ private Q_SLOTS:
             const int place = bar->value();
             const double before = shownValue(field);
             const int angle = place > bar->maximum() / 2 || focused ? 120 : -120;
-            turn(field, angle);
-            turn(field, -angle / 2); // what does not come to a notch scrolls as well
+            turnWheelOver(field, angle);
+            turnWheelOver(field, -angle / 2); // what does not come to a notch scrolls as well
             QVERIFY2((bar->value() != place) != focused, qPrintable(field->accessibleName()));
             QCOMPARE(field->hasFocus(), focused);
             if (!focused)
