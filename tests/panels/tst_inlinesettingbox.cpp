@@ -183,6 +183,114 @@ class TestInLineSettingBox : public TestCase
 {
     Q_OBJECT
 
+private:
+    using Edit = std::function<void(InLineChartData&)>;
+
+    /// A row of `records`: what is pushed, and how what is shown then differs from it.
+    static void row(const char* name, const Edit& push, const Edit& show)
+    {
+        InLineChartData pushed;
+        push(pushed);
+        InLineChartData expected = pushed;
+        show(expected);
+        QTest::newRow(name) << pushed << expected;
+    }
+
+    static void same(InLineChartData&) {}
+
+    static void recordsWithinTheRanges()
+    {
+        row("default", same, same);
+        row(
+            "all different",
+            [](InLineChartData& data) {
+                data.circleSize = 60;
+                data.circleWidth = 3;
+                data.circleColor = {1, 2, 3, 255};
+                data.diagonalWidth = 4;
+                data.diagonalColor = {200, 100, 50, 128};
+                data.serialSize = 9;
+                data.serialColor = {255, 255, 255, 3};
+                data.letterMode = false;
+                data.numMode = true;
+                data.serialPosition = 2;
+                data.serialSort = 3;
+            },
+            same);
+        row(
+            "combination",
+            [](InLineChartData& data) {
+                data.letterMode = false;
+                data.combinationMode = true;
+                data.serialPosition = 1;
+                data.serialSort = 1;
+            },
+            same);
+        row(
+            "groups off, with colours of their own",
+            [](InLineChartData& data) {
+                data.showCircle = false;
+                data.circleColor = {255, 0, 0, 255};
+                data.circleSize = 100;
+                data.showDiagonal = false;
+                data.diagonalColor = {0, 0, 255, 40};
+                data.diagonalWidth = 7;
+                data.showSerialNumber = false;
+                data.serialColor = {250, 250, 0, 255};
+                data.serialSize = 8;
+            },
+            same);
+    }
+
+    static void recordsOutOfTheRanges()
+    {
+        row(
+            "below the ranges",
+            [](InLineChartData& data) {
+                data.circleSize = 0;
+                data.circleWidth = -1;
+                data.diagonalWidth = 0;
+                data.serialSize = -100;
+                data.serialPosition = -1;
+                data.serialSort = -5;
+                data.circleColor = {-1, 0, 0, 255};
+            },
+            [](InLineChartData& data) {
+                data.circleSize = data.circleWidth = data.diagonalWidth = data.serialSize = 1;
+                data.serialPosition = data.serialSort = 0;
+                data.circleColor.red = 0;
+            });
+        row(
+            "beyond the ranges",
+            [](InLineChartData& data) {
+                data.circleSize = 65537;
+                data.circleWidth = 101;
+                data.diagonalWidth = 1000000;
+                data.serialSize = 101;
+                data.serialPosition = 3;
+                data.serialSort = 4;
+                data.circleColor = {0, 256, 0, 1000};
+            },
+            [](InLineChartData& data) {
+                data.circleSize = 16384;
+                data.circleWidth = data.diagonalWidth = data.serialSize = 100;
+                data.serialPosition = 2;
+                data.serialSort = 3;
+                data.circleColor = {0, 255, 0, 255};
+            });
+    }
+
+    static void recordsOfModes()
+    {
+        row(
+            "no mode, the checked one stays", [](InLineChartData& data) { data.letterMode = false; },
+            [](InLineChartData& data) { data.letterMode = true; });
+        row(
+            "every mode, the last one wins",
+            [](InLineChartData& data) { data.numMode = data.combinationMode = true; },
+            [](InLineChartData& data) { data.letterMode = data.numMode = false; });
+    }
+
 private Q_SLOTS:
     void cleanup()
     {
@@ -912,96 +1020,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<InLineChartData>("pushed");
         QTest::addColumn<InLineChartData>("shown");
-        const auto row = [](const char* name, const std::function<void(InLineChartData&)>& push,
-                            const std::function<void(InLineChartData&)>& show) {
-            InLineChartData pushed;
-            push(pushed);
-            InLineChartData expected = pushed;
-            show(expected);
-            QTest::newRow(name) << pushed << expected;
-        };
-        const auto same = [](InLineChartData&) {};
-        row("default", same, same);
-        row(
-            "all different",
-            [](InLineChartData& data) {
-                data.circleSize = 60;
-                data.circleWidth = 3;
-                data.circleColor = {1, 2, 3, 255};
-                data.diagonalWidth = 4;
-                data.diagonalColor = {200, 100, 50, 128};
-                data.serialSize = 9;
-                data.serialColor = {255, 255, 255, 3};
-                data.letterMode = false;
-                data.numMode = true;
-                data.serialPosition = 2;
-                data.serialSort = 3;
-            },
-            same);
-        row(
-            "combination",
-            [](InLineChartData& data) {
-                data.letterMode = false;
-                data.combinationMode = true;
-                data.serialPosition = 1;
-                data.serialSort = 1;
-            },
-            same);
-        row(
-            "groups off, with colours of their own",
-            [](InLineChartData& data) {
-                data.showCircle = false;
-                data.circleColor = {255, 0, 0, 255};
-                data.circleSize = 100;
-                data.showDiagonal = false;
-                data.diagonalColor = {0, 0, 255, 40};
-                data.diagonalWidth = 7;
-                data.showSerialNumber = false;
-                data.serialColor = {250, 250, 0, 255};
-                data.serialSize = 8;
-            },
-            same);
-        row(
-            "below the ranges",
-            [](InLineChartData& data) {
-                data.circleSize = 0;
-                data.circleWidth = -1;
-                data.diagonalWidth = 0;
-                data.serialSize = -100;
-                data.serialPosition = -1;
-                data.serialSort = -5;
-                data.circleColor = {-1, 0, 0, 255};
-            },
-            [](InLineChartData& data) {
-                data.circleSize = data.circleWidth = data.diagonalWidth = data.serialSize = 1;
-                data.serialPosition = data.serialSort = 0;
-                data.circleColor.red = 0;
-            });
-        row(
-            "beyond the ranges",
-            [](InLineChartData& data) {
-                data.circleSize = 65537;
-                data.circleWidth = 101;
-                data.diagonalWidth = 1000000;
-                data.serialSize = 101;
-                data.serialPosition = 3;
-                data.serialSort = 4;
-                data.circleColor = {0, 256, 0, 1000};
-            },
-            [](InLineChartData& data) {
-                data.circleSize = 16384;
-                data.circleWidth = data.diagonalWidth = data.serialSize = 100;
-                data.serialPosition = 2;
-                data.serialSort = 3;
-                data.circleColor = {0, 255, 0, 255};
-            });
-        row(
-            "no mode, the checked one stays", [](InLineChartData& data) { data.letterMode = false; },
-            [](InLineChartData& data) { data.letterMode = true; });
-        row(
-            "every mode, the last one wins",
-            [](InLineChartData& data) { data.numMode = data.combinationMode = true; },
-            [](InLineChartData& data) { data.letterMode = data.numMode = false; });
+        recordsWithinTheRanges();
+        recordsOutOfTheRanges();
+        recordsOfModes();
     }
 
     void records()
