@@ -1,4 +1,5 @@
 #include "charttool.h"
+#include "editor/editordelays.h"
 
 #include <QStyleOptionSpinBox>
 
@@ -60,6 +61,18 @@ private:
     };
 
 private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        editorDelays().patience = 60000; // no lock takes longer, whatever else the machine does
+    }
+
+    void cleanup()
+    {
+        editorDelays() = EditorDelays();
+        TestCase::cleanup();
+    }
+
     void aShortLock_data()
     {
         QTest::addColumn<bool>("calm");
@@ -90,6 +103,7 @@ private Q_SLOTS:
         Shown shown;
         QVERIFY(shown.ready);
         shown.tool.setCalmLock(true);
+        editorDelays().patience = 1000;
         DisabledPaints entry(shown.columns());
         shown.tool.setUpdateFlag(true); // the lock does not end
         shown.tool.slotGetHeightWidth();
@@ -99,6 +113,7 @@ private Q_SLOTS:
         QTRY_VERIFY(entry.count > 0);
         QVERIFY(shown.user.mask()->grab().toImage().pixelColor(5, 5).alpha() > 0);
 
+        editorDelays().patience = 60000;
         shown.tool.setUpdateFlag(false);
         shown.tool.slotGetHeightWidth();
         QVERIFY(shown.user.settle());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settles.h"
 #include "testcase.h"
 
 #include <basicsettingbox.h>
@@ -131,18 +132,7 @@ public:
         return QTest::qWaitForWindowExposed(m_tool.window()) && settle();
     }
 
-    /// Waits until the tool has been idle for longer than a repaint cycle takes to show: at so many looks, 10
-    /// ms or more apart, between which its timers had their turn.
-    bool settle()
-    {
-        int idleLooks = 0;
-        return QTest::qWaitFor(
-            [&] {
-                idleLooks = mask()->isVisible() || !cancel()->isEnabled() ? 0 : idleLooks + 1;
-                return idleLooks > 14;
-            },
-            20000);
-    }
+    bool settle() { return settles(m_tool); }
 
     /// Scrolls the settings column until it shows `widget`; does nothing for what is not in the column.
     void reveal(const QWidget* widget)

@@ -2,6 +2,7 @@
 
 #include "editsession.h"
 #include "mainwindow.h"
+#include "settles.h"
 
 #include <spineditbox.h>
 
@@ -78,18 +79,9 @@ inline vardeno::testcharttools::SpinEditBox* rowEntry(const MainWindow& window)
     return nullptr;
 }
 
-/// The editor has painted, and no lock of it is to come.
 inline bool settle(const MainWindow& window)
 {
-    const auto* mask = window.editor()->findChild<QWidget*>(QStringLiteral("maskWidget"));
-    const bool isCycle = QTest::qWaitFor([&] { return mask->isVisible(); }, 300);
-    bool isDone = true;
-    while (isCycle && isDone && mask->isVisible()) {
-        isDone = QTest::qWaitFor([&] { return mask->isHidden(); });
-        QTest::qWait(50); // one change may set off another
-    }
-    QTest::qWait(20); // the focus is given back
-    return isDone;
+    return settles(*window.editor());
 }
 
 inline bool setRows(const MainWindow& window, int rows)

@@ -161,15 +161,15 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QByteArray walls = "name,width,height\n";
-        for (int i = 0; i < 30; ++i)
-            walls += "w" + QByteArray::number(i) + ",1920,1080\n";
+        for (int i = 0; i < 300; ++i)
+            walls += "w" + QByteArray::number(i) + ",320,180\n";
         write(QStringLiteral("many.csv"), walls);
         const Outcome outcome = runInShell(
             QStringLiteral("rm -rf many; trap '' %1; $vdchart batch small.json -w many.csv -o many & "
                            "until ls many/*.png >/dev/null 2>&1; do sleep 0.02; done; kill -%1 $!; wait $!")
                 .arg(name));
         QCOMPARE(outcome.code, 0);
-        QCOMPARE(outcome.output, QByteArray("30 of 30 pictures written\n"));
+        QCOMPARE(outcome.output, QByteArray("300 of 300 pictures written\n"));
     }
 
     /// At the first picture, or before.
