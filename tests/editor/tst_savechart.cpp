@@ -650,6 +650,29 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(chart), replacementIsThere);
     }
 
+    void anApplicationThatEndsMakesUpForRemovals_data()
+    {
+        QTest::addColumn<bool>("toolIsGone");
+        QTest::newRow("of a tool that is there") << false;
+        QTest::newRow("of a tool that is gone") << true;
+    }
+
+    void anApplicationThatEndsMakesUpForRemovals()
+    {
+        QFETCH(bool, toolIsGone);
+        replace(oldChart());
+        const QString chart = m_host->last().path;
+        if (toolIsGone) {
+            m_host.reset();
+            m_tool.reset();
+        }
+        QVERIFY(QFile::exists(oldChart()));
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(!QFileInfo::exists(folderOf(oldChart())));
+        QVERIFY(QFile::exists(chart));
+    }
+
     void savePathMayChangeBeforeTheRemoval()
     {
         replace(oldChart());

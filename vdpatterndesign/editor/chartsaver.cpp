@@ -17,8 +17,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <algorithm>
-
 namespace vardeno::testcharttools {
 
 ChartSaver::ChartSaver(VTestChartTools* tool, EditButtons* buttons, TestChartToolsData& record)
@@ -26,18 +24,28 @@ ChartSaver::ChartSaver(VTestChartTools* tool, EditButtons* buttons, TestChartToo
     , m_buttons(buttons)
     , m_record(record)
 {
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
+        while (!m_removals.isEmpty())
+            removeReplaced(m_removals.firstKey());
+    });
 }
 
 /// Not now: a host that hears of the new chart by a queued signal still has the old one.
 ChartSaver::~ChartSaver()
 {
-    for (const auto& [timer, removal] : m_deletionTimers) {
-        const auto removeLate = [removal = removal] {
+    if (!qApp)
+        return;
+    for (auto pending = m_removals.cbegin(); pending != m_removals.cend(); ++pending) {
+        auto* late = new QTimer(qApp);
+        const auto removeLate = [late, removal = pending.value()] {
             if (QFileInfo::exists(removal.path))
                 removeChartFolder(removal.path, removal.replacement, removal.root);
+            late->deleteLater();
         };
-        if (qApp)
-            QTimer::singleShot(timer->remainingTime(), qApp, removeLate);
+        connect(late, &QTimer::timeout, late, removeLate);
+        connect(qApp, &QCoreApplication::aboutToQuit, late, removeLate);
+        late->setSingleShot(true);
+        late->start(pending.key()->remainingTime());
     }
 }
 
@@ -109,17 +117,18 @@ void ChartSaver::scheduleFileDeletion(const QString& path, const QString& replac
     qCDebug(chartLog) << Q_FUNC_INFO << "testChartImage Folder Add to Timer :" << path;
     auto* timer = new QTimer(m_tool);
     timer->setSingleShot(true);
-    const Removal removal{path, replacement, root};
-    connect(timer, &QTimer::timeout, this, [this, timer, removal] {
-        removeChartFolder(removal.path, removal.replacement, removal.root);
-        const auto isOfTimer = [timer](const auto& pending) { return pending.first == timer; };
-        m_deletionTimers.erase(std::find_if(m_deletionTimers.begin(), m_deletionTimers.end(), isOfTimer));
-        timer->deleteLater();
-        qCDebug(chartLog) << Q_FUNC_INFO << "Delete timer completed for:" << removal.path;
-    });
-    m_deletionTimers.append({timer, removal});
+    connect(timer, &QTimer::timeout, this, [this, timer] { removeReplaced(timer); });
+    m_removals.insert(timer, {path, replacement, root});
     qCDebug(chartLog) << Q_FUNC_INFO << "QTimer Start for:" << path << "in 2 seconds";
     timer->start(editorDelays().removal);
+}
+
+void ChartSaver::removeReplaced(QTimer* timer)
+{
+    const Removal removal = m_removals.take(timer);
+    removeChartFolder(removal.path, removal.replacement, removal.root);
+    timer->deleteLater();
+    qCDebug(chartLog) << Q_FUNC_INFO << "Delete timer completed for:" << removal.path;
 }
 
 } // namespace vardeno::testcharttools

@@ -2,7 +2,7 @@
 
 #include "testcharttoolsdata.h"
 
-#include <QList>
+#include <QMap>
 #include <QObject>
 #include <QString>
 
@@ -22,7 +22,7 @@ class ChartSaver : public QObject
 public:
     /// `record` is the tool's own, which `sigSave` carries.
     ChartSaver(VTestChartTools* tool, EditButtons* buttons, TestChartToolsData& record);
-    /// Removals that are still to come are left to the application.
+    /// Removals that are still to come are left to the application, which makes up for them when it ends.
     ~ChartSaver() override;
 
     /// What the host has set.
@@ -53,13 +53,14 @@ private:
     void chartWritten(EditType type, const QString& path);
     void previewWritten();
     void scheduleFileDeletion(const QString& path, const QString& replacement);
+    void removeReplaced(QTimer* timer);
 
     VTestChartTools* m_tool;
     EditButtons* m_buttons;
     TestChartToolsData& m_record;
     QString m_failedPath;
     QString m_failedReason;
-    QList<QPair<QTimer*, Removal>> m_deletionTimers;
+    QMap<QTimer*, Removal> m_removals; ///< that are to come
 };
 
 } // namespace vardeno::testcharttools
