@@ -21,6 +21,8 @@ function(vd_defaults target)
     $<$<EQUAL:${VD_QT_MAJOR},6>:QT_DEPRECATED_WARNINGS_SINCE=0x050F00>)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow> -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wold-style-cast
+    # In a unity build every source is an included file.
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wno-subobject-linkage>
     $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments> # as the toolkit's logging macros are
     $<$<BOOL:${VD_WARNINGS_AS_ERRORS}>:-Werror>)
   if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
@@ -38,9 +40,10 @@ function(vd_defaults target)
   endif()
 endfunction()
 
-# vd_precompile(<target> <header …> | REUSE_FROM <target>): the headers that its sources mostly wait for.
+# vd_precompile(<target> <header …> | REUSE_FROM <target>): the headers that its sources mostly wait for. In a unity build
+# they are read so seldom that precompiling them costs more.
 function(vd_precompile target)
-  if(NOT VD_PRECOMPILED_HEADERS)
+  if(NOT VD_PRECOMPILED_HEADERS OR CMAKE_UNITY_BUILD)
     return()
   endif()
   if("${ARGV1}" STREQUAL REUSE_FROM)

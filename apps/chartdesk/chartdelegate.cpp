@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int gap = 4;     ///< around a chart's frame
-constexpr int padding = 8; ///< inside it
+constexpr int frameGap = 4; ///< around a chart's frame
+constexpr int padding = 8;  ///< inside it
 constexpr int titleLines = 2;
 
 /// The frame that tells a selected chart, and one under the pointer.
@@ -27,7 +27,7 @@ void drawFrame(QPainter* painter, const QStyleOptionViewItem& option, const QRec
 void ChartDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const
 {
-    const QRect frame = option.rect.adjusted(gap, gap, -gap, -gap);
+    const QRect frame = option.rect.adjusted(frameGap, frameGap, -frameGap, -frameGap);
     QRect place(QPoint(), pictureSize);
     place.moveCenter(frame.center());
     place.moveTop(frame.top() + padding);
@@ -48,6 +48,6 @@ void ChartDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 QSize ChartDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
 {
-    const int margin = gap + padding;
+    const int margin = frameGap + padding;
     return pictureSize + QSize(2 * margin, 2 * margin + padding + titleLines * option.fontMetrics.height());
 }

@@ -13,7 +13,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr int pause = 1000; ///< ms between two drafts on the disk
+constexpr int draftPause = 1000; ///< ms between two drafts on the disk
 
 std::unique_ptr<QLockFile> lockOf(const QString& folder)
 {
@@ -117,7 +117,7 @@ DraftKeeper::DraftKeeper(std::function<Draft()> collect, QObject* parent)
 {
     m_soon.setSingleShot(true); // a change tells of itself many times
     m_pause.setSingleShot(true);
-    m_pause.setInterval(pause);
+    m_pause.setInterval(draftPause);
     connect(&m_soon, &QTimer::timeout, this, &DraftKeeper::write);
     connect(&m_pause, &QTimer::timeout, this, [this] {
         if (m_isTouched)

@@ -16,7 +16,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr int gap = 4; ///< between the question and its button
+constexpr int questionGap = 4; ///< between the question and its button
 
 /// The editor's own order is: to add, to confirm a replacement, to apply one.
 void arrangeButtons(const QWidget* bar)
@@ -63,9 +63,9 @@ void EditorLook::placeQuestion(QWidget* question) const
         return;
     const QRect room(window->mapToGlobal(QPoint()), window->size());
     const QRect place(button->mapToGlobal(QPoint()), button->size());
-    QRect wanted(QPoint(place.left(), place.bottom() + gap), question->size());
+    QRect wanted(QPoint(place.left(), place.bottom() + questionGap), question->size());
     if (wanted.bottom() > room.bottom())
-        wanted.moveBottom(place.top() - gap);
-    wanted.moveRight(std::min(wanted.right(), room.right() - gap));
+        wanted.moveBottom(place.top() - questionGap);
+    wanted.moveRight(std::min(wanted.right(), room.right() - questionGap));
     question->move(wanted.topLeft());
 }

@@ -13,7 +13,6 @@
 using namespace vardeno::testcharttools;
 
 using Values = QList<double>;
-Q_DECLARE_METATYPE(Values)
 
 /// A box of 1 to 100 px that shows 50, in a shown window with another entry below it.
 class TestSpinEditBox : public TestCase

@@ -25,7 +25,6 @@
 using namespace vardeno::testcharttools;
 
 using Values = QList<double>;
-Q_DECLARE_METATYPE(Values)
 
 namespace {
 

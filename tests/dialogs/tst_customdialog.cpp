@@ -55,7 +55,7 @@ public:
     QStringList heard;
 };
 
-QString longText()
+QString longQuestion()
 {
     return QStringLiteral("Soll diese Farbe wirklich aus dem Farbbalken entfernt werden?");
 }
@@ -201,7 +201,7 @@ private Q_SLOTS:
         Dialog d;
         if (shownBefore)
             QVERIFY(d.show());
-        QVERIFY(speak({{QStringLiteral("DeleteColorBar"), longText()}}));
+        QVERIFY(speak({{QStringLiteral("DeleteColorBar"), longQuestion()}}));
         QCOMPARE(d.message()->text(), QStringLiteral("DeleteColorBar"));
         d.dialog->retranslate();
         if (!shownBefore)
@@ -210,10 +210,10 @@ private Q_SLOTS:
         const QString shown = d.message()->text();
         const QChar ellipsis(0x2026);
         QVERIFY2(shown.endsWith(ellipsis), qPrintable(shown));
-        QVERIFY(longText().startsWith(shown.chopped(1)));
-        QCOMPARE(d.message()->toolTip(), longText());
+        QVERIFY(longQuestion().startsWith(shown.chopped(1)));
+        QCOMPARE(d.message()->toolTip(), longQuestion());
         const int room = d.message()->width();
-        QCOMPARE(shown, d.message()->fontMetrics().elidedText(longText(), Qt::ElideRight, room));
+        QCOMPARE(shown, d.message()->fontMetrics().elidedText(longQuestion(), Qt::ElideRight, room));
 
         QVERIFY(speak({{QStringLiteral("DeleteColorBar"), QStringLiteral("Weg?")}}));
         d.dialog->retranslate();

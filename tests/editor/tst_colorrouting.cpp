@@ -104,13 +104,13 @@ Entry* pickerEntry(const QWidget* picker, const char* name)
 }
 
 /// The chart tool within a page of a host's window that is shown and active, its first repaint done.
-struct Host
+struct RoutingHost
 {
     QWidget window;
     QWidget* page = new QWidget(&window);
     VTestChartTools* tool = new VTestChartTools(page);
 
-    explicit Host(const TestChartToolsData& record = colorfulRecord())
+    explicit RoutingHost(const TestChartToolsData& record = colorfulRecord())
     {
         for (QWidget* outer : {&window, page}) {
             auto* column = new QVBoxLayout(outer);
@@ -256,7 +256,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         const Role& role = roleNamed(name);
-        Host host;
+        RoutingHost host;
         QVERIFY(!host.picker()->isVisible());
         if (name != QLatin1String("add"))
             QVERIFY(host.color(role) == role.color(colorfulRecord()));
@@ -271,7 +271,7 @@ private Q_SLOTS:
 
     void pickerIsAWindowOnTop()
     {
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
         const Qt::WindowFlags flags = host.picker()->windowFlags();
         QVERIFY(host.picker()->isWindow());
@@ -282,7 +282,7 @@ private Q_SLOTS:
 
     void pickerOpensOverTheMiddleOfTheHost()
     {
-        Host host;
+        RoutingHost host;
         host.tool->setMoveRange(QRect(0, 0, 300, 200)); // its centre is but the first try
         const QPoint middle = host.window.mapToGlobal(host.window.rect().center());
         for (int opened = 1; opened <= 2; ++opened) {
@@ -309,7 +309,7 @@ private Q_SLOTS:
     void toolTakenFromItsHostOpensThePickerOnTheAnchor()
     {
         QFETCH(bool, parented);
-        Host host;
+        RoutingHost host;
         QWidget other;
         host.tool->setParent(parented ? &other : nullptr);
         const std::unique_ptr<VTestChartTools> owned(host.tool);
@@ -322,7 +322,7 @@ private Q_SLOTS:
 
     void openPickerStaysWhereItIs()
     {
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
         host.picker()->move(140, 150);
         QVERIFY(host.click(host.button(roleNamed(QStringLiteral("even")))));
@@ -334,7 +334,7 @@ private Q_SLOTS:
 
     void minimisedPickerIsBroughtBack()
     {
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
         QTest::mouseClick(host.picker()->findChild<QPushButton*>(QStringLiteral("btnMinSize")),
                           Qt::LeftButton);
@@ -350,7 +350,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         const Role& role = roleNamed(name);
-        Host host;
+        RoutingHost host;
         if (name == QLatin1String("add")) { // turning to the page is a change of its own
             QVERIFY(host.open(role));
             host.reject();
@@ -384,7 +384,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         const Role& role = roleNamed(name);
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(role));
         host.typeColor(picked);
         QVERIFY(host.picker()->isVisible());
@@ -438,7 +438,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(bool, repainting);
         const Role& role = roleNamed(name);
-        Host host;
+        RoutingHost host;
         const TestChartToolsData before = host.tool->getTestChartToolsData();
         QVERIFY(host.open(role));
         host.typeColor(picked);
@@ -456,7 +456,7 @@ private Q_SLOTS:
     {
         TestChartToolsData record = colorfulRecord();
         record.basicData.oddColor = {200, 100, 50, 77};
-        Host host(record);
+        RoutingHost host(record);
         const Role& odd = roleNamed(QStringLiteral("odd"));
         QVERIFY(host.open(odd));
         host.typeColor(picked);
@@ -467,7 +467,7 @@ private Q_SLOTS:
 
     void eachPickStartsAnew()
     {
-        Host host;
+        RoutingHost host;
         const Role& circle = roleNamed(QStringLiteral("circle"));
         QVERIFY(host.open(circle));
         host.typeColor(picked);
@@ -485,7 +485,7 @@ private Q_SLOTS:
     /// The colour before the picker was opened, not the one that it had got meanwhile.
     void clickOnTheSameButtonKeepsTheColorToGoBackTo()
     {
-        Host host;
+        RoutingHost host;
         const Role& odd = roleNamed(QStringLiteral("odd"));
         QVERIFY(host.open(odd));
         host.typeColor(picked);
@@ -498,7 +498,7 @@ private Q_SLOTS:
     /// It stays open for one choice after the other.
     void pickerThatIsLockedOpen()
     {
-        Host host;
+        RoutingHost host;
         const Role& odd = roleNamed(QStringLiteral("odd"));
         QVERIFY(host.open(odd));
         QTest::mouseClick(host.picker()->findChild<QPushButton*>(QStringLiteral("btnShow")), Qt::LeftButton);
@@ -525,7 +525,7 @@ private Q_SLOTS:
     /// Showing the picker handles events.
     void editorDeletedWhileThePickerOpens()
     {
-        Host host;
+        RoutingHost host;
         const QPointer<VTestChartTools> tool = host.tool;
         const auto endWithThePicker = [&] {
             if (host.picker()->isVisible())
@@ -548,7 +548,7 @@ private Q_SLOTS:
     void addedColorIsAppendedWhenAccepted()
     {
         QFETCH(bool, accepted);
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("add"))));
         QVERIFY(host.idle());
         const TestChartToolsData before = host.tool->getTestChartToolsData();
@@ -572,7 +572,7 @@ private Q_SLOTS:
 
     void acceptedColorOfAnotherRoleIsNotAppended()
     {
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("add"))));
         host.reject();
         QVERIFY(host.idle());
@@ -586,7 +586,7 @@ private Q_SLOTS:
 
     void colorsAreDroppedDuringARepaint()
     {
-        Host host;
+        RoutingHost host;
         const Role& odd = roleNamed(QStringLiteral("odd"));
         QVERIFY(host.open(odd));
         host.typeColor(picked); // begins a repaint
@@ -602,7 +602,7 @@ private Q_SLOTS:
 
     void changeElsewhereDropsColorsToo()
     {
-        Host host;
+        RoutingHost host;
         const Role& odd = roleNamed(QStringLiteral("odd"));
         QVERIFY(host.open(odd));
         host.tool->slotGetHeightWidth(); // a repaint that no colour has begun
@@ -615,7 +615,7 @@ private Q_SLOTS:
 
     void repaintLeavesTheFocusInThePicker()
     {
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
         QTRY_COMPARE(QApplication::activeWindow(), host.picker());
         host.typeColor(picked);
@@ -670,7 +670,7 @@ private Q_SLOTS:
 
     void pickerGoesWithTheEditor()
     {
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("diagonal"))));
         host.tool->hide();
         QVERIFY(!host.picker()->isVisible());
@@ -678,7 +678,7 @@ private Q_SLOTS:
 
     void buttonlessSignalDoesNothing()
     {
-        Host host;
+        RoutingHost host;
         auto* panel = host.tool->findChild<SelfSettingBox*>();
         Q_EMIT panel->boxNumSignal();
         QVERIFY(!host.picker()->isVisible());
@@ -705,7 +705,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, close);
         QFETCH(bool, locked);
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
         if (locked)
             QTest::mouseClick(host.picker()->findChild<QPushButton*>(QStringLiteral("btnShow")),
@@ -721,7 +721,7 @@ private Q_SLOTS:
 
     void closeButtonHidesThePicker()
     {
-        Host host;
+        RoutingHost host;
         const Role& odd = roleNamed(QStringLiteral("odd"));
         QVERIFY(host.open(odd));
         QTest::mouseClick(host.picker()->findChild<QPushButton*>(QStringLiteral("btnClose")), Qt::LeftButton);
@@ -739,7 +739,7 @@ private Q_SLOTS:
         file.write(languageFile(QStringLiteral("xx"), {{"SelectColor", "Farbe"}, {"Hue", "Ton"}}));
         file.close();
 
-        Host host;
+        RoutingHost host;
         const auto* title = host.picker()->findChild<QLabel*>(QStringLiteral("LabelTitle"));
         QCOMPARE(title->text(), QStringLiteral("color select"));
         host.tool->translateLanguage();
@@ -768,7 +768,7 @@ private Q_SLOTS:
     void pickerStaysInTheMoveRange()
     {
         QFETCH(bool, moved);
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
         CustomColorDialog* picker = host.picker();
         picker->move(300, 200);
@@ -800,7 +800,7 @@ private Q_SLOTS:
 
     void hostsMoveHoldsThePickerBack()
     {
-        Host host;
+        RoutingHost host;
         QVERIFY(host.open(roleNamed(QStringLiteral("odd"))));
         host.picker()->move(900, 500);
         const QRect range(0, 0, 1000, 700);

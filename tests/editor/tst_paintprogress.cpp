@@ -176,7 +176,7 @@ QList<QWidget*> editButtons(const User& user)
 }
 
 /// A change that a user makes: one signal of a panel.
-void change(const User& user, const QColor& color = Qt::darkBlue)
+void changeBars(const User& user, const QColor& color = Qt::darkBlue)
 {
     user.basicPanel()->setColor(color, QStringLiteral("odd"));
 }
@@ -247,7 +247,7 @@ private Q_SLOTS:
     void cycleRunsInOrder()
     {
         Diary diary(*m_tool);
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->settle());
         QCOMPARE(diary.entries, QStringList({"mask shown",
                                              "basic panel disabled",
@@ -290,7 +290,7 @@ private Q_SLOTS:
         QVERIFY(!m_user->mask()->isVisible());
         QWidget* const covered = m_user->panels().at(panel);
         m_user->reveal(covered);
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->mask()->isVisible());
         QCOMPARE(m_user->mask()->size(), QSize(410, 802));
         QVERIFY(allEnabled(editButtons(*m_user)));
@@ -312,7 +312,7 @@ private Q_SLOTS:
         QScrollBar* const bar = m_user->settings()->verticalScrollBar();
         bar->setValue(scrolled);
         QCOMPARE(bar->value(), scrolled);
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->mask()->isVisible());
         QCOMPARE(m_user->mask()->pos(), QPoint(0, scrolled));
         const QWidget* const viewport = m_user->settings()->viewport();
@@ -320,13 +320,13 @@ private Q_SLOTS:
         QVERIFY(m_user->settle());
         QCOMPARE(bar->value(), scrolled);
         bar->setValue(0);
-        change(*m_user, Qt::darkGreen);
+        changeBars(*m_user, Qt::darkGreen);
         QCOMPARE(m_user->mask()->pos(), QPoint(0, 0));
     }
 
     void maskFollowsTheScrolling()
     {
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->mask()->isVisible());
         m_user->settings()->verticalScrollBar()->setValue(200);
         QVERIFY(m_user->mask()->isVisible());
@@ -341,7 +341,7 @@ private Q_SLOTS:
         const auto* even = m_user->named<QPushButton>("evenColorPushButton");
         m_user->click(even);
         QCOMPARE(asked.count(), 1);
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(even->isEnabled());
         m_user->click(even);
         QCOMPARE(asked.count(), 1);
@@ -365,7 +365,7 @@ private Q_SLOTS:
             QVERIFY(allEnabled({m_user->chess(), m_user->colorBar(), m_user->stripeList()}));
             QVERIFY(m_user->mask()->isVisible());
         });
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->settle());
         QCOMPARE(looked, 1);
         QVERIFY(allEnabled(controls));
@@ -408,7 +408,7 @@ private Q_SLOTS:
 
     void cycleIsLogged()
     {
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->settle());
         QCOMPARE(paintLog(log().messages()), cycleLog());
         QVERIFY(log().messages(begining).first().startsWith(QLatin1String(
@@ -431,7 +431,7 @@ private Q_SLOTS:
         record.logoData.pictureLogo = picture;
         record.logoData.textLogo = !picture;
         QVERIFY(restart(record));
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->settle());
         QCOMPARE(paintLog(log().messages()), cycleLog(line.constData()));
         QVERIFY(isUnlocked());
@@ -439,7 +439,7 @@ private Q_SLOTS:
 
     void snapshotIsTakenAtTheEndOfTheCycle()
     {
-        change(*m_user, Qt::darkBlue);
+        changeBars(*m_user, Qt::darkBlue);
         QVERIFY(!previewDifference(Qt::darkBlue).isEmpty());
         QVERIFY(m_user->settle());
         const QString difference = previewDifference(Qt::darkBlue);
@@ -459,7 +459,7 @@ private Q_SLOTS:
         const QSignalSpy painted(m_user->painter<PaintBasicWidget>(), &LayerPainter::sigPaintEventUpdated);
         const QSignalSpy changed(m_user->basicPanel(), &BasicSettingBox::basicSignal);
         for (int i = 0; i < signalCount; ++i)
-            change(*m_user, QColor(i, i, i));
+            changeBars(*m_user, QColor(i, i, i));
         QCOMPARE(changed.count(), signalCount);
         QVERIFY(m_user->settle());
         QCOMPARE(painted.count(), 1);
@@ -517,8 +517,9 @@ private Q_SLOTS:
     void changeDuringACycle()
     {
         QFETCH(int, later);
-        change(*m_user, Qt::darkBlue);
-        QTimer::singleShot(later, Qt::PreciseTimer, m_tool.get(), [this] { change(*m_user, Qt::darkGreen); });
+        changeBars(*m_user, Qt::darkBlue);
+        QTimer::singleShot(later, Qt::PreciseTimer, m_tool.get(),
+                           [this] { changeBars(*m_user, Qt::darkGreen); });
         QVERIFY(QTest::qWaitFor([this] {
             return m_tool->getTestChartToolsData().basicData.oddColor == toRgbaColor(Qt::darkGreen);
         }));
@@ -543,7 +544,7 @@ private Q_SLOTS:
     void cycleWaitsForEveryRequiredLayer()
     {
         QFETCH(QString, lastOne);
-        change(*m_user);
+        changeBars(*m_user);
         for (const QString& name : reporters()) {
             if (name != lastOne)
                 m_tool->slotUpdatePaintEventStatus(name);
@@ -558,7 +559,7 @@ private Q_SLOTS:
     void logoLayersNeverCompleteACycle()
     {
         QVERIFY(restart(fullRecord()));
-        change(*m_user);
+        changeBars(*m_user);
         for (int i = 0; i < 6; ++i) {
             m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintPicLogoWidget"));
             m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintTextLogoWidget"));
@@ -571,21 +572,21 @@ private Q_SLOTS:
 
         // Nor while locked: a hidden layer never reports.
         m_user->painter<PaintPublicWidget>()->hide();
-        change(*m_user, Qt::darkGreen);
+        changeBars(*m_user, Qt::darkGreen);
         QTest::qWait(200);
         QVERIFY(isLocked());
         m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintPicLogoWidget"));
         m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintTextLogoWidget"));
         QVERIFY(isLocked());
         m_user->painter<PaintPublicWidget>()->show();
-        change(*m_user, Qt::darkCyan);
+        changeBars(*m_user, Qt::darkCyan);
         QVERIFY(m_user->settle());
         QVERIFY(isUnlocked());
     }
 
     void cycleEndsWithoutTheLogoLayers()
     {
-        change(*m_user);
+        changeBars(*m_user);
         for (int number = 0; number < 6; ++number) {
             QVERIFY(m_user->mask()->isVisible());
             m_tool->slotUpdatePaintEventStatus(reporters().at(number));
@@ -606,7 +607,7 @@ private Q_SLOTS:
     void painterReportsByItsName()
     {
         QFETCH(QByteArray, painter);
-        change(*m_user);
+        changeBars(*m_user);
         int found = 0;
         for (auto* layer : m_user->layerView()->findChildren<LayerPainter*>()) {
             if (!layer->inherits("vardeno::testcharttools::" + painter))
@@ -620,9 +621,9 @@ private Q_SLOTS:
 
     void cyclesBeginWithNothingPainted()
     {
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->settle());
-        change(*m_user, Qt::darkGreen);
+        changeBars(*m_user, Qt::darkGreen);
         m_tool->slotUpdatePaintEventStatus(QStringLiteral("m_pPaintPublicWidget"));
         QVERIFY(m_user->mask()->isVisible());
     }
@@ -656,7 +657,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, reporter);
         QFETCH(QStringList, lines);
-        change(*m_user);
+        changeBars(*m_user);
         m_tool->slotUpdatePaintEventStatus(reporter);
         QCOMPARE(paintLog(log().messages()), lines);
         QVERIFY(m_user->mask()->isVisible());
@@ -677,7 +678,7 @@ private Q_SLOTS:
     void lateLockHoldsUntilTheLayersPaint()
     {
         Diary diary(*m_tool);
-        change(*m_user);
+        changeBars(*m_user);
         for (const QString& name : reporters())
             m_tool->slotUpdatePaintEventStatus(name);
         QVERIFY(!m_user->mask()->isVisible());
@@ -691,7 +692,7 @@ private Q_SLOTS:
     void reportsAreIgnoredWhileTheUpdateFlagIsSet()
     {
         m_tool->setUpdateFlag(true);
-        change(*m_user);
+        changeBars(*m_user);
         QTRY_COMPARE(paintLog(log().messages()).size(), 6);
         QCOMPARE(paintLog(log().messages()), ignoredLog());
         QVERIFY(isLocked());
@@ -699,7 +700,7 @@ private Q_SLOTS:
         m_tool->setUpdateFlag(false);
         QVERIFY(m_user->mask()->isVisible());
         log().clear();
-        change(*m_user, Qt::darkGreen);
+        changeBars(*m_user, Qt::darkGreen);
         QVERIFY(m_user->settle());
         QCOMPARE(paintLog(log().messages()), cycleLog());
     }
@@ -708,7 +709,7 @@ private Q_SLOTS:
     {
         m_tool->setSavePath(m_folder.path(), QStringLiteral("preview"));
         Host host(*m_tool);
-        change(*m_user);
+        changeBars(*m_user);
         m_tool->slotAddConfirmButtonClicked();
         QCOMPARE(paintLog(log().messages()), ignoredLog());
         QVERIFY(m_user->mask()->isVisible());
@@ -722,7 +723,7 @@ private Q_SLOTS:
     {
         m_tool->setSavePath(m_folder.path(), QStringLiteral("preview"));
         Host host(*m_tool);
-        change(*m_user);
+        changeBars(*m_user);
         m_tool->slotSaveImage();
         QCOMPARE(paintLog(log().messages()), cycleLog());
         QVERIFY(!m_user->mask()->isVisible());
@@ -735,7 +736,7 @@ private Q_SLOTS:
         m_tool->hide();
         log().clear();
         Diary diary(*m_tool);
-        change(*m_user, Qt::darkBlue);
+        changeBars(*m_user, Qt::darkBlue);
         QCOMPARE(diary.entries, QStringList("painted"));
         const QString difference = previewDifference(Qt::darkBlue);
         QVERIFY2(difference.isEmpty(), qPrintable(difference));
@@ -773,7 +774,7 @@ private Q_SLOTS:
     {
         QFETCH(int, hiddenAfter);
         QFETCH(int, shownAfter);
-        change(*m_user, Qt::darkBlue);
+        changeBars(*m_user, Qt::darkBlue);
         QTest::qWait(hiddenAfter);
         m_tool->hide();
         QTest::qWait(shownAfter);
@@ -787,7 +788,7 @@ private Q_SLOTS:
 
     void toolHiddenInMidCycleStaysUntouched()
     {
-        change(*m_user);
+        changeBars(*m_user);
         m_tool->hide();
         Diary diary(*m_tool);
         QTest::qWait(200);
@@ -830,7 +831,7 @@ private Q_SLOTS:
             QVERIFY(!entry->isEnabled());
             QVERIFY(m_tool->focusWidget() != focused);
         });
-        change(*m_user);
+        changeBars(*m_user);
         QVERIFY(m_user->settle());
         QCOMPARE(looked, 1);
         QCOMPARE(m_tool->focusWidget(), focused);

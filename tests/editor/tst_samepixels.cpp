@@ -12,7 +12,7 @@ namespace {
 
 constexpr int largestText = 100; ///< pixels; the reference takes them one by one off what does not fit
 
-constexpr RecordLimits limits = {QSize(700, 500), 40, largestText, 700};
+constexpr RecordLimits recordLimits = {QSize(700, 500), 40, largestText, 700};
 
 /// A picture of which no two pixels are the same, so that none can be taken for another.
 QImage picture(const QSize& size, bool translucent)
@@ -407,7 +407,7 @@ private Q_SLOTS:
     {
         Charts charts;
         charts.leaveDefaults();
-        RandomRecords records(20241107, pictures(), limits);
+        RandomRecords records(20241107, pictures(), recordLimits);
         for (int i = 0; i < 600; ++i) {
             TestChartToolsData record = records.next();
             if (i % 100 == 99) {
@@ -430,7 +430,7 @@ private Q_SLOTS:
     {
         Charts charts;
         charts.leaveDefaults();
-        RandomRecords random(20241108, pictures(), limits);
+        RandomRecords random(20241108, pictures(), recordLimits);
         Changes changes(charts, random, changingPicture());
         for (int i = 0; i < 1500; ++i) {
             const QString change = changes.makeOne();

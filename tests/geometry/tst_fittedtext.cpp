@@ -17,7 +17,7 @@ QFont chartFont(int pixelSize)
 }
 
 /// Takes pixels off the size one by one until the text fits or the size is below 1.
-int steppedSize(const QString& text, int requested, double widthLimit, double heightLimit)
+int sizeByStepping(const QString& text, int requested, double widthLimit, double heightLimit)
 {
     int size = requested;
     for (;; --size) {
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QFETCH(int, atLeast);
         QFETCH(int, atMost);
         const FittedText fitted = fitText(text, requested, widthLimit, heightLimit);
-        QCOMPARE(fitted.pixelSize, steppedSize(text, requested, widthLimit, heightLimit));
+        QCOMPARE(fitted.pixelSize, sizeByStepping(text, requested, widthLimit, heightLimit));
         QVERIFY2(fitted.pixelSize >= atLeast && fitted.pixelSize <= atMost,
                  qPrintable(QString::number(fitted.pixelSize)));
 
@@ -99,8 +99,8 @@ private Q_SLOTS:
         const QString text = QStringLiteral("tab\tx");
         for (int requested = 1; requested <= 150; ++requested) {
             QCOMPARE(fitText(text, requested, 247.2, 203.2).pixelSize,
-                     steppedSize(text, requested, 247.2, 203.2));
-            QCOMPARE(fitText(text, requested, 90, 80).pixelSize, steppedSize(text, requested, 90, 80));
+                     sizeByStepping(text, requested, 247.2, 203.2));
+            QCOMPARE(fitText(text, requested, 90, 80).pixelSize, sizeByStepping(text, requested, 90, 80));
         }
     }
 
@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         const QString text = QStringLiteral("www.example.com");
         const FittedText fitted = fitText(text, 65535, 1920, 1080);
-        QCOMPARE(fitted.pixelSize, steppedSize(text, 400, 1920, 1080));
+        QCOMPARE(fitted.pixelSize, sizeByStepping(text, 400, 1920, 1080));
     }
 };
 

@@ -53,7 +53,7 @@ QString programPath(const char* name);
 /// Makes `Class` known to the main function of its test program, which runs the test case that its first
 /// argument names ("tst_ink", after the file), or all of them.
 #define VD_TEST_MAIN(Class)                                                                                  \
-    static const bool registered_ =                                                                          \
+    static const bool registered_##Class =                                                                   \
         registerTestCase(__FILE__, []() -> std::unique_ptr<QObject> { return std::make_unique<Class>(); });
 
 /// `file` names the test case: its base name is taken.

@@ -12,7 +12,7 @@ using namespace charttool;
 
 namespace {
 
-constexpr RecordLimits limits = {QSize(700, 500), 40, 100, 700};
+constexpr RecordLimits pictureLimits = {QSize(700, 500), 40, 100, 700};
 
 QImage halfTransparent()
 {
@@ -73,7 +73,7 @@ private Q_SLOTS:
         tool.switchLanguage(QStringLiteral("en"));
         const ChartCaptions captions = ChartCaptions::current();
         QCOMPARE(captions.cabinets, QStringLiteral("Cabinets"));
-        RandomRecords records(20241122, pictures(), limits);
+        RandomRecords records(20241122, pictures(), pictureLimits);
         for (int i = 0; i < 300; ++i) {
             const TestChartToolsData record = records.next();
             tool.applyRecord(record);

@@ -19,7 +19,7 @@ enum Mode : uint
 };
 
 using Colors = QVector<QColor>;
-using Change = void (*)(PaintBasicWidget&);
+using PatternChange = void (*)(PaintBasicWidget&);
 using Setter = void (*)(PaintBasicWidget&, QListWidget*);
 using ListChange = void (*)(QListWidget&);
 
@@ -55,7 +55,7 @@ QImage bars(const QSize& size, const Colors& colors, int stripeWidth)
     return image;
 }
 
-qint64 pictureOf(const QLabel& layer)
+qint64 patternOf(const QLabel& layer)
 {
     return layer.pixmap(Qt::ReturnByValue).cacheKey();
 }
@@ -118,7 +118,7 @@ bool isNear(QRgb a, QRgb b, int tolerance = 4)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(PatternChange)
 Q_DECLARE_METATYPE(Setter)
 Q_DECLARE_METATYPE(ListChange)
 
@@ -231,14 +231,14 @@ private Q_SLOTS:
 
     void withoutRowsOrColumnsThePictureStays_data()
     {
-        QTest::addColumn<Change>("change");
-        QTest::newRow("no rows") << Change([](PaintBasicWidget& layer) { layer.setRows(0); });
-        QTest::newRow("no columns") << Change([](PaintBasicWidget& layer) { layer.setColumns(0); });
-        QTest::newRow("no rows, then another color") << Change([](PaintBasicWidget& layer) {
+        QTest::addColumn<PatternChange>("change");
+        QTest::newRow("no rows") << PatternChange([](PaintBasicWidget& layer) { layer.setRows(0); });
+        QTest::newRow("no columns") << PatternChange([](PaintBasicWidget& layer) { layer.setColumns(0); });
+        QTest::newRow("no rows, then another color") << PatternChange([](PaintBasicWidget& layer) {
             layer.setRows(0);
             layer.setOddColor(Qt::black);
         });
-        QTest::newRow("no rows, then another size") << Change([](PaintBasicWidget& layer) {
+        QTest::newRow("no rows, then another size") << PatternChange([](PaintBasicWidget& layer) {
             layer.setRows(0);
             layer.resize(80, 90);
         });
@@ -246,18 +246,18 @@ private Q_SLOTS:
 
     void withoutRowsOrColumnsThePictureStays()
     {
-        QFETCH(Change, change);
+        QFETCH(PatternChange, change);
         PaintBasicWidget layer;
         layer.resize(160, 90);
         layer.grab();
-        const qint64 picture = pictureOf(layer);
+        const qint64 picture = patternOf(layer);
         change(layer);
-        QCOMPARE(pictureOf(layer), picture);
+        QCOMPARE(patternOf(layer), picture);
         layer.grab();
-        QCOMPARE(pictureOf(layer), picture);
+        QCOMPARE(patternOf(layer), picture);
         layer.setRows(3);
         layer.setColumns(3);
-        QVERIFY(pictureOf(layer) != picture);
+        QVERIFY(patternOf(layer) != picture);
     }
 
     void anEmptyChessboardKeepsItsPicture_data()
@@ -274,10 +274,10 @@ private Q_SLOTS:
         PaintBasicWidget layer;
         layer.resize(160, 90);
         layer.grab();
-        const qint64 picture = pictureOf(layer);
+        const qint64 picture = patternOf(layer);
         layer.resize(size);
         layer.setOddColor(Qt::black);
-        QCOMPARE(pictureOf(layer), picture);
+        QCOMPARE(patternOf(layer), picture);
     }
 
     void withoutRowsTheOtherModesDraw_data()
@@ -497,11 +497,11 @@ private Q_SLOTS:
         layer.resize(60, 20);
         layer.setColorStripeList(&list);
         layer.setMode(Stripes);
-        const qint64 picture = pictureOf(layer);
+        const qint64 picture = patternOf(layer);
 
         change(list);
         layer.setColorStripeList(&list);
-        QCOMPARE(pictureOf(layer), picture);
+        QCOMPARE(patternOf(layer), picture);
         layer.grab();
         const int stripeWidth = colors.isEmpty() ? 0 : 60 / colors.size();
         VD_COMPARE_IMAGES(layerImage(layer), bars(QSize(60, 20), colors, stripeWidth));
@@ -516,10 +516,10 @@ private Q_SLOTS:
         layer.setColorStripeList(&list);
         layer.setMode(Stripes);
         layer.grab();
-        const qint64 picture = pictureOf(layer);
+        const qint64 picture = patternOf(layer);
         list.item(0)->setText(QStringLiteral("not a color"));
         layer.grab();
-        QCOMPARE(pictureOf(layer), picture);
+        QCOMPARE(patternOf(layer), picture);
     }
 
     void aDeletedListIsEmpty()
@@ -578,12 +578,12 @@ private Q_SLOTS:
         PaintBasicWidget layer;
         layer.resize(40, 30);
         layer.grab();
-        const qint64 before = pictureOf(layer);
+        const qint64 before = patternOf(layer);
         set(layer, &list);
-        const qint64 after = pictureOf(layer);
+        const qint64 after = patternOf(layer);
         QVERIFY(after != before);
         set(layer, &list);
-        QCOMPARE(pictureOf(layer), after);
+        QCOMPARE(patternOf(layer), after);
     }
 
     void initialValuesRenderNothing()

@@ -10,8 +10,8 @@
 
 using namespace vardeno::testcharttools;
 
-using Change = std::function<void(PaintInLineWidget& layer)>;
-Q_DECLARE_METATYPE(Change)
+using LinesChange = std::function<void(PaintInLineWidget& layer)>;
+Q_DECLARE_METATYPE(LinesChange)
 
 namespace {
 
@@ -463,23 +463,24 @@ private Q_SLOTS:
 
     void noLabels_data()
     {
-        QTest::addColumn<Change>("change");
-        QTest::newRow("no rows") << Change([](PaintInLineWidget& layer) { layer.setRows(0); });
-        QTest::newRow("no columns") << Change([](PaintInLineWidget& layer) { layer.setColumns(0); });
-        QTest::newRow("mode 3") << Change([](PaintInLineWidget& layer) { layer.setSerialMode(3); });
+        QTest::addColumn<LinesChange>("change");
+        QTest::newRow("no rows") << LinesChange([](PaintInLineWidget& layer) { layer.setRows(0); });
+        QTest::newRow("no columns") << LinesChange([](PaintInLineWidget& layer) { layer.setColumns(0); });
+        QTest::newRow("mode 3") << LinesChange([](PaintInLineWidget& layer) { layer.setSerialMode(3); });
         QTest::newRow("largest mode")
-            << Change([](PaintInLineWidget& layer) { layer.setSerialMode(unknown); });
-        QTest::newRow("sort 4") << Change([](PaintInLineWidget& layer) { layer.setSerialSort(4); });
+            << LinesChange([](PaintInLineWidget& layer) { layer.setSerialMode(unknown); });
+        QTest::newRow("sort 4") << LinesChange([](PaintInLineWidget& layer) { layer.setSerialSort(4); });
         QTest::newRow("largest sort")
-            << Change([](PaintInLineWidget& layer) { layer.setSerialSort(unknown); });
-        QTest::newRow("position 3") << Change([](PaintInLineWidget& layer) { layer.setSerialPosition(3); });
+            << LinesChange([](PaintInLineWidget& layer) { layer.setSerialSort(unknown); });
+        QTest::newRow("position 3") << LinesChange(
+            [](PaintInLineWidget& layer) { layer.setSerialPosition(3); });
         QTest::newRow("largest position")
-            << Change([](PaintInLineWidget& layer) { layer.setSerialPosition(unknown); });
+            << LinesChange([](PaintInLineWidget& layer) { layer.setSerialPosition(unknown); });
     }
 
     void noLabels()
     {
-        QFETCH(Change, change);
+        QFETCH(LinesChange, change);
         const QSize size(640, 360);
         PaintInLineWidget layer;
         change(layer);
@@ -527,8 +528,8 @@ private Q_SLOTS:
 
     void setters_data()
     {
-        QTest::addColumn<Change>("change");
-        const auto row = [](const char* name, const Change& change) { QTest::newRow(name) << change; };
+        QTest::addColumn<LinesChange>("change");
+        const auto row = [](const char* name, const LinesChange& change) { QTest::newRow(name) << change; };
         row("circle visible", [](PaintInLineWidget& layer) { layer.setCircleVisible(false); });
         row("circle colour", [](PaintInLineWidget& layer) { layer.setCircleColor(Qt::red); });
         row("circle line width", [](PaintInLineWidget& layer) { layer.setCircleLineWidth(20); });
@@ -548,7 +549,7 @@ private Q_SLOTS:
 
     void setters()
     {
-        QFETCH(Change, change);
+        QFETCH(LinesChange, change);
         CountedLayer<PaintInLineWidget> layer;
         pictureAt({640, 360}, layer);
         verifyRendersOnce(layer, change);

@@ -24,11 +24,11 @@ QImage frame(const QSize& size, int width, const QColor& color = Qt::white)
     return image;
 }
 
-using Change = void (*)(PaintPublicWidget&);
+using BorderChange = void (*)(PaintPublicWidget&);
 
 } // namespace
 
-Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(BorderChange)
 
 class TestPaintPublicWidget : public TestCase
 {
@@ -151,9 +151,9 @@ private Q_SLOTS:
 
     void theSameValueRendersOnce_data()
     {
-        QTest::addColumn<Change>("set");
-        QTest::addColumn<Change>("setOther");
-        const auto row = [](const char* name, Change set, Change setOther) {
+        QTest::addColumn<BorderChange>("set");
+        QTest::addColumn<BorderChange>("setOther");
+        const auto row = [](const char* name, BorderChange set, BorderChange setOther) {
             QTest::newRow(name) << set << setOther;
         };
         row(
@@ -175,8 +175,8 @@ private Q_SLOTS:
 
     void theSameValueRendersOnce()
     {
-        QFETCH(Change, set);
-        QFETCH(Change, setOther);
+        QFETCH(BorderChange, set);
+        QFETCH(BorderChange, setOther);
         PaintPublicWidget layer;
         layer.resize(40, 30);
         set(layer);

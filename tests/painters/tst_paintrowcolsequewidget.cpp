@@ -8,8 +8,8 @@
 
 using namespace vardeno::testcharttools;
 
-using Change = std::function<void(PaintRowColSequeWidget& layer)>;
-Q_DECLARE_METATYPE(Change)
+using SequenceChange = std::function<void(PaintRowColSequeWidget& layer)>;
+Q_DECLARE_METATYPE(SequenceChange)
 
 namespace {
 
@@ -242,20 +242,27 @@ private Q_SLOTS:
 
     void noLabels_data()
     {
-        QTest::addColumn<Change>("change");
-        QTest::newRow("model 3") << Change([](PaintRowColSequeWidget& layer) { layer.setShowModel(3); });
-        QTest::newRow("model -1") << Change([](PaintRowColSequeWidget& layer) { layer.setShowModel(-1); });
-        QTest::newRow("sort 4") << Change([](PaintRowColSequeWidget& layer) { layer.setSortType(4); });
-        QTest::newRow("sort -1") << Change([](PaintRowColSequeWidget& layer) { layer.setSortType(-1); });
-        QTest::newRow("location 3") << Change([](PaintRowColSequeWidget& layer) { layer.setLocation(3); });
-        QTest::newRow("location -1") << Change([](PaintRowColSequeWidget& layer) { layer.setLocation(-1); });
-        QTest::newRow("no rows") << Change([](PaintRowColSequeWidget& layer) { layer.setRows(0); });
-        QTest::newRow("no columns") << Change([](PaintRowColSequeWidget& layer) { layer.setColumns(0); });
+        QTest::addColumn<SequenceChange>("change");
+        QTest::newRow("model 3") << SequenceChange(
+            [](PaintRowColSequeWidget& layer) { layer.setShowModel(3); });
+        QTest::newRow("model -1") << SequenceChange(
+            [](PaintRowColSequeWidget& layer) { layer.setShowModel(-1); });
+        QTest::newRow("sort 4") << SequenceChange(
+            [](PaintRowColSequeWidget& layer) { layer.setSortType(4); });
+        QTest::newRow("sort -1") << SequenceChange(
+            [](PaintRowColSequeWidget& layer) { layer.setSortType(-1); });
+        QTest::newRow("location 3") << SequenceChange(
+            [](PaintRowColSequeWidget& layer) { layer.setLocation(3); });
+        QTest::newRow("location -1") << SequenceChange(
+            [](PaintRowColSequeWidget& layer) { layer.setLocation(-1); });
+        QTest::newRow("no rows") << SequenceChange([](PaintRowColSequeWidget& layer) { layer.setRows(0); });
+        QTest::newRow("no columns") << SequenceChange(
+            [](PaintRowColSequeWidget& layer) { layer.setColumns(0); });
     }
 
     void noLabels()
     {
-        QFETCH(Change, change);
+        QFETCH(SequenceChange, change);
         const QSize size(640, 360);
         PaintRowColSequeWidget layer;
         layer.setSequeVisible(true);
@@ -386,8 +393,10 @@ private Q_SLOTS:
 
     void setters_data()
     {
-        QTest::addColumn<Change>("change");
-        const auto row = [](const char* name, const Change& change) { QTest::newRow(name) << change; };
+        QTest::addColumn<SequenceChange>("change");
+        const auto row = [](const char* name, const SequenceChange& change) {
+            QTest::newRow(name) << change;
+        };
         row("lines visible", [](PaintRowColSequeWidget& layer) { layer.setRowColVisible(false); });
         row("labels visible", [](PaintRowColSequeWidget& layer) { layer.setSequeVisible(false); });
         row("line colour", [](PaintRowColSequeWidget& layer) { layer.setRowColColor(Qt::red); });
@@ -402,7 +411,7 @@ private Q_SLOTS:
 
     void setters()
     {
-        QFETCH(Change, change);
+        QFETCH(SequenceChange, change);
         CountedLayer<PaintRowColSequeWidget> layer;
         layer.setRowColVisible(true);
         layer.setSequeVisible(true);

@@ -8,8 +8,8 @@
 
 using namespace vardeno::testcharttools;
 
-using Change = std::function<void(PaintSelfWidget& layer)>;
-Q_DECLARE_METATYPE(Change)
+using TextChange = std::function<void(PaintSelfWidget& layer)>;
+Q_DECLARE_METATYPE(TextChange)
 
 namespace {
 
@@ -58,7 +58,7 @@ int steppedSize(const QString& text, int requested, const QSize& size)
     return 0;
 }
 
-void showOnly(PaintSelfWidget& layer, bool text, bool information)
+void showOnlyText(PaintSelfWidget& layer, bool text, bool information)
 {
     layer.setSelfTextVisible(text);
     layer.setResolutionVisible(information);
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QFETCH(QString, captions);
         QFETCH(QString, text);
         PaintSelfWidget layer;
-        showOnly(layer, false, true);
+        showOnlyText(layer, false, true);
         layer.setBoxNumVisible(boxNum);
         layer.setResolutionSize(30);
         layer.setRows(ushort(rows));
@@ -153,7 +153,7 @@ private Q_SLOTS:
     {
         const QSize size(800, 450);
         PaintSelfWidget layer;
-        showOnly(layer, false, true);
+        showOnlyText(layer, false, true);
         layer.setResolutionSize(30);
         pictureAt(size, layer);
         const auto shows = [&](const char* text) {
@@ -234,7 +234,7 @@ private Q_SLOTS:
         QFETCH(QSize, size);
         for (const bool information : {false, true}) {
             PaintSelfWidget layer;
-            showOnly(layer, !information, information);
+            showOnlyText(layer, !information, information);
             layer.setSelfText(QStringLiteral("HHHH"));
             layer.setSelfTextSize(60);
             const QRect ink = inkBounds(pictureAt(size, layer));
@@ -278,7 +278,7 @@ private Q_SLOTS:
         QFETCH(QSize, size);
         QFETCH(bool, shrinks);
         PaintSelfWidget layer;
-        showOnly(layer, true, false);
+        showOnlyText(layer, true, false);
         layer.setSelfTextSize(ushort(requested));
         layer.setSelfText(text);
         const QImage image = pictureAt(size, layer);
@@ -293,7 +293,7 @@ private Q_SLOTS:
         const QSize size(200, 300);
         const QString text = QStringLiteral(":200*300 :144");
         PaintSelfWidget layer;
-        showOnly(layer, false, true);
+        showOnlyText(layer, false, true);
         const QImage image = pictureAt(size, layer);
         const int fitted = steppedSize(text, 50, size);
         QVERIFY(fitted < 50);
@@ -327,7 +327,7 @@ private Q_SLOTS:
     {
         const QSize size(900, 600);
         PaintSelfWidget layer;
-        showOnly(layer, true, false);
+        showOnlyText(layer, true, false);
         layer.setSelfText(QString());
         QCOMPARE(inkBounds(pictureAt(size, layer)), QRect());
         QCOMPARE(layer.selfTextSize(), 70);
@@ -361,8 +361,8 @@ private Q_SLOTS:
 
     void setters_data()
     {
-        QTest::addColumn<Change>("change");
-        const auto row = [](const char* name, const Change& change) { QTest::newRow(name) << change; };
+        QTest::addColumn<TextChange>("change");
+        const auto row = [](const char* name, const TextChange& change) { QTest::newRow(name) << change; };
         row("text visible", [](PaintSelfWidget& layer) { layer.setSelfTextVisible(false); });
         row("text", [](PaintSelfWidget& layer) { layer.setSelfText(QStringLiteral("x")); });
         row("text colour", [](PaintSelfWidget& layer) { layer.setSelfTextColor(Qt::red); });
@@ -377,7 +377,7 @@ private Q_SLOTS:
 
     void setters()
     {
-        QFETCH(Change, change);
+        QFETCH(TextChange, change);
         CountedLayer<PaintSelfWidget> layer;
         pictureAt({640, 360}, layer);
         verifyRendersOnce(layer, change);
@@ -400,7 +400,7 @@ private Q_SLOTS:
         CountedLayer<PaintSelfWidget> layer;
         pictureAt({64, 36}, layer);
         layer.renders = 0;
-        showOnly(layer, true, true);
+        showOnlyText(layer, true, true);
         layer.setBoxNumVisible(true);
         layer.setSelfText(defaultText);
         layer.setSelfTextColor(Qt::black);

@@ -14,7 +14,7 @@ namespace {
 const QString atFirst = QStringLiteral("VardenoRT5Pro");
 
 /// The chart's text font; 0 leaves the program's own size.
-QFont chartFont(int pixelSize)
+QFont logoFont(int pixelSize)
 {
     QFont font;
     if (pixelSize > 0)
@@ -25,7 +25,7 @@ QFont chartFont(int pixelSize)
 
 bool fits(const QString& text, int pixelSize, const QSize& chart)
 {
-    const QFontMetrics metrics(chartFont(pixelSize));
+    const QFontMetrics metrics(logoFont(pixelSize));
     return metrics.horizontalAdvance(text) <= chart.width() * 0.8 && metrics.height() <= chart.height() * 0.8;
 }
 
@@ -60,13 +60,13 @@ QImage drawn(const QSize& chart, const QString& text, int pixelSize, const QColo
     QPainter painter(&pixmap);
     painter.translate(chart.width() / 2, chart.height() / 2);
     painter.setPen(color);
-    painter.setFont(chartFont(pixelSize));
+    painter.setFont(logoFont(pixelSize));
     painter.drawText(at, text);
     painter.end();
     return pixmap.toImage();
 }
 
-qint64 pictureKey(const PaintTextLogoWidget& layer)
+qint64 textPictureKey(const PaintTextLogoWidget& layer)
 {
     return layer.pixmap(Qt::ReturnByValue).cacheKey();
 }
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(largestAlpha(layerImage(layer)), alpha);
         QCOMPARE(inkOf(layerImage(layer)).isNull(), alpha == 0);
 
-        const QFontMetrics metrics(chartFont(60));
+        const QFontMetrics metrics(logoFont(60));
         const QPoint centred(-(metrics.horizontalAdvance(atFirst) / 2), metrics.height() / 2);
         VD_COMPARE_IMAGES(layerImage(layer),
                           drawn({640, 200}, atFirst, 60, QColor(200, 0, 0, alpha), centred));
@@ -116,11 +116,11 @@ private Q_SLOTS:
         QCOMPARE(largestAlpha(layerImage(layer)), 254);
 
         // The stored colour has the opacity's alpha now, and is compared with it.
-        const qint64 rendered = pictureKey(layer);
+        const qint64 rendered = textPictureKey(layer);
         layer.setTextColor(QColor(200, 0, 0, 254));
-        QCOMPARE(pictureKey(layer), rendered);
+        QCOMPARE(textPictureKey(layer), rendered);
         layer.setTextColor(QColor(200, 0, 0));
-        QVERIFY(pictureKey(layer) != rendered);
+        QVERIFY(textPictureKey(layer) != rendered);
         QCOMPARE(largestAlpha(layerImage(layer)), 254);
     }
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
         PaintTextLogoWidget layer;
         layer.resize(1920, 1080);
         layer.render();
-        const QFontMetrics metrics(chartFont(100));
+        const QFontMetrics metrics(logoFont(100));
         const QPoint centred(-(metrics.horizontalAdvance(atFirst) / 2), metrics.height() / 2);
         VD_COMPARE_IMAGES(layerImage(layer),
                           drawn({1920, 1080}, atFirst, 100, QColor(0, 0, 0, 254), centred));
@@ -174,7 +174,7 @@ private Q_SLOTS:
     /// As large as 80 % of the chart still fits: only more than that is reduced.
     void limitItselfFits()
     {
-        const QFontMetrics metrics(chartFont(40));
+        const QFontMetrics metrics(logoFont(40));
         const int advance = metrics.horizontalAdvance(atFirst);
         int width = advance * 5 / 4;
         while (width * 0.8 < advance)
@@ -222,7 +222,7 @@ private Q_SLOTS:
         layer.setMoveY(shift.y());
         layer.render();
 
-        const QFontMetrics metrics(chartFont(48));
+        const QFontMetrics metrics(logoFont(48));
         const int tw = metrics.horizontalAdvance(QStringLiteral("HAH"));
         const int th = metrics.height();
         const int lw = metrics.lineWidth();
@@ -345,7 +345,7 @@ private Q_SLOTS:
         const QString text(10000, QLatin1Char('W'));
         layer.setText(text);
         QCOMPARE(layer.fittedSize(), 0);
-        const QFontMetrics metrics(chartFont(1));
+        const QFontMetrics metrics(logoFont(1));
         const int right = 160 - metrics.lineWidth() - metrics.horizontalAdvance(text);
         QCOMPARE(layer.appliedMoveX(), right + metrics.horizontalAdvance(text) / 2);
         VD_COMPARE_IMAGES(layerImage(layer),
@@ -367,7 +367,7 @@ private Q_SLOTS:
         layer.resize(640, 360);
         layer.setTextSize(pixels);
         QCOMPARE(layer.fittedSize(), pixels);
-        const QFontMetrics metrics(chartFont(0));
+        const QFontMetrics metrics(logoFont(0));
         const QPoint centred(-(metrics.horizontalAdvance(atFirst) / 2), metrics.height() / 2);
         VD_COMPARE_IMAGES(layerImage(layer), drawn({640, 360}, atFirst, 0, QColor(0, 0, 0, 254), centred));
         QVERIFY(log().messages(QStringLiteral("setPixelSize")).isEmpty());
@@ -378,11 +378,11 @@ private Q_SLOTS:
         PaintTextLogoWidget layer;
         layer.resize(320, 200);
         const auto settled = [&layer](const std::function<void()>& set) {
-            const qint64 before = pictureKey(layer);
+            const qint64 before = textPictureKey(layer);
             set();
-            const qint64 once = pictureKey(layer);
+            const qint64 once = textPictureKey(layer);
             set();
-            return once != before && pictureKey(layer) == once;
+            return once != before && textPictureKey(layer) == once;
         };
         QVERIFY(settled([&] { layer.setText(QStringLiteral("RT")); }));
         QVERIFY(settled([&] { layer.setTextSize(30); }));

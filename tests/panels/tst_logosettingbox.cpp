@@ -33,7 +33,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr QSize chart(400, 240);
+constexpr QSize logoChart(400, 240);
 
 QString wholeText(const QLabel* label)
 {
@@ -62,7 +62,7 @@ QImage icon(const QPushButton* button)
     return button->icon().pixmap(button->iconSize()).toImage();
 }
 
-QImage swatch(const QColor& color)
+QImage logoSwatch(const QColor& color)
 {
     QPixmap pixmap(16, 16);
     pixmap.fill(Qt::transparent);
@@ -72,7 +72,7 @@ QImage swatch(const QColor& color)
     return pixmap.toImage();
 }
 
-QImage disabledSwatch()
+QImage disabledLogoSwatch()
 {
     QPixmap pixmap(40, 20);
     pixmap.fill(QColor("#333337"));
@@ -208,19 +208,19 @@ private:
     void comparePicture(const std::function<void(PaintPicLogoWidget&)>& set)
     {
         PaintPicLogoWidget expected;
-        expected.resize(chart);
+        expected.resize(logoChart);
         expected.setPicPath(picturePath().toStdString());
         set(expected);
-        QCOMPARE(m_picture->size(), chart);
+        QCOMPARE(m_picture->size(), logoChart);
         VD_COMPARE_IMAGES(painted(*m_picture), painted(expected));
     }
 
     void compareText(const std::function<void(PaintTextLogoWidget&)>& set)
     {
         PaintTextLogoWidget expected;
-        expected.resize(chart);
+        expected.resize(logoChart);
         set(expected);
-        QCOMPARE(m_text->size(), chart);
+        QCOMPARE(m_text->size(), logoChart);
         VD_COMPARE_IMAGES(painted(*m_text), painted(expected));
     }
 
@@ -300,8 +300,8 @@ private Q_SLOTS:
         m_elsewhere = new QLineEdit;
         m_stack->addWidget(m_picture);
         m_stack->addWidget(m_text);
-        m_stack->setFixedSize(chart);
-        m_text->resize(chart);
+        m_stack->setFixedSize(logoChart);
+        m_text->resize(logoChart);
         auto* column = new QVBoxLayout(m_window.get());
         column->addWidget(m_panel);
         column->addWidget(m_elsewhere);
@@ -526,7 +526,7 @@ private Q_SLOTS:
         QTest::mouseClick(showButton(), Qt::LeftButton);
         QCOMPARE(changes.count(), 1);
         QVERIFY(!m_picture->isVisible() && !m_text->isVisible());
-        VD_COMPARE_IMAGES(icon(colorButton()), disabledSwatch());
+        VD_COMPARE_IMAGES(icon(colorButton()), disabledLogoSwatch());
         QCOMPARE(colorButton()->iconSize(), QSize(40, 20));
         for (const QWidget* input : inputsButShow())
             QVERIFY(!input->isEnabled());
@@ -537,7 +537,7 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 2);
         QCOMPARE(m_picture->isVisible(), !ofText);
         QCOMPARE(m_text->isVisible(), ofText);
-        VD_COMPARE_IMAGES(icon(colorButton()), swatch(QColor(10, 200, 30)));
+        VD_COMPARE_IMAGES(icon(colorButton()), logoSwatch(QColor(10, 200, 30)));
         for (const QWidget* input : inputsButShow())
             QVERIFY(input->isEnabled());
         QVERIFY(m_panel->getData().showLogo);
@@ -653,8 +653,8 @@ private Q_SLOTS:
         const auto expected = [&](int anchor, const QPoint& shift) {
             PaintPicLogoWidget picture;
             PaintTextLogoWidget text;
-            picture.resize(chart);
-            text.resize(chart);
+            picture.resize(logoChart);
+            text.resize(logoChart);
             picture.setPicPath(picturePath().toStdString());
             picture.setPosition(anchor);
             picture.setMoveX(shift.x());
@@ -1003,7 +1003,7 @@ private Q_SLOTS:
 
         for (const QColor& picked : {QColor(Qt::red), QColor(0, 0, 255, 90)}) {
             m_panel->setTextLogoColor(picked);
-            VD_COMPARE_IMAGES(icon(colorButton()), swatch(picked));
+            VD_COMPARE_IMAGES(icon(colorButton()), logoSwatch(picked));
             QCOMPARE(m_panel->getData().textColor, toRgbaColor(picked));
             compareText([&](PaintTextLogoWidget& layer) { layer.setTextColor(picked); });
         }
@@ -1012,7 +1012,7 @@ private Q_SLOTS:
 
         m_panel->restoreTextLogoColor();
         QCOMPARE(changes.count(), 3);
-        VD_COMPARE_IMAGES(icon(colorButton()), swatch(QColor(1, 2, 3)));
+        VD_COMPARE_IMAGES(icon(colorButton()), logoSwatch(QColor(1, 2, 3)));
         compareText([&](PaintTextLogoWidget& layer) { layer.setTextColor(QColor(1, 2, 3)); });
     }
 
@@ -1101,7 +1101,7 @@ private Q_SLOTS:
     {
         m_panel->setData(otherRecord());
         QTest::mouseClick(showButton(), Qt::LeftButton);
-        VD_COMPARE_IMAGES(icon(colorButton()), swatch(QColor(255, 0, 10)));
+        VD_COMPARE_IMAGES(icon(colorButton()), logoSwatch(QColor(255, 0, 10)));
         LogoChartData on = otherRecord();
         on.showLogo = true;
         QVERIFY(m_panel->getData() == on);
@@ -1253,10 +1253,10 @@ private Q_SLOTS:
     void handedOverTextLayerIsRendered()
     {
         PaintTextLogoWidget layer;
-        layer.resize(chart);
+        layer.resize(logoChart);
         QVERIFY(layerImage(layer).isNull());
         m_panel->setTextLogoWidget(&layer);
-        QCOMPARE(layerImage(layer).size(), chart);
+        QCOMPARE(layerImage(layer).size(), logoChart);
     }
 
     void longCaptionsAreElided()

@@ -18,7 +18,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-const QSize layerSize(240, 220);
+const QSize borderLayerSize(240, 220);
 
 /// The panel's numeric entries, in the order of its rows.
 enum Entry
@@ -32,7 +32,7 @@ enum Entry
 };
 
 /// The picture of a colour button: the colour inside a transparent margin of one pixel.
-QImage swatch(const QColor& color)
+QImage borderSwatch(const QColor& color)
 {
     QImage image(16, 16, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -41,7 +41,7 @@ QImage swatch(const QColor& color)
 }
 
 /// The picture of a colour button whose group is switched off.
-QImage disabledSwatch()
+QImage disabledBorderSwatch()
 {
     QImage image(40, 20, QImage::Format_ARGB32_Premultiplied);
     image.fill(QColor(0x33, 0x33, 0x37));
@@ -54,16 +54,16 @@ QImage disabledSwatch()
 }
 
 /// The panel in a window, with the painters that it drives, and everything that is heard of it in order.
-class Desk : public QObject
+class PublicDesk : public QObject
 {
 public:
-    Desk()
+    PublicDesk()
     {
         auto* layout = new QVBoxLayout(&window);
         layout->addWidget(panel);
         window.move(40, 30);
-        border.resize(layerSize);
-        veil.resize(layerSize);
+        border.resize(borderLayerSize);
+        veil.resize(borderLayerSize);
         panel->setPaintPublicWidget(&border);
         panel->setPaintPublicBrightWidget(&veil);
         connect(panel, &PublicSettingBox::publicSignal, this, [this] { hear("public"); });
@@ -164,7 +164,7 @@ private:
 QImage borderImage(int width, const QColor& color, bool visible = true)
 {
     PaintPublicWidget layer;
-    layer.resize(layerSize);
+    layer.resize(borderLayerSize);
     layer.setOutLineWidth(width);
     layer.setOutLineColor(color);
     layer.setOutLineVisible(visible);
@@ -177,7 +177,7 @@ QStringList words(const char* text)
     return QString::fromLatin1(text).split(QStringLiteral(", "), Qt::SkipEmptyParts);
 }
 
-const QStringList nothing;
+const QStringList silence;
 const QStringList publicOnce{QStringLiteral("public")};
 
 PublicChartData otherData()
@@ -211,7 +211,7 @@ private Q_SLOTS:
 
     void frame()
     {
-        Desk d;
+        PublicDesk d;
         QCOMPARE(d.panel->minimumWidth(), 410);
         QCOMPARE(d.panel->maximumWidth(), 410);
         const auto* const inner = d.panel->findChild<QWidget*>(QStringLiteral("publicWidget"));
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QFETCH(double, value);
         QFETCH(QSize, size);
         QFETCH(QString, suffix);
-        Desk d;
+        PublicDesk d;
         QCOMPARE(d.panel->findChildren<SpinEditBox*>().size(), 6);
         const SpinEditBox* const entry = d.entry(which);
         QCOMPARE(entry->minimum(), minimum);
@@ -261,14 +261,14 @@ private Q_SLOTS:
 
     void theEntriesOfTheCabinetGridAreNamed()
     {
-        Desk d;
+        PublicDesk d;
         QCOMPARE(d.panel->findChild<SpinEditBox*>(QStringLiteral("Row")), d.entry(Row));
         QCOMPARE(d.panel->findChild<SpinEditBox*>(QStringLiteral("Col")), d.entry(Col));
     }
 
     void otherControls()
     {
-        Desk d;
+        PublicDesk d;
         QCOMPARE(d.slider()->orientation(), Qt::Horizontal);
         QCOMPARE(d.slider()->minimum(), 0);
         QCOMPARE(d.slider()->maximum(), 100);
@@ -280,7 +280,7 @@ private Q_SLOTS:
         QCOMPARE(d.borderSwitch()->property("switchStyle"), QVariant(QStringLiteral("general")));
         QCOMPARE(d.color()->size(), QSize(16, 16));
         QVERIFY(!d.color()->property("btnProperty").toString().isEmpty());
-        VD_COMPARE_IMAGES(d.colorIcon(), swatch(Qt::white));
+        VD_COMPARE_IMAGES(d.colorIcon(), borderSwatch(Qt::white));
         QCOMPARE(d.color()->iconSize(), d.color()->size());
     }
 
@@ -295,7 +295,7 @@ private Q_SLOTS:
     void captions()
     {
         QFETCH(QString, text);
-        Desk d;
+        PublicDesk d;
         const QLabel* const caption = d.caption(text);
         QVERIFY(caption);
         QCOMPARE(caption->minimumSize(), QSize(80, 24));
@@ -305,7 +305,7 @@ private Q_SLOTS:
 
     void rowsFollowTheirCaptions()
     {
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         const QVector<QVector<QWidget*>> rows{
             {d.caption(QStringLiteral("Brightness")), d.slider(), d.entry(Brightness), d.reset()},
@@ -332,19 +332,19 @@ private Q_SLOTS:
 
     void startsWithItsDefaults()
     {
-        Desk d;
+        PublicDesk d;
         const PublicChartData data = d.panel->getData();
         PublicChartData expected;
         expected.outBorderWidth = 6;
         QVERIFY(data == expected);
         QCOMPARE(d.panel->resolutionWidth(), 1920);
         QCOMPARE(d.panel->resolutionHeight(), 1080);
-        QCOMPARE(d.heard, nothing);
+        QCOMPARE(d.heard, silence);
     }
 
     void draggingTheSlider()
     {
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.veil.setBrightness(90);
         d.press(1.0);
@@ -354,7 +354,7 @@ private Q_SLOTS:
         const int value = d.slider()->value();
         QVERIFY(value > 20 && value < 60);
         QCOMPARE(d.entry(Brightness)->value(), double(value));
-        QCOMPARE(d.heard, nothing);
+        QCOMPARE(d.heard, silence);
         QCOMPARE(d.veilAlpha(), 255 - 90 * 255 / 100);
 
         d.release(0.4);
@@ -365,11 +365,11 @@ private Q_SLOTS:
 
     void releasingAnUnmovedSliderAppliesItsValue()
     {
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.panel->setBrightnessValue(30);
         d.slider()->setSliderDown(true);
-        QCOMPARE(d.heard, nothing);
+        QCOMPARE(d.heard, silence);
         d.slider()->setSliderDown(false);
         QCOMPARE(d.heard, publicOnce);
         QCOMPARE(d.veilAlpha(), 255 - 76);
@@ -377,7 +377,7 @@ private Q_SLOTS:
 
     void aStepOfTheSliderIsAppliedAtOnce()
     {
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.slider()->setFocus();
         QTest::keyClick(d.window.windowHandle(), Qt::Key_Left);
@@ -402,7 +402,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(int, percent);
         QFETCH(int, alpha);
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.type(Brightness, qPrintable(typed));
         QCOMPARE(d.slider()->value(), percent);
@@ -416,14 +416,14 @@ private Q_SLOTS:
 
     void nothingIsAppliedWhileTyping()
     {
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.click(d.entry(Brightness));
         QTest::keyClick(d.window.windowHandle(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(d.window.windowHandle(), '5');
         QTest::keyClick(d.window.windowHandle(), '0');
         QCOMPARE(d.slider()->value(), 100);
-        QCOMPARE(d.heard, nothing);
+        QCOMPARE(d.heard, silence);
     }
 
     void typing_data()
@@ -459,7 +459,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(double, value);
         QFETCH(QString, heard);
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.type(which, qPrintable(typed));
         QCOMPARE(d.entry(which)->value(), value);
@@ -468,7 +468,7 @@ private Q_SLOTS:
 
     void theBorderPainterFollowsItsWidth()
     {
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         bool shownFirst = false;
         connect(d.panel, &PublicSettingBox::publicSignal, this, [&] {
@@ -489,7 +489,7 @@ private Q_SLOTS:
     void aCabinetCountReachesTheBorderPainter()
     {
         QFETCH(int, which);
-        Desk d;
+        PublicDesk d;
         d.border.grab();
         const qint64 picture = d.border.pixmap(Qt::ReturnByValue).cacheKey();
         d.entry(which)->setValue(33);
@@ -510,7 +510,7 @@ private Q_SLOTS:
     void resettingTheBrightness()
     {
         QFETCH(int, percent);
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.veil.setBrightness(20);
         d.panel->setBrightnessValue(percent);
@@ -529,13 +529,13 @@ private Q_SLOTS:
         QTest::newRow("a color") << QColor(12, 34, 56);
         QTest::newRow("translucent") << QColor(201, 99, 33, 45);
         QTest::newRow("invisible") << QColor(201, 99, 33, 0);
-        QTest::newRow("the grey of the disabled swatch") << disabledSwatch().pixelColor(20, 10);
+        QTest::newRow("the grey of the disabled swatch") << disabledBorderSwatch().pixelColor(20, 10);
     }
 
     void switchingTheBorderOffAndOn()
     {
         QFETCH(QColor, color);
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.panel->setOutLineColor(color);
         d.heard.clear();
@@ -544,7 +544,7 @@ private Q_SLOTS:
         QVERIFY(!d.borderSwitch()->isChecked());
         QCOMPARE(d.takeHeard(), publicOnce);
         QCOMPARE(d.color()->iconSize(), QSize(40, 20));
-        VD_COMPARE_IMAGES(d.color()->icon().pixmap(40, 20).toImage(), disabledSwatch());
+        VD_COMPARE_IMAGES(d.color()->icon().pixmap(40, 20).toImage(), disabledBorderSwatch());
         QVERIFY(!d.entry(BorderWidth)->isEnabled());
         QVERIFY(!d.color()->isEnabled());
         VD_COMPARE_IMAGES(layerImage(d.border), borderImage(6, color, false));
@@ -554,7 +554,7 @@ private Q_SLOTS:
         d.clickSwitch();
         QCOMPARE(d.takeHeard(), publicOnce);
         QCOMPARE(d.color()->iconSize(), QSize(16, 16));
-        VD_COMPARE_IMAGES(d.colorIcon(), swatch(color));
+        VD_COMPARE_IMAGES(d.colorIcon(), borderSwatch(color));
         QVERIFY(d.entry(BorderWidth)->isEnabled());
         QVERIFY(d.color()->isEnabled());
         VD_COMPARE_IMAGES(layerImage(d.border), borderImage(6, color));
@@ -563,7 +563,7 @@ private Q_SLOTS:
 
     void theDisabledSwatchIsGrey()
     {
-        Desk d;
+        PublicDesk d;
         d.borderSwitch()->click();
         const QImage icon = d.color()->icon().pixmap(40, 20).toImage();
         QCOMPARE(icon.size(), QSize(40, 20));
@@ -573,7 +573,7 @@ private Q_SLOTS:
 
     void theColorButtonAsks()
     {
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         QVector<QPushButton*> requested;
         connect(d.panel, &SettingPanel::colorRequested, this,
@@ -585,7 +585,7 @@ private Q_SLOTS:
 
     void theColorButtonCanBeSpiedOn()
     {
-        Desk d;
+        PublicDesk d;
         const QSignalSpy asked(d.panel, &PublicSettingBox::colorBtnSignal);
         d.color()->click();
         QCOMPARE(asked.count(), 1);
@@ -594,7 +594,7 @@ private Q_SLOTS:
 
     void everyChangeReachesTheShell()
     {
-        Desk d;
+        PublicDesk d;
         QSignalSpy changed(d.panel, &SettingPanel::changed);
         d.entry(Row)->setValue(3);
         QCOMPARE(changed.count(), 1);
@@ -611,10 +611,10 @@ private Q_SLOTS:
     void pickedColors()
     {
         QFETCH(QColor, color);
-        Desk d;
+        PublicDesk d;
         d.panel->setOutLineColor(color);
         QCOMPARE(d.heard, publicOnce);
-        VD_COMPARE_IMAGES(d.colorIcon(), swatch(color));
+        VD_COMPARE_IMAGES(d.colorIcon(), borderSwatch(color));
         VD_COMPARE_IMAGES(layerImage(d.border), borderImage(6, color));
         QVERIFY(d.panel->getData().outBorderColor == toRgbaColor(color));
     }
@@ -624,7 +624,7 @@ private Q_SLOTS:
     void aCancelledPickerRestoresTheColor()
     {
         QFETCH(QColor, color);
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         d.panel->setOutLineColor(color);
         d.click(d.color());
@@ -633,7 +633,7 @@ private Q_SLOTS:
         d.heard.clear();
         d.panel->restoreOutLineColor();
         QCOMPARE(d.heard, publicOnce);
-        VD_COMPARE_IMAGES(d.colorIcon(), swatch(color));
+        VD_COMPARE_IMAGES(d.colorIcon(), borderSwatch(color));
         VD_COMPARE_IMAGES(layerImage(d.border), borderImage(6, color));
     }
 
@@ -656,7 +656,7 @@ private Q_SLOTS:
         row("invisible border", data);
         data.showOutBorder = false;
         row("no border, of an invisible color", data);
-        data.outBorderColor = toRgbaColor(disabledSwatch().pixelColor(20, 10));
+        data.outBorderColor = toRgbaColor(disabledBorderSwatch().pixelColor(20, 10));
         row("no border, of the color of the disabled swatch", data);
         data.outBorderColor = {255, 255, 255, 255};
         row("no border, of the first color", data);
@@ -675,11 +675,11 @@ private Q_SLOTS:
     {
         QFETCH(PublicChartData, data);
         QFETCH(PublicChartData, shown);
-        Desk fresh;
+        PublicDesk fresh;
         fresh.panel->setData(data);
         QVERIFY(fresh.panel->getData() == shown);
 
-        Desk used;
+        PublicDesk used;
         used.panel->setData(otherData());
         used.panel->setData(data);
         QVERIFY(used.panel->getData() == shown);
@@ -693,7 +693,7 @@ private Q_SLOTS:
             layerImage(used.border),
             borderImage(shown.outBorderWidth, toQColor(shown.outBorderColor), shown.showOutBorder));
         used.borderSwitch()->setChecked(true);
-        VD_COMPARE_IMAGES(used.colorIcon(), swatch(toQColor(shown.outBorderColor)));
+        VD_COMPARE_IMAGES(used.colorIcon(), borderSwatch(toQColor(shown.outBorderColor)));
         VD_COMPARE_IMAGES(layerImage(used.border),
                           borderImage(shown.outBorderWidth, toQColor(shown.outBorderColor)));
     }
@@ -737,7 +737,7 @@ private Q_SLOTS:
     {
         QFETCH(PublicChartData, data);
         QFETCH(QString, heard);
-        Desk d;
+        PublicDesk d;
         PublicChartData shown = otherData();
         shown.showOutBorder = true;
         d.panel->setData(shown);
@@ -748,7 +748,7 @@ private Q_SLOTS:
 
     void aRecordDimsTheChartWhileTheSliderIsDragged()
     {
-        Desk d;
+        PublicDesk d;
         d.slider()->setSliderDown(true);
         d.panel->setData(otherData());
         QCOMPARE(d.veilAlpha(), 255 - 40 * 255 / 100);
@@ -756,7 +756,7 @@ private Q_SLOTS:
 
     void aRecordSwitchesTheBorder()
     {
-        Desk d;
+        PublicDesk d;
         PublicChartData data = d.panel->getData();
         for (const bool on : {false, true}) {
             data.showOutBorder = on;
@@ -765,14 +765,14 @@ private Q_SLOTS:
             QCOMPARE(d.heard.count(QStringLiteral("public")), d.heard.size());
             d.heard.clear();
             d.panel->setData(data);
-            QCOMPARE(d.heard, nothing);
+            QCOMPARE(d.heard, silence);
             VD_COMPARE_IMAGES(layerImage(d.border), borderImage(6, Qt::white, on));
         }
     }
 
     void theHeightIsPushedBeforeTheWidth()
     {
-        Desk d;
+        PublicDesk d;
         QStringList sizes;
         connect(d.panel, &PublicSettingBox::resolutionSignal, this, [&] {
             sizes.append(
@@ -784,7 +784,7 @@ private Q_SLOTS:
 
     void theRecordCarriesTheGroup()
     {
-        Desk d;
+        PublicDesk d;
         TestChartToolsData record;
         record.publicData = otherData();
         d.panel->pushFrom(record);
@@ -795,7 +795,7 @@ private Q_SLOTS:
 
     void theLastBrightnessOfARecordIsKept()
     {
-        Desk d;
+        PublicDesk d;
         d.panel->setData(otherData());
         QCOMPARE(d.entry(Brightness)->property("lastValue").toDouble(), 40.0);
         d.entry(Brightness)->setValue(70);
@@ -819,7 +819,7 @@ private Q_SLOTS:
     {
         QFETCH(int, percent);
         QFETCH(int, shown);
-        Desk d;
+        PublicDesk d;
         d.veil.setBrightness(20);
         QSignalSpy sliderChanged(d.slider(), &QSlider::valueChanged);
         QSignalSpy entryChanged(d.entry(Brightness), &SpinEditBox::valueChanged);
@@ -827,7 +827,7 @@ private Q_SLOTS:
         QCOMPARE(d.slider()->value(), shown);
         QCOMPARE(d.entry(Brightness)->value(), double(shown));
         QCOMPARE(d.entry(Brightness)->property("lastValue").toDouble(), double(shown));
-        QCOMPARE(d.heard, nothing);
+        QCOMPARE(d.heard, silence);
         QCOMPARE(sliderChanged.count() + entryChanged.count(), 0);
         QCOMPARE(d.veilAlpha(), 255 - 51);
 
@@ -850,7 +850,7 @@ private Q_SLOTS:
     {
         QFETCH(double, value);
         QFETCH(int, resolution);
-        Desk d;
+        PublicDesk d;
         for (const Entry which : {Width, Height}) {
             d.entry(which)->setMinimum(0);
             d.entry(which)->setValue(value);
@@ -871,7 +871,7 @@ private Q_SLOTS:
     void lock()
     {
         QFETCH(bool, borderOn);
-        Desk d;
+        PublicDesk d;
         d.borderSwitch()->setChecked(borderOn);
         d.heard.clear();
         const QVector<QWidget*> always{d.slider(),      d.entry(Brightness), d.reset(),    d.entry(Width),
@@ -887,12 +887,12 @@ private Q_SLOTS:
             for (const QWidget* control : withBorder)
                 QCOMPARE(control->isEnabled(), borderOn);
         }
-        QCOMPARE(d.heard, nothing);
+        QCOMPARE(d.heard, silence);
     }
 
     void aSwitchedBorderStaysUnderTheLock()
     {
-        Desk d;
+        PublicDesk d;
         d.borderSwitch()->setChecked(false);
         d.panel->setControlsDisabled(true);
         d.panel->setData(PublicChartData());
@@ -914,7 +914,7 @@ private Q_SLOTS:
     void theLockTakesTheFocus()
     {
         QFETCH(bool, disable);
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         QWidget* const before = disable ? static_cast<QWidget*>(d.entry(Row)) : d.panel->parentWidget();
         d.panel->setControlsDisabled(!disable);
@@ -935,7 +935,7 @@ private Q_SLOTS:
     void retranslating()
     {
         QFETCH(QString, source);
-        Desk d;
+        PublicDesk d;
         QVERIFY(d.show());
         QLabel* const caption = d.caption(source);
         QVERIFY(caption);
@@ -949,12 +949,12 @@ private Q_SLOTS:
         d.panel->retranslate();
         QCOMPARE(caption->text(), QStringLiteral("Kurz"));
         QCOMPARE(caption->toolTip(), QString());
-        QCOMPARE(d.heard, nothing);
+        QCOMPARE(d.heard, silence);
     }
 
     void noPainterIsIgnored()
     {
-        Desk d;
+        PublicDesk d;
         d.panel->setPaintPublicWidget(nullptr);
         d.panel->setPaintPublicBrightWidget(nullptr);
         d.panel->setData(otherData());
@@ -965,11 +965,11 @@ private Q_SLOTS:
 
     void otherPaintersTakeOver()
     {
-        Desk d;
+        PublicDesk d;
         PaintPublicWidget border;
         PaintPublicBrightWidget veil;
-        border.resize(layerSize);
-        veil.resize(layerSize);
+        border.resize(borderLayerSize);
+        veil.resize(borderLayerSize);
         d.panel->setPaintPublicWidget(&border);
         d.panel->setPaintPublicBrightWidget(&veil);
         d.entry(BorderWidth)->setValue(30);

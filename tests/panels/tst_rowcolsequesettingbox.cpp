@@ -21,29 +21,29 @@
 
 using namespace vardeno::testcharttools;
 
-using Change = std::function<void(PaintRowColSequeWidget& layer)>;
-Q_DECLARE_METATYPE(Change)
+using SequenceChange = std::function<void(PaintRowColSequeWidget& layer)>;
+Q_DECLARE_METATYPE(SequenceChange)
 
 namespace {
 
-const QSize chart(1600, 900);
+const QSize sequenceChart(1600, 900);
 
 /// The layer as a fresh painter with lines and labels draws it after `change`.
-QImage drawnAfter(const Change& change)
+QImage sequenceAfter(const SequenceChange& change)
 {
     PaintRowColSequeWidget layer;
     layer.setRowColVisible(true);
     layer.setSequeVisible(true);
     change(layer);
-    return pictureAt(chart, layer);
+    return pictureAt(sequenceChart, layer);
 }
 
-void click(QWidget* control)
+void press(QWidget* control)
 {
     QTest::mouseClick(control, Qt::LeftButton);
 }
 
-void type(QSpinBox* entry, int value)
+void enter(QSpinBox* entry, int value)
 {
     entry->setFocus();
     entry->selectAll();
@@ -90,12 +90,12 @@ private:
 };
 
 /// The panel in a shown window, with the painters it drives.
-struct ShownPanel
+struct ShownEditor
 {
-    explicit ShownPanel(bool withPainters = true)
+    explicit ShownEditor(bool withPainters = true)
     {
         for (QLabel* layer : QList<QLabel*>{&layer, &basic, &self})
-            pictureAt(chart, *layer);
+            pictureAt(sequenceChart, *layer);
         if (withPainters) {
             panel.setPaintRowColSequeWidget(&layer);
             panel.setPaintBasicWidget(&basic);
@@ -176,7 +176,7 @@ struct ShownPanel
         QObject::connect(&panel, &RowColSequeSettingBox::rowColSignal, &panel, [this] { ++signalCount; });
 };
 
-int enabledCount(const QList<QWidget*>& controls)
+int usableCount(const QList<QWidget*>& controls)
 {
     return int(
         std::count_if(controls.begin(), controls.end(), [](QWidget* each) { return each->isEnabled(); }));
@@ -193,7 +193,7 @@ private Q_SLOTS:
 
     void frame()
     {
-        const ShownPanel shown;
+        const ShownEditor shown;
         QCOMPARE(shown.panel.title(), QStringLiteral("rowcol serial num setting model"));
         QCOMPARE(shown.panel.minimumWidth(), 380);
         QCOMPARE(shown.panel.maximumWidth(), 380);
@@ -248,7 +248,7 @@ private Q_SLOTS:
         QFETCH(int, row);
         QFETCH(int, captionColumn);
         QFETCH(int, controlColumn);
-        ShownPanel shown;
+        ShownEditor shown;
         QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
         QWidget* widget = shown.control(control);
         QLabel* label = shown.caption(caption.constData());
@@ -278,7 +278,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, name);
         QFETCH(int, maximum);
         QFETCH(int, value);
-        const ShownPanel shown;
+        const ShownEditor shown;
         const QSpinBox* entry = shown.entry(name.constData());
         QVERIFY(entry);
         QCOMPARE(entry->size(), QSize(55, 20));
@@ -289,7 +289,7 @@ private Q_SLOTS:
 
     void otherControls()
     {
-        const ShownPanel shown(false);
+        const ShownEditor shown(false);
         QVERIFY(shown.rowColCheck()->isChecked());
         QVERIFY(shown.sequeCheck()->isChecked());
         QVERIFY(shown.models().at(0)->isChecked());
@@ -312,12 +312,12 @@ private Q_SLOTS:
                 QCOMPARE(combo->itemData(i), QVariant(i));
             }
         }
-        QCOMPARE(enabledCount(shown.gridControls() + shown.labelControls()), 10);
+        QCOMPARE(usableCount(shown.gridControls() + shown.labelControls()), 10);
     }
 
     void initShowPushesTheState()
     {
-        ShownPanel shown(false);
+        ShownEditor shown(false);
         const QImage transparent = layerImage(shown.layer);
         shown.panel.initShow();
         QCOMPARE(shown.signalCount, 0);
@@ -326,15 +326,15 @@ private Q_SLOTS:
         QCOMPARE(shown.signalCount, 0);
         shown.panel.initShow();
         QCOMPARE(shown.signalCount, 3);
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([](PaintRowColSequeWidget&) {}));
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget&) {}));
     }
 
     void initShowPushesWhatIsSwitchedOff()
     {
-        ShownPanel shown(false);
+        ShownEditor shown(false);
         const QImage transparent = layerImage(shown.layer);
-        click(shown.rowColCheck());
-        click(shown.sequeCheck());
+        press(shown.rowColCheck());
+        press(shown.sequeCheck());
         shown.layer.setRowColVisible(true);
         shown.layer.setSequeVisible(true);
         shown.layer.setShowModel(2);
@@ -343,32 +343,32 @@ private Q_SLOTS:
         VD_COMPARE_IMAGES(layerImage(shown.layer), transparent);
         shown.layer.setRowColVisible(true);
         shown.layer.setSequeVisible(true);
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([](PaintRowColSequeWidget&) {}));
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget&) {}));
     }
 
     void lettersAreCheckedAtTheFirstShow()
     {
-        ShownPanel shown(false);
-        click(shown.models().at(1));
+        ShownEditor shown(false);
+        press(shown.models().at(1));
         shown.panel.setPaintRowColSequeWidget(&shown.layer);
         shown.layer.setShowModel(1);
         shown.panel.initShow();
         QVERIFY(shown.models().at(0)->isChecked());
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([](PaintRowColSequeWidget&) {}));
-        click(shown.models().at(1));
-        click(shown.sequeCheck());
-        click(shown.sequeCheck());
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget&) {}));
+        press(shown.models().at(1));
+        press(shown.sequeCheck());
+        press(shown.sequeCheck());
         QVERIFY(shown.models().at(1)->isChecked());
     }
 
     /// Unlike a first switching on, a first switching off uses the first show up without checking anything.
     void switchingOffUsesTheFirstShowUp()
     {
-        ShownPanel shown(false);
+        ShownEditor shown(false);
         shown.panel.setPaintRowColSequeWidget(&shown.layer);
-        click(shown.models().at(2));
-        click(shown.sequeCheck());
-        click(shown.sequeCheck());
+        press(shown.models().at(2));
+        press(shown.sequeCheck());
+        press(shown.sequeCheck());
         QVERIFY(shown.models().at(2)->isChecked());
     }
 
@@ -376,28 +376,31 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("control"); // object name, or class and index
         QTest::addColumn<int>("key");            // 0 for a click
-        QTest::addColumn<Change>("change");
-        const auto row = [](const char* name, const char* control, int key, const Change& change) {
+        QTest::addColumn<SequenceChange>("change");
+        const auto row = [](const char* name, const char* control, int key, const SequenceChange& change) {
             QTest::newRow(name) << QByteArray(control) << key << change;
         };
-        using Layer = PaintRowColSequeWidget;
-        row("lines off", "QCheckBox 0", 0, [](Layer& layer) { layer.setRowColVisible(false); });
+        using SequenceLayer = PaintRowColSequeWidget;
+        row("lines off", "QCheckBox 0", 0, [](SequenceLayer& layer) { layer.setRowColVisible(false); });
         row("lines off by key", "QCheckBox 0", Qt::Key_Space,
-            [](Layer& layer) { layer.setRowColVisible(false); });
-        row("labels off", "QCheckBox 1", 0, [](Layer& layer) { layer.setSequeVisible(false); });
-        row("letters", "QRadioButton 0", 0, [](Layer&) {});
-        row("numbers", "QRadioButton 1", 0, [](Layer& layer) { layer.setShowModel(1); });
-        row("letter and number", "QRadioButton 2", 0, [](Layer& layer) { layer.setShowModel(2); });
-        row("a row more", "_rowSpinBox", Qt::Key_Up, [](Layer& layer) { layer.setRows(10); });
-        row("a row less", "_rowSpinBox", Qt::Key_Down, [](Layer& layer) { layer.setRows(8); });
-        row("a column more", "_colSpinBox", Qt::Key_Up, [](Layer& layer) { layer.setColumns(17); });
-        row("a column less", "_colSpinBox", Qt::Key_Down, [](Layer& layer) { layer.setColumns(15); });
-        row("larger labels", "_sequeSpinBox", Qt::Key_Up, [](Layer& layer) { layer.setSequeSize(16); });
-        row("smaller labels", "_sequeSpinBox", Qt::Key_Down, [](Layer& layer) { layer.setSequeSize(14); });
-        row("location", "_localComboBox", Qt::Key_Down, [](Layer& layer) { layer.setLocation(1); });
-        row("last location", "_localComboBox", Qt::Key_End, [](Layer& layer) { layer.setLocation(2); });
-        row("sorting", "_sortComboBox", Qt::Key_Down, [](Layer& layer) { layer.setSortType(1); });
-        row("last sorting", "_sortComboBox", Qt::Key_End, [](Layer& layer) { layer.setSortType(3); });
+            [](SequenceLayer& layer) { layer.setRowColVisible(false); });
+        row("labels off", "QCheckBox 1", 0, [](SequenceLayer& layer) { layer.setSequeVisible(false); });
+        row("letters", "QRadioButton 0", 0, [](SequenceLayer&) {});
+        row("numbers", "QRadioButton 1", 0, [](SequenceLayer& layer) { layer.setShowModel(1); });
+        row("letter and number", "QRadioButton 2", 0, [](SequenceLayer& layer) { layer.setShowModel(2); });
+        row("a row more", "_rowSpinBox", Qt::Key_Up, [](SequenceLayer& layer) { layer.setRows(10); });
+        row("a row less", "_rowSpinBox", Qt::Key_Down, [](SequenceLayer& layer) { layer.setRows(8); });
+        row("a column more", "_colSpinBox", Qt::Key_Up, [](SequenceLayer& layer) { layer.setColumns(17); });
+        row("a column less", "_colSpinBox", Qt::Key_Down, [](SequenceLayer& layer) { layer.setColumns(15); });
+        row("larger labels", "_sequeSpinBox", Qt::Key_Up,
+            [](SequenceLayer& layer) { layer.setSequeSize(16); });
+        row("smaller labels", "_sequeSpinBox", Qt::Key_Down,
+            [](SequenceLayer& layer) { layer.setSequeSize(14); });
+        row("location", "_localComboBox", Qt::Key_Down, [](SequenceLayer& layer) { layer.setLocation(1); });
+        row("last location", "_localComboBox", Qt::Key_End,
+            [](SequenceLayer& layer) { layer.setLocation(2); });
+        row("sorting", "_sortComboBox", Qt::Key_Down, [](SequenceLayer& layer) { layer.setSortType(1); });
+        row("last sorting", "_sortComboBox", Qt::Key_End, [](SequenceLayer& layer) { layer.setSortType(3); });
     }
 
     /// Every control tells the painter at once, and reports once.
@@ -405,37 +408,37 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, control);
         QFETCH(int, key);
-        QFETCH(Change, change);
-        ShownPanel shown;
+        QFETCH(SequenceChange, change);
+        ShownEditor shown;
         QWidget* widget = shown.control(control);
         QVERIFY(widget);
         if (key == 0)
-            click(widget);
+            press(widget);
         else
             QTest::keyClick(widget, Qt::Key(key));
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter(change));
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter(change));
         QCOMPARE(shown.signalCount, 1);
     }
 
     void secondSorting()
     {
-        ShownPanel shown;
+        ShownEditor shown;
         QTest::keyClick(shown.sorting(), Qt::Key_Down);
         QTest::keyClick(shown.sorting(), Qt::Key_Down);
         QCOMPARE(shown.signalCount, 2);
         VD_COMPARE_IMAGES(layerImage(shown.layer),
-                          drawnAfter([](PaintRowColSequeWidget& layer) { layer.setSortType(2); }));
+                          sequenceAfter([](PaintRowColSequeWidget& layer) { layer.setSortType(2); }));
         QTest::keyClick(shown.sorting(), Qt::Key_Home);
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([](PaintRowColSequeWidget&) {}));
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget&) {}));
     }
 
     void backToLettersByClick()
     {
-        ShownPanel shown;
-        click(shown.models().at(1));
-        click(shown.models().at(0));
+        ShownEditor shown;
+        press(shown.models().at(1));
+        press(shown.models().at(0));
         QCOMPARE(shown.signalCount, 2);
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([](PaintRowColSequeWidget&) {}));
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget&) {}));
     }
 
     void foreignItems_data()
@@ -454,7 +457,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, combo);
         QFETCH(QVariant, data);
-        ShownPanel shown;
+        ShownEditor shown;
         QComboBox* list = shown.combo(combo.constData());
         list->addItem(QStringLiteral("foreign"), data);
         QTest::keyClick(list, Qt::Key_Down);
@@ -471,23 +474,23 @@ private Q_SLOTS:
 
     void gridReachesAllPainters()
     {
-        ShownPanel shown;
-        type(shown.rows(), 3);
-        type(shown.columns(), 5);
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([](PaintRowColSequeWidget& layer) {
+        ShownEditor shown;
+        enter(shown.rows(), 3);
+        enter(shown.columns(), 5);
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget& layer) {
                               layer.setRows(3);
                               layer.setColumns(5);
                           }));
         PaintBasicWidget basic;
         basic.setRows(3);
         basic.setColumns(5);
-        VD_COMPARE_IMAGES(layerImage(shown.basic), pictureAt(chart, basic));
+        VD_COMPARE_IMAGES(layerImage(shown.basic), pictureAt(sequenceChart, basic));
         PaintSelfWidget self;
         self.setSelfTextSize(60); // below the size of outlines, whose pixels depend on what was drawn before
         shown.self.setSelfTextSize(60);
         self.setRows(3);
         self.setColumns(5);
-        VD_COMPARE_IMAGES(layerImage(shown.self), pictureAt(chart, self));
+        VD_COMPARE_IMAGES(layerImage(shown.self), pictureAt(sequenceChart, self));
     }
 
     void painterMayBeOneOfThree_data()
@@ -504,7 +507,7 @@ private Q_SLOTS:
     void painterMayBeOneOfThree()
     {
         QFETCH(int, painter);
-        ShownPanel shown(false);
+        ShownEditor shown(false);
         if (painter == 1)
             shown.panel.setPaintRowColSequeWidget(&shown.layer);
         if (painter == 2)
@@ -527,17 +530,17 @@ private Q_SLOTS:
         for (QSpinBox* entry : {shown.rows(), shown.columns(), shown.size()})
             QTest::keyClick(entry, Qt::Key_Down);
         for (QRadioButton* model : shown.models())
-            click(model);
+            press(model);
         QTest::keyClick(shown.location(), Qt::Key_Down);
         QTest::keyClick(shown.sorting(), Qt::Key_Down);
         QCOMPARE(shown.signalCount, 8);
         for (QPushButton* button : {shown.rowColor(), shown.sequeColor()}) {
             const DialogAnswer answer(Qt::red);
-            click(button);
+            press(button);
             QVERIFY(answer.seen);
         }
-        click(shown.rowColCheck());
-        click(shown.sequeCheck());
+        press(shown.rowColCheck());
+        press(shown.sequeCheck());
         QCOMPARE(shown.signalCount, 12);
         QCOMPARE(shown.basic.pixmap(Qt::ReturnByValue).cacheKey() != basic, painter == 2);
         QCOMPARE(shown.self.pixmap(Qt::ReturnByValue).cacheKey() != self, painter == 3);
@@ -545,29 +548,29 @@ private Q_SLOTS:
 
     void sizeThatDoesNotFit()
     {
-        ShownPanel shown;
+        ShownEditor shown;
         const int fitted = expectedLabelSize(500, {50, 51});
         QVERIFY(fitted < 100);
         shown.size()->setValue(500);
         QCOMPARE(shown.size()->value(), fitted);
         QCOMPARE(shown.layer.sequeSize(), fitted);
         QCOMPARE(shown.signalCount, 2); // the second for the value that the entry falls back to
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([&](PaintRowColSequeWidget& layer) {
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([&](PaintRowColSequeWidget& layer) {
                               layer.setSequeSize(ushort(fitted));
                           }));
     }
 
     void typedSizeThatDoesNotFit()
     {
-        ShownPanel shown;
-        type(shown.size(), 99);
+        ShownEditor shown;
+        enter(shown.size(), 99);
         QCOMPARE(shown.size()->value(), expectedLabelSize(99, {50, 51}));
         QCOMPARE(shown.layer.sequeSize(), shown.size()->value());
     }
 
     void largestSizeThatFits()
     {
-        ShownPanel shown;
+        ShownEditor shown;
         const int fitted = expectedLabelSize(500, {50, 51});
         shown.size()->setValue(fitted);
         QCOMPARE(shown.size()->value(), fitted);
@@ -588,7 +591,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, ofRows);
         QFETCH(QSize, limits);
-        ShownPanel shown;
+        ShownEditor shown;
         QSpinBox* const count = ofRows ? shown.rows() : shown.columns();
         const int usual = count->value();
         const int fitted = expectedLabelSize(15, limits);
@@ -602,7 +605,7 @@ private Q_SLOTS:
         count->setValue(usual);
         QCOMPARE(shown.size()->value(), fitted);
         QCOMPARE(shown.layer.sequeSize(), fitted);
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([&](PaintRowColSequeWidget& layer) {
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([&](PaintRowColSequeWidget& layer) {
                               layer.setSequeSize(ushort(fitted));
                           }));
         shown.size()->setValue(15);
@@ -611,22 +614,22 @@ private Q_SLOTS:
 
     void sizeIsFittedForLinesAlone()
     {
-        ShownPanel shown;
-        click(shown.sequeCheck());
+        ShownEditor shown;
+        press(shown.sequeCheck());
         shown.rows()->setValue(100);
         QCOMPARE(shown.size()->value(), expectedLabelSize(15, {50, 4}));
     }
 
     void valuesAreCutToTheirRanges()
     {
-        ShownPanel shown;
+        ShownEditor shown;
         shown.rows()->setValue(1000);
         QCOMPARE(shown.rows()->value(), 100);
         shown.columns()->setValue(0);
         QCOMPARE(shown.columns()->value(), 1);
         shown.size()->setValue(0);
         QCOMPARE(shown.size()->value(), 1);
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter([](PaintRowColSequeWidget& layer) {
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget& layer) {
                               layer.setRows(100);
                               layer.setColumns(1);
                               layer.setSequeSize(1);
@@ -636,12 +639,13 @@ private Q_SLOTS:
     void colors_data()
     {
         QTest::addColumn<QByteArray>("button");
-        QTest::addColumn<Change>("change");
-        QTest::newRow("lines") << QByteArray("_rowColorButton") << Change([](PaintRowColSequeWidget& layer) {
-            layer.setRowColColor(QColor(18, 52, 171));
-        });
+        QTest::addColumn<SequenceChange>("change");
+        QTest::newRow("lines") << QByteArray("_rowColorButton")
+                               << SequenceChange([](PaintRowColSequeWidget& layer) {
+                                      layer.setRowColColor(QColor(18, 52, 171));
+                                  });
         QTest::newRow("labels") << QByteArray("_sequeColorButton")
-                                << Change([](PaintRowColSequeWidget& layer) {
+                                << SequenceChange([](PaintRowColSequeWidget& layer) {
                                        layer.setSequeColor(QColor(18, 52, 171));
                                    });
     }
@@ -649,10 +653,10 @@ private Q_SLOTS:
     void colors()
     {
         QFETCH(QByteArray, button);
-        QFETCH(Change, change);
-        ShownPanel shown;
+        QFETCH(SequenceChange, change);
+        ShownEditor shown;
         const DialogAnswer answer(QColor(18, 52, 171));
-        click(shown.color(button.constData()));
+        press(shown.color(button.constData()));
         QVERIFY(answer.seen);
         QCOMPARE(answer.title, QStringLiteral("Select Color"));
         QCOMPARE(answer.initialColor, QColor(Qt::white));
@@ -662,7 +666,7 @@ private Q_SLOTS:
             QCOMPARE(shown.color(name)->styleSheet(),
                      button == name ? QStringLiteral("QPushButton {background-color: #1234ab;}")
                                     : QStringLiteral("background-color: #000000"));
-        VD_COMPARE_IMAGES(layerImage(shown.layer), drawnAfter(change));
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter(change));
     }
 
     void cancelledColors_data() { colors_data(); }
@@ -670,10 +674,10 @@ private Q_SLOTS:
     void cancelledColors()
     {
         QFETCH(QByteArray, button);
-        ShownPanel shown;
+        ShownEditor shown;
         const qint64 picture = shown.layer.pixmap(Qt::ReturnByValue).cacheKey();
         const DialogAnswer answer((QColor()));
-        click(shown.color(button.constData()));
+        press(shown.color(button.constData()));
         QVERIFY(answer.seen);
         QCOMPARE(shown.signalCount, 1);
         QCOMPARE(shown.color(button.constData())->styleSheet(), QStringLiteral("background-color: #000000"));
@@ -682,36 +686,37 @@ private Q_SLOTS:
 
     void labelsOffGreysTheirControls()
     {
-        ShownPanel shown;
-        click(shown.sequeCheck());
-        QCOMPARE(enabledCount(shown.labelControls()), 0);
-        QCOMPARE(enabledCount(shown.gridControls()), 3);
+        ShownEditor shown;
+        press(shown.sequeCheck());
+        QCOMPARE(usableCount(shown.labelControls()), 0);
+        QCOMPARE(usableCount(shown.gridControls()), 3);
         VD_COMPARE_IMAGES(layerImage(shown.layer),
-                          drawnAfter([](PaintRowColSequeWidget& layer) { layer.setSequeVisible(false); }));
-        click(shown.sequeCheck());
-        QCOMPARE(enabledCount(shown.labelControls()), 7);
+                          sequenceAfter([](PaintRowColSequeWidget& layer) { layer.setSequeVisible(false); }));
+        press(shown.sequeCheck());
+        QCOMPARE(usableCount(shown.labelControls()), 7);
         QCOMPARE(shown.signalCount, 2);
     }
 
     void linesOffGreyTheirControls()
     {
-        ShownPanel shown;
-        click(shown.rowColCheck());
-        QCOMPARE(enabledCount(shown.gridControls()), 0);
-        QCOMPARE(enabledCount(shown.labelControls()), 7);
-        VD_COMPARE_IMAGES(layerImage(shown.layer),
-                          drawnAfter([](PaintRowColSequeWidget& layer) { layer.setRowColVisible(false); }));
-        click(shown.rowColCheck());
-        QCOMPARE(enabledCount(shown.gridControls()), 3);
+        ShownEditor shown;
+        press(shown.rowColCheck());
+        QCOMPARE(usableCount(shown.gridControls()), 0);
+        QCOMPARE(usableCount(shown.labelControls()), 7);
+        VD_COMPARE_IMAGES(layerImage(shown.layer), sequenceAfter([](PaintRowColSequeWidget& layer) {
+                              layer.setRowColVisible(false);
+                          }));
+        press(shown.rowColCheck());
+        QCOMPARE(usableCount(shown.gridControls()), 3);
         QCOMPARE(shown.signalCount, 2);
     }
 
     void bothOffGreyEverythingButTheSwitches()
     {
-        ShownPanel shown;
-        click(shown.rowColCheck());
-        click(shown.sequeCheck());
-        QCOMPARE(enabledCount(shown.gridControls() + shown.labelControls()), 0);
+        ShownEditor shown;
+        press(shown.rowColCheck());
+        press(shown.sequeCheck());
+        QCOMPARE(usableCount(shown.gridControls() + shown.labelControls()), 0);
         QVERIFY(shown.rowColCheck()->isEnabled());
         QVERIFY(shown.sequeCheck()->isEnabled());
         const QImage image = layerImage(shown.layer);

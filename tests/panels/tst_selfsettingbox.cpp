@@ -22,7 +22,7 @@ namespace {
 
 /// The control that the caption `source` names.
 template <typename Control>
-Control* captioned(const QWidget* panel, const char* source)
+Control* captionedText(const QWidget* panel, const char* source)
 {
     for (const QLabel* label : panel->findChildren<QLabel*>()) {
         const QString whole = label->toolTip().isEmpty() ? label->text() : label->toolTip();
@@ -32,12 +32,12 @@ Control* captioned(const QWidget* panel, const char* source)
     return nullptr;
 }
 
-QImage icon(const QPushButton* button)
+QImage textIcon(const QPushButton* button)
 {
     return button->icon().pixmap(button->iconSize()).toImage();
 }
 
-QImage swatch(const QColor& color)
+QImage textSwatch(const QColor& color)
 {
     QPixmap pixmap(16, 16);
     pixmap.fill(Qt::transparent);
@@ -47,7 +47,7 @@ QImage swatch(const QColor& color)
     return pixmap.toImage();
 }
 
-QImage disabledSwatch()
+QImage disabledTextSwatch()
 {
     QPixmap pixmap(40, 20);
     pixmap.fill(QColor("#333337"));
@@ -90,12 +90,12 @@ private:
     SelfSettingBox* m_panel = nullptr;
     QLineEdit* m_elsewhere = nullptr; ///< takes the focus outside the panel
 
-    QCheckBox* textSwitch() const { return captioned<QCheckBox>(m_panel, "Display custom text"); }
+    QCheckBox* textSwitch() const { return captionedText<QCheckBox>(m_panel, "Display custom text"); }
     QLineEdit* text() const { return m_panel->findChild<QLineEdit*>("selfInputLineEdit"); }
-    SpinEditBox* textSize() const { return captioned<SpinEditBox>(m_panel, "Text Size"); }
+    SpinEditBox* textSize() const { return captionedText<SpinEditBox>(m_panel, "Text Size"); }
     QPushButton* textColor() const { return m_panel->findChild<QPushButton*>("selfTextColorButton"); }
-    QCheckBox* resolutionSwitch() const { return captioned<QCheckBox>(m_panel, "Show Resolution"); }
-    SpinEditBox* resolutionSize() const { return captioned<SpinEditBox>(m_panel, "Show Size"); }
+    QCheckBox* resolutionSwitch() const { return captionedText<QCheckBox>(m_panel, "Show Resolution"); }
+    SpinEditBox* resolutionSize() const { return captionedText<SpinEditBox>(m_panel, "Show Size"); }
     QPushButton* resolutionColor() const { return m_panel->findChild<QPushButton*>("resolutionColorButton"); }
     QList<QWidget*> inputs() const
     {
@@ -220,7 +220,7 @@ private Q_SLOTS:
             QCOMPARE(size->text(), QStringLiteral("50px"));
         }
         for (const QPushButton* button : {textColor(), resolutionColor()})
-            QCOMPARE(icon(button).size(), QSize(16, 16));
+            QCOMPARE(textIcon(button).size(), QSize(16, 16));
     }
 
     void everyKeyReachesTheLayer()
@@ -371,7 +371,7 @@ private Q_SLOTS:
         QSignalSpy changes(m_panel, &SelfSettingBox::selfSignal);
         QTest::mouseClick(switchOf(ofText), Qt::LeftButton);
         QCOMPARE(changes.count(), 1);
-        VD_COMPARE_IMAGES(icon(colorOf(ofText)), disabledSwatch());
+        VD_COMPARE_IMAGES(textIcon(colorOf(ofText)), disabledTextSwatch());
         QVERIFY(!sizeOf(ofText)->isEnabled() && !colorOf(ofText)->isEnabled());
         QCOMPARE(text()->isEnabled(), !ofText);
         QVERIFY(switchOf(ofText)->isEnabled() && switchOf(!ofText)->isEnabled());
@@ -383,7 +383,7 @@ private Q_SLOTS:
 
         QTest::mouseClick(switchOf(ofText), Qt::LeftButton);
         QCOMPARE(changes.count(), 2);
-        VD_COMPARE_IMAGES(icon(colorOf(ofText)), swatch(QColor(10, 200, 30)));
+        VD_COMPARE_IMAGES(textIcon(colorOf(ofText)), textSwatch(QColor(10, 200, 30)));
         QVERIFY(sizeOf(ofText)->isEnabled() && colorOf(ofText)->isEnabled() && text()->isEnabled());
         compareLayer(colored);
     }
@@ -411,7 +411,7 @@ private Q_SLOTS:
 
         for (const QColor& picked : {QColor(Qt::red), QColor(0, 0, 255, 120)}) {
             m_panel->setButtonColor(picked, colorOf(ofText));
-            VD_COMPARE_IMAGES(icon(colorOf(ofText)), swatch(picked));
+            VD_COMPARE_IMAGES(textIcon(colorOf(ofText)), textSwatch(picked));
             compareLayer([&](PaintSelfWidget& layer) {
                 ofText ? layer.setSelfTextColor(picked) : layer.setResolutionColor(picked);
             });
@@ -423,7 +423,7 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 2);
         m_panel->restoreButtonColor(role);
         QCOMPARE(changes.count(), 3);
-        VD_COMPARE_IMAGES(icon(colorOf(ofText)), swatch(QColor(1, 2, 3)));
+        VD_COMPARE_IMAGES(textIcon(colorOf(ofText)), textSwatch(QColor(1, 2, 3)));
         compareLayer([&](PaintSelfWidget& layer) {
             ofText ? layer.setSelfTextColor(QColor(1, 2, 3)) : layer.setResolutionColor(QColor(1, 2, 3));
         });
@@ -436,7 +436,7 @@ private Q_SLOTS:
         m_panel->setButtonColor(Qt::green, textColor());
         m_panel->setButtonColor(Qt::red, nullptr);
         QCOMPARE(changes.count(), 0);
-        VD_COMPARE_IMAGES(icon(textColor()), swatch(Qt::green));
+        VD_COMPARE_IMAGES(textIcon(textColor()), textSwatch(Qt::green));
     }
 
     /// The cabinet count has a colour but no button in the panel.
@@ -449,8 +449,8 @@ private Q_SLOTS:
         QSignalSpy changes(m_panel, &SelfSettingBox::selfSignal);
         m_panel->setButtonColor(Qt::red, &button);
         QCOMPARE(changes.count(), 1);
-        VD_COMPARE_IMAGES(icon(&button), swatch(Qt::red));
-        VD_COMPARE_IMAGES(icon(resolutionColor()), swatch(Qt::green));
+        VD_COMPARE_IMAGES(textIcon(&button), textSwatch(Qt::red));
+        VD_COMPARE_IMAGES(textIcon(resolutionColor()), textSwatch(Qt::green));
         compareLayer([](PaintSelfWidget& layer) { layer.setResolutionColor(Qt::green); });
     }
 
@@ -542,7 +542,7 @@ private Q_SLOTS:
     {
         m_panel->setData(otherRecord());
         QTest::mouseClick(textSwitch(), Qt::LeftButton);
-        VD_COMPARE_IMAGES(icon(textColor()), swatch(Qt::red));
+        VD_COMPARE_IMAGES(textIcon(textColor()), textSwatch(Qt::red));
         QCOMPARE(m_panel->getData().selfTextColor, RgbaColor({255, 0, 0, 255}));
     }
 
@@ -717,7 +717,7 @@ private Q_SLOTS:
 
         manager.switchLanguage(QString());
         m_panel->retranslate();
-        QVERIFY(captioned<QLineEdit>(m_panel, "Text Input"));
+        QVERIFY(captionedText<QLineEdit>(m_panel, "Text Input"));
         compareLayer([](PaintSelfWidget& layer) { layer.retranslate(); });
     }
 };

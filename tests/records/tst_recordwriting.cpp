@@ -22,7 +22,7 @@ namespace {
 const auto logoGroup = QStringLiteral("logoData");
 const auto pathField = QStringLiteral("picturePath");
 
-QByteArray contents(const QString& path)
+QByteArray bytesOf(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -47,7 +47,7 @@ QByteArray documentWithPicture(const QString& path)
 
 QString storedPicture(const QString& recordPath)
 {
-    const QJsonObject document = QJsonDocument::fromJson(contents(recordPath)).object();
+    const QJsonObject document = QJsonDocument::fromJson(bytesOf(recordPath)).object();
     return document.value(logoGroup).toObject().value(pathField).toString();
 }
 
@@ -308,7 +308,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(inFolder("a/record.json"), inFolder("record.json")));
         QCOMPARE(ChartRecordFile::write(inFolder("record.json"), changedRecord()), QString());
         QVERIFY(QFileInfo(inFolder("record.json")).isSymLink());
-        QCOMPARE(contents(inFolder("a/record.json")), ChartRecordFile::toJson(changedRecord()));
+        QCOMPARE(bytesOf(inFolder("a/record.json")), ChartRecordFile::toJson(changedRecord()));
     }
 
     void whatCouldNotBeReadIsNotWritten_data()
@@ -347,7 +347,7 @@ private Q_SLOTS:
             QVERIFY2(told.endsWith(" bytes are more than 1048576"), qPrintable(told));
         else
             QCOMPARE(told, path + ": " + problem);
-        QCOMPARE(contents(path), ChartRecordFile::toJson(changedRecord()));
+        QCOMPARE(bytesOf(path), ChartRecordFile::toJson(changedRecord()));
         QCOMPARE(entries(), QStringList("record.json"));
     }
 
@@ -361,10 +361,10 @@ private Q_SLOTS:
             problem = ChartRecordFile::write(path, changedRecord());
         }
         QVERIFY2(problem.startsWith(path + QStringLiteral(": ")), qPrintable(problem));
-        QCOMPARE(contents(path), ChartRecordFile::toJson(TestChartToolsData()));
+        QCOMPARE(bytesOf(path), ChartRecordFile::toJson(TestChartToolsData()));
         QCOMPARE(entries(), QStringList("record.json"));
         QCOMPARE(ChartRecordFile::write(path, changedRecord()), QString());
-        QCOMPARE(contents(path), ChartRecordFile::toJson(changedRecord()));
+        QCOMPARE(bytesOf(path), ChartRecordFile::toJson(changedRecord()));
     }
 
     void lockedFolderKeepsTheEarlierFile()
@@ -380,7 +380,7 @@ private Q_SLOTS:
         QVERIFY(!isRoot || seteuid(0) == 0);
         QCOMPARE(chmod(QFile::encodeName(m_folder->path()), 0700), 0);
         QVERIFY2(problem.startsWith(path + QStringLiteral(": ")), qPrintable(problem));
-        QCOMPARE(contents(path), ChartRecordFile::toJson(TestChartToolsData()));
+        QCOMPARE(bytesOf(path), ChartRecordFile::toJson(TestChartToolsData()));
         QCOMPARE(entries(), QStringList("record.json"));
     }
 
@@ -394,7 +394,7 @@ private Q_SLOTS:
         const QByteArray begin = earlier.read(10);
         QCOMPARE(ChartRecordFile::write(path, changedRecord()), QString());
         QCOMPARE(begin + earlier.readAll(), ChartRecordFile::toJson(TestChartToolsData()));
-        QCOMPARE(contents(path), ChartRecordFile::toJson(changedRecord()));
+        QCOMPARE(bytesOf(path), ChartRecordFile::toJson(changedRecord()));
     }
 };
 

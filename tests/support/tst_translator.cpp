@@ -46,7 +46,7 @@ QByteArray chineseFile()
                                  context("ChartDesk::Window", message("Chess", "&#x68cb;")));
 }
 
-QString lookUp(const Translator& translator, const QString& source)
+QString translated(const Translator& translator, const QString& source)
 {
     return translate(translator, QStringLiteral("TestChartTools"), QStringLiteral("Widget"), source);
 }
@@ -54,10 +54,11 @@ QString lookUp(const Translator& translator, const QString& source)
 /// Everything that `chineseFile` can be asked, and one text that it lacks.
 QStringList chineseTexts(const Translator& translator)
 {
-    return {lookUp(translator, QStringLiteral("Chess")), lookUp(translator, QStringLiteral("Color bar")),
-            lookUp(translator, QStringLiteral("Rows & columns")),
+    return {translated(translator, QStringLiteral("Chess")),
+            translated(translator, QStringLiteral("Color bar")),
+            translated(translator, QStringLiteral("Rows & columns")),
             translator.text(QStringLiteral("ChartDesk"), QStringLiteral("Window"), QStringLiteral("Chess")),
-            lookUp(translator, QStringLiteral("Added"))};
+            translated(translator, QStringLiteral("Added"))};
 }
 
 } // namespace
@@ -77,10 +78,10 @@ private Q_SLOTS:
     {
         Translator translator;
         QCOMPARE(translator.language(), QString());
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
         translator.switchLanguage(QStringLiteral("zh_CN"));
         QCOMPARE(translator.language(), QStringLiteral("zh_CN"));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
     }
 
     void switchesBetweenLanguages()
@@ -89,16 +90,16 @@ private Q_SLOTS:
         QVERIFY(translator.load(file("en.ts", widgetTexts("en", message("Chess", "Chessboard")))));
         QVERIFY(translator.load(file("zh.ts", chineseFile())));
         QCOMPARE(translator.language(), QString());
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
 
         translator.switchLanguage(QStringLiteral("en"));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
         translator.switchLanguage(QStringLiteral("zh_CN"));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("棋盘"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("棋盘"));
         translator.switchLanguage(QStringLiteral("fr"));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chess"));
         translator.switchLanguage(QStringLiteral("en"));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
     }
 
     void anotherFileOfTheCurrentLanguageCountsAtOnce()
@@ -106,7 +107,7 @@ private Q_SLOTS:
         Translator translator;
         translator.switchLanguage(QStringLiteral("en"));
         QVERIFY(translator.load(file("en.ts", widgetTexts("en", message("Chess", "Chessboard")))));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
     }
 
     void laterFileWinsTextByText()
@@ -117,10 +118,10 @@ private Q_SLOTS:
         const QByteArray second = message("B", "second B") + message("C", "second C") + message("D", "");
         QVERIFY(translator.load(file("first.ts", widgetTexts("en", first))));
         QVERIFY(translator.load(file("second.ts", widgetTexts("en", second))));
-        QCOMPARE(lookUp(translator, QStringLiteral("A")), QStringLiteral("first A"));
-        QCOMPARE(lookUp(translator, QStringLiteral("B")), QStringLiteral("second B"));
-        QCOMPARE(lookUp(translator, QStringLiteral("C")), QStringLiteral("second C"));
-        QCOMPARE(lookUp(translator, QStringLiteral("D")), QStringLiteral("first D"));
+        QCOMPARE(translated(translator, QStringLiteral("A")), QStringLiteral("first A"));
+        QCOMPARE(translated(translator, QStringLiteral("B")), QStringLiteral("second B"));
+        QCOMPARE(translated(translator, QStringLiteral("C")), QStringLiteral("second C"));
+        QCOMPARE(translated(translator, QStringLiteral("D")), QStringLiteral("first D"));
     }
 
     void anotherLanguageLeavesTheTextsAlone()
@@ -129,7 +130,7 @@ private Q_SLOTS:
         translator.switchLanguage(QStringLiteral("en"));
         QVERIFY(translator.load(file("en.ts", widgetTexts("en", message("Chess", "Chessboard")))));
         QVERIFY(translator.load(file("de.ts", widgetTexts("de", message("Chess", "Schachbrett")))));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
     }
 
     void copiesAreIndependent()
@@ -141,7 +142,7 @@ private Q_SLOTS:
         QVERIFY(copy.load(file("en2.ts", widgetTexts("en", message("Chess", "Checkerboard")))));
         copy.switchLanguage(QStringLiteral("de"));
         QCOMPARE(translator.language(), QStringLiteral("en"));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
     }
 
     void refusedFiles_data()
@@ -222,8 +223,8 @@ private Q_SLOTS:
         translator.switchLanguage(QStringLiteral("en"));
         const QByteArray texts = message("Chess", translation, attributes) + message("Color bar", "Bars");
         QVERIFY(translator.load(file("states.ts", widgetTexts("en", texts))));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), expected);
-        QCOMPARE(lookUp(translator, QStringLiteral("Color bar")), QStringLiteral("Bars"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), expected);
+        QCOMPARE(translated(translator, QStringLiteral("Color bar")), QStringLiteral("Bars"));
     }
 
     void texts_data()
@@ -267,7 +268,7 @@ private Q_SLOTS:
         Translator translator;
         translator.switchLanguage(QStringLiteral("en"));
         QVERIFY(translator.load(file("texts.ts", widgetTexts("en", message(sourceXml, translationXml)))));
-        QCOMPARE(lookUp(translator, source), translation);
+        QCOMPARE(translated(translator, source), translation);
     }
 
     void elementsOfOtherToolsAreSkipped()
@@ -282,7 +283,7 @@ private Q_SLOTS:
         Translator translator;
         translator.switchLanguage(QStringLiteral("en"));
         QVERIFY(translator.load(file("extras.ts", document("en", content))));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
+        QCOMPARE(translated(translator, QStringLiteral("Chess")), QStringLiteral("Chessboard"));
     }
 
     void moduleAndContextAreTheKey_data()
@@ -368,7 +369,7 @@ private Q_SLOTS:
         Translator translator;
         QVERIFY(translator.load(file("names.ts", widgetTexts(inFile, message("Chess", "Qi")))));
         translator.switchLanguage(switchedTo);
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")),
+        QCOMPARE(translated(translator, QStringLiteral("Chess")),
                  same ? QStringLiteral("Qi") : QStringLiteral("Chess"));
         if (same)
             QCOMPARE(translator.language(), QStringLiteral("zh_CN"));
@@ -381,10 +382,10 @@ private Q_SLOTS:
         translator.switchLanguage(QStringLiteral("zh-CN"));
         QLoggingCategory::setFilterRules(QStringLiteral("vardeno.translate.debug=true"));
         log().clear();
-        lookUp(translator, QStringLiteral("Chess"));
+        translated(translator, QStringLiteral("Chess"));
         QCOMPARE(log().messages(), QStringList());
 
-        lookUp(translator, QStringLiteral("Box RowColNum"));
+        translated(translator, QStringLiteral("Box RowColNum"));
         QCOMPARE(log().messages(),
                  QStringList(QStringLiteral("zh_CN lacks TestChartTools::Widget Box RowColNum")));
     }
@@ -395,7 +396,7 @@ private Q_SLOTS:
         QVERIFY(translator.load(file("zh.ts", chineseFile())));
         translator.switchLanguage(QStringLiteral("zh_CN"));
         log().clear();
-        lookUp(translator, QStringLiteral("Box RowColNum"));
+        translated(translator, QStringLiteral("Box RowColNum"));
         QCOMPARE(log().messages(), QStringList());
     }
 
@@ -406,7 +407,7 @@ private Q_SLOTS:
         translator.switchLanguage(QStringLiteral("fr"));
         QLoggingCategory::setFilterRules(QStringLiteral("vardeno.translate.debug=true"));
         log().clear();
-        lookUp(translator, QStringLiteral("Box RowColNum"));
+        translated(translator, QStringLiteral("Box RowColNum"));
         QCOMPARE(log().messages(), QStringList());
     }
 
@@ -476,7 +477,7 @@ private Q_SLOTS:
         translator.switchLanguage(QStringLiteral("en"));
         log().allowWarning(QStringLiteral("deep.ts is not read: "));
         const bool loaded = translator.load(file("deep.ts", content));
-        QCOMPARE(lookUp(translator, QStringLiteral("Chess")),
+        QCOMPARE(translated(translator, QStringLiteral("Chess")),
                  loaded ? QStringLiteral("deep") : QStringLiteral("Chess"));
     }
 

@@ -11,7 +11,7 @@ namespace vardeno::testcharttools::ChartCheck {
 
 namespace {
 
-constexpr int letterCount = 26;
+constexpr int mostLetters = 26;
 constexpr int leastBrightness = 10; ///< percent
 
 class Check
@@ -240,11 +240,11 @@ void Check::checkRepeatedLabels()
     const uint mode = labelStyle(m_record.inLineData).mode;
     const PublicChartData& data = m_record.publicData;
     const auto check = [&](const char* field, int count, const char* what) {
-        if (count > letterCount)
+        if (count > mostLetters)
             warn(field, QStringLiteral("the letters of %1 %2 repeat after %3; labels are not unique")
                             .arg(count)
                             .arg(QLatin1String(what))
-                            .arg(letterCount));
+                            .arg(mostLetters));
     };
     if (mode != 1)
         check("publicData.boxRow", data.boxRow, "rows");

@@ -8,7 +8,7 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-bool isOpaque(const QImage& picture)
+bool isSolid(const QImage& picture)
 {
     for (int y = 0; y < picture.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
@@ -25,7 +25,7 @@ QImage ready(const QImage& picture)
     if (!picture.hasAlphaChannel())
         return picture.convertToFormat(QImage::Format_RGB32);
     QImage translucent = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    return picture.colorCount() == 0 && isOpaque(translucent)
+    return picture.colorCount() == 0 && isSolid(translucent)
                ? std::move(translucent).convertToFormat(QImage::Format_RGB32)
                : translucent;
 }

@@ -27,7 +27,7 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-enum Page
+enum PatternPage
 {
     ChessPage,
     GradientPage,
@@ -40,7 +40,7 @@ enum Mode
     StripeMode
 };
 
-constexpr int usualHeight = 140;
+constexpr int basicHeight = 140;
 constexpr QSize previewSize(80, 45);
 constexpr QSize modeCaption(80, 20);
 constexpr QSize pageCaption(70, 20);
@@ -608,7 +608,7 @@ void BasicSettingBox::Impl::showConfigDialog()
 }
 
 BasicSettingBox::BasicSettingBox(QWidget* parent)
-    : SettingPanel(usualHeight, parent)
+    : SettingPanel(basicHeight, parent)
     , d(new Impl(this))
 {
     setObjectName(QStringLiteral("basicWidget"));

@@ -17,12 +17,10 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-constexpr int usualHeight = 330;
-constexpr QSize captionSize(80, 24);
-constexpr QSize entrySize(110, 24);
-constexpr QSize radioSize(95, 24);
+constexpr int inLineHeight = 330;
+constexpr QSize modeSize(95, 24);
 constexpr QSize comboSize(200, 24);
-constexpr int captionMargin = 2;
+constexpr int inLineMargin = 2;
 constexpr int smallestRadius = 16;
 
 } // namespace
@@ -109,7 +107,7 @@ void InLineSettingBox::Impl::build(PanelControls& controls)
     auto* column = new QVBoxLayout(owner);
     column->setContentsMargins(10, 7, 10, 7);
     column->setSpacing(6);
-    SettingRows rows(owner, controls, column, captionSize, captionMargin);
+    SettingRows rows(owner, controls, column, captionSize, inLineMargin);
     buildCircleRows(rows);
     buildDiagonalRows(rows);
     buildSerialRows(rows);
@@ -171,7 +169,7 @@ void InLineSettingBox::Impl::buildCircleRows(SettingRows& rows)
         .spin(circleWidth, entrySize,
               rangeOf(&InLineChartData::circleWidth).value(2).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Line width of the circles"))
-        .caption(QStringLiteral("Color"), captionSize, captionMargin)
+        .caption(QStringLiteral("Color"), captionSize, inLineMargin)
         .swatch(colorButton, QStringLiteral("circleColorButton"), QString(), whenOn)
         .named(QStringLiteral("Color of the circles"));
     initColor(circle, colorButton, QColor(0x00, 0xff, 0x00), &PaintInLineWidget::setCircleColor);
@@ -188,7 +186,7 @@ void InLineSettingBox::Impl::buildDiagonalRows(SettingRows& rows)
         .spin(diagonalWidth, entrySize,
               rangeOf(&InLineChartData::diagonalWidth).value(10).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Line width of the diagonals"))
-        .caption(QStringLiteral("Color"), captionSize, captionMargin)
+        .caption(QStringLiteral("Color"), captionSize, inLineMargin)
         .swatch(colorButton, QStringLiteral("diagonalColorButton"), QStringLiteral("diagonal"), whenOn)
         .named(QStringLiteral("Color of the diagonals"));
     initColor(diagonal, colorButton, QColor(0x00, 0xff, 0x00), &PaintInLineWidget::setDiagonalColor);
@@ -205,14 +203,14 @@ void InLineSettingBox::Impl::buildSerialRows(SettingRows& rows)
         .spin(serialSize, entrySize,
               rangeOf(&InLineChartData::serialSize).value(15).suffix(QStringLiteral("px")), whenOn)
         .named(QStringLiteral("Size of the labels"))
-        .caption(QStringLiteral("Color"), captionSize, captionMargin)
+        .caption(QStringLiteral("Color"), captionSize, inLineMargin)
         .swatch(colorButton, QStringLiteral("sequeColorBtn"), QStringLiteral("seque"), whenOn)
         .named(QStringLiteral("Color of the labels"));
     initColor(serial, colorButton, Qt::black, &PaintInLineWidget::setSerialColor);
     rows.row(QStringLiteral("Show Model"))
-        .radio(letterMode, QStringLiteral("Letter Mode"), radioSize)
-        .radio(numMode, QStringLiteral("Num Mode"), radioSize)
-        .radio(combinationMode, QStringLiteral("Combination Mode"), radioSize);
+        .radio(letterMode, QStringLiteral("Letter Mode"), modeSize)
+        .radio(numMode, QStringLiteral("Num Mode"), modeSize)
+        .radio(combinationMode, QStringLiteral("Combination Mode"), modeSize);
     letterMode->setChecked(true);
     rows.row(QStringLiteral("Show Position"))
         .combo(position,
@@ -378,7 +376,7 @@ void InLineSettingBox::Impl::slotRadiusResetEditFinished()
 }
 
 InLineSettingBox::InLineSettingBox(QWidget* parent)
-    : SettingPanel(usualHeight, parent)
+    : SettingPanel(inLineHeight, parent)
     , d(new Impl(this))
 {
     setObjectName(QStringLiteral("inlinesettingbox"));

@@ -25,17 +25,15 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-enum Page
+enum LogoPage
 {
     PicturePage,
     TextPage
 };
 
-constexpr int usualHeight = 245;
-constexpr QSize captionSize(80, 24);
+constexpr int logoHeight = 245;
 constexpr QSize radioSize(115, 24);
-constexpr int buttonMargin = 2; ///< also of the radio buttons, whose indicators are not counted
-constexpr QSize shortEntry(70, 24);
+constexpr int radioMargin = 2; ///< also of the radio buttons, whose indicators are not counted
 constexpr QSize axisCaption(12, 24);
 constexpr int storedTextSize = 100; ///< what the reset button sets on the text page
 
@@ -64,7 +62,7 @@ public:
 
     bool isOn() const { return showButton->isChecked(); }
     bool onPicturePage() const { return pages->currentIndex() == PicturePage; }
-    void showPage(Page page);
+    void showPage(LogoPage page);
     void showCurrentPainter();
     template <typename Value>
     void tellCurrent(void (PaintPicLogoWidget::*ofPicture)(Value), void (PaintTextLogoWidget::*ofText)(Value),
@@ -132,8 +130,8 @@ void LogoSettingBox::Impl::build(PanelControls& controls)
     SettingRows rows(owner, controls, column, captionSize);
     rows.row(QStringLiteral("Show Logo")).toggle(showButton, true).named(QStringLiteral("Show the logo"));
     rows.row(QStringLiteral("Logo Style"))
-        .radio(pictureRadio, QStringLiteral("Picture Logo"), radioSize, whenOn, buttonMargin)
-        .radio(textRadio, QStringLiteral("Text Logo"), radioSize, whenOn, buttonMargin);
+        .radio(pictureRadio, QStringLiteral("Picture Logo"), radioSize, whenOn, radioMargin)
+        .radio(textRadio, QStringLiteral("Text Logo"), radioSize, whenOn, radioMargin);
     pictureRadio->setChecked(true);
     pages = new QStackedWidget(owner);
     pages->setFixedWidth(410);
@@ -336,7 +334,7 @@ void LogoSettingBox::Impl::connectValues()
     connect(pages, &QStackedWidget::currentChanged, this, &Impl::slotChangeLogoOpacity);
 }
 
-void LogoSettingBox::Impl::showPage(Page page)
+void LogoSettingBox::Impl::showPage(LogoPage page)
 {
     pages->setCurrentIndex(page);
     if (logoStack)
@@ -499,7 +497,7 @@ void LogoSettingBox::Impl::slotLogoColor()
 }
 
 LogoSettingBox::LogoSettingBox(QWidget* parent)
-    : SettingPanel(usualHeight, parent)
+    : SettingPanel(logoHeight, parent)
     , d(new Impl(this))
 {
     setObjectName(QStringLiteral("logosettingbox"));

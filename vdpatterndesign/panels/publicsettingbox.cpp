@@ -21,10 +21,7 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-constexpr int usualHeight = 160;
-constexpr QSize captionSize(80, 24);
-constexpr QSize shortEntry(70, 24);
-constexpr QSize entrySize(110, 24);
+constexpr int publicHeight = 160;
 
 /// Whatever a host has made of the entries' ranges.
 int smallestResolution()
@@ -275,7 +272,7 @@ void PublicSettingBox::Impl::slotResetResolutionHeightEditFinished(QString)
 }
 
 PublicSettingBox::PublicSettingBox(QWidget* parent)
-    : SettingPanel(usualHeight, parent)
+    : SettingPanel(publicHeight, parent)
     , d(new Impl(this))
 {
     setFixedWidth(410);

@@ -20,7 +20,7 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-constexpr QSize entrySize(55, 20);
+constexpr QSize cellEntry(55, 20);
 constexpr QSize colorButtonSize(25, 25);
 
 } // namespace
@@ -112,7 +112,7 @@ QSpinBox* RowColSequeSettingBox::Impl::createEntry(const char* objectName, int m
 {
     auto* entry = new QSpinBox(owner);
     entry->setObjectName(QLatin1String(objectName));
-    entry->setFixedSize(entrySize);
+    entry->setFixedSize(cellEntry);
     entry->setRange(1, maximum);
     entry->setValue(value);
     return entry;

@@ -17,10 +17,8 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-constexpr int usualHeight = 160;
-constexpr QSize captionSize(80, 24);
+constexpr int selfHeight = 160;
 constexpr QSize inputSize(266, 24);
-constexpr QSize entrySize(110, 24);
 
 } // namespace
 
@@ -278,7 +276,7 @@ void SelfSettingBox::Impl::slotTextInputEditFinished(QString strOldName)
 }
 
 SelfSettingBox::SelfSettingBox(QWidget* parent)
-    : SettingPanel(usualHeight, parent)
+    : SettingPanel(selfHeight, parent)
     , d(new Impl(this))
 {
     setFixedWidth(410);

@@ -39,7 +39,7 @@ QIcon switchIcon()
 }
 
 /// What a button's caption leaves free: an upload button has a picture beside it.
-int captionMargin(const QPushButton* button)
+int marginOf(const QPushButton* button)
 {
     return button->property("btnProperty") == QLatin1String("uplogo") ? 68 : 2;
 }
@@ -206,7 +206,7 @@ SettingRow& SettingRow::button(QPushButton*& button, const QString& source, cons
     appendLocked(button, size, std::move(allowed));
     QPushButton* const shown = button;
     m_controls->captions.add(source,
-                             [shown](const QString& text) { showElided(shown, text, captionMargin(shown)); });
+                             [shown](const QString& text) { showElided(shown, text, marginOf(shown)); });
     return *this;
 }
 
@@ -283,11 +283,11 @@ QFrame* createRule(QWidget* panel, const char* objectName, int width, int frameS
 }
 
 SettingRows::SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column,
-                         const QSize& captionSize, int captionMargin)
+                         const QSize& captionRoom, int captionMargin)
     : m_panel(panel)
     , m_controls(&controls)
     , m_column(column)
-    , m_captionSize(captionSize)
+    , m_captionSize(captionRoom)
     , m_captionMargin(captionMargin)
 {
 }

@@ -20,6 +20,11 @@ namespace vardeno::testcharttools {
 class ComboBox;
 class SpinEditBox;
 
+// The sizes that most rows share.
+constexpr QSize captionSize(80, 24);
+constexpr QSize entrySize(110, 24);
+constexpr QSize shortEntry(70, 24); ///< beside a slider or another one
+
 /// What an entry of whole numbers accepts: `range(1, 100).value(6).suffix("px")`.
 struct SpinRange
 {
@@ -105,7 +110,7 @@ class SettingRows
 public:
     /// Appends the rows to `column`; their first captions are `captionSize`.
     /// Captions are elided to their width less `captionMargin`.
-    SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column, const QSize& captionSize,
+    SettingRows(QWidget* panel, PanelControls& controls, QBoxLayout* column, const QSize& captionRoom,
                 int captionMargin = 0);
 
     SettingRow row(const QString& captionSource);
