@@ -126,8 +126,10 @@ void drawLabels(benchmark::State& state, Draw draw)
 
 void labelsTogether(benchmark::State& state)
 {
-    drawLabels(state, [](QPainter& painter, const CabinetGrid& grid, const LabelStyle& style,
-                         const QFont& font) { drawCabinetLabels(painter, grid, style, font, Qt::black); });
+    drawLabels(state,
+               [](QPainter& painter, const CabinetGrid& grid, const LabelStyle& style, const QFont& font) {
+                   drawCabinetLabels(painter, grid, style, font, Qt::black, QRect(QPoint(), grid.chart));
+               });
 }
 BENCHMARK(labelsTogether)->Apply(labelSizes);
 

@@ -44,4 +44,11 @@ FittedText fitText(const QString& text, int requested, double widthLimit, double
     return fitted;
 }
 
+QRect lineReach(const FittedText& line, const QString& text)
+{
+    const int spare = line.height;
+    const QRect told = QFontMetrics(line.font).boundingRect(text) | QRect(0, 0, line.advance, 1);
+    return told.adjusted(-spare, -spare, spare, spare);
+}
+
 } // namespace vardeno::testcharttools

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QRect>
 #include <QString>
 
 namespace vardeno::testcharttools {
@@ -13,6 +14,9 @@ struct FittedText
     int advance = 0;   ///< chart pixels, as the font metrics tell it
     int height = 0;
 };
+
+/// Where the line `text` may have ink, from the start of its baseline; with room to spare.
+QRect lineReach(const FittedText& line, const QString& text);
 
 /// Fits `text`, in the chart's text family, into a box: from `requested` pixels downwards, one at a time,
 /// while it is wider than `widthLimit` or higher than `heightLimit`.

@@ -11,11 +11,18 @@ class VDCHARTCORE_EXPORT BorderLayer : public ChartLayer
 {
 public:
     LayerCoverage coverage() const override;
-    void draw(QPainter& painter, const QSize& chart) const override;
+    QVector<QRect> reach(const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     bool visible = true;
     int width = 6;
     QColor color = Qt::white;
+
+private:
+    bool isDrawnAsLines(const QSize& chart) const;
+    QVector<QRect> bars(const QSize& chart) const;
+    void drawLines(QPainter& painter, const QSize& chart) const;
 };
 
 } // namespace vardeno::testcharttools

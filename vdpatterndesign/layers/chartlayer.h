@@ -3,8 +3,10 @@
 #include "layercoverage.h"
 #include "vdchartcore_export.h"
 
+#include <QRect>
+#include <QVector>
+
 class QPainter;
-class QSize;
 
 namespace vardeno::testcharttools {
 
@@ -26,10 +28,19 @@ public:
     /// would be nothing to gain.
     virtual bool drawsOnLayersBelow() const { return coverage() == LayerCoverage::Opaque; }
 
+    /// Whether it has texts. A thread that draws the first one reads the font, which takes longer than the
+    /// text.
+    virtual bool hasTexts() const { return false; }
+
     /// Finds the sizes and places of what is drawn on a chart of that size (never empty).
     virtual void fit(const QSize&) {}
-    /// Draws what was fitted to a chart of that size.
-    virtual void draw(QPainter& painter, const QSize& chart) const = 0;
+    /// Draws what was fitted to a chart of that size, or only what is to be seen of it in `area`; with a
+    /// painter on chart pixels.
+    virtual void draw(QPainter& painter, const QSize& chart, const QRect& area) const = 0;
+    void draw(QPainter& painter, const QSize& chart) const { draw(painter, chart, QRect(QPoint(), chart)); }
+
+    /// Outside of these places of the chart nothing is drawn.
+    virtual QVector<QRect> reach(const QSize& chart) const { return {QRect(QPoint(), chart)}; }
 
 protected:
     ChartLayer() = default;

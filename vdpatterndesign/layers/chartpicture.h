@@ -25,7 +25,8 @@ struct VDCHARTCORE_EXPORT ChartCaptions
 ///
 /// Sizes are chart pixels. The numbers of the record are taken as they are: those of a record file are within
 /// their ranges. Texts are drawn in the application's font, so there must be a QGuiApplication; everything
-/// here may be used in any thread, and one picture be drawn by several threads at a time. A logo whose file
+/// here may be used in any thread, and one picture be drawn by several threads at a time; one thread
+/// that draws has idle cores help. A logo whose file
 /// cannot be read is left out: `ChartCheck::pictureProblem` tells. Nothing is thrown but std::bad_alloc.
 class VDCHARTCORE_EXPORT ChartPicture
 {
@@ -40,6 +41,12 @@ public:
 
     /// The whole chart, opaque (RGB32). Null where there is not enough memory.
     QImage image() const;
+
+    /// Whether the chart is so large that its rows are drawn for themselves, and never stands in memory as a
+    /// whole but in `image`: where a side is longer than 4320 pixels.
+    bool isDrawnInParts() const;
+    /// `count` rows of the same picture, from the row `top` on, which are rows of the chart.
+    QImage rows(int top, int count) const;
 
 private:
     class Impl;

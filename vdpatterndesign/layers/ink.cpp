@@ -50,6 +50,12 @@ bool isOpaque(const QImage& picture)
     return true;
 }
 
+bool intersects(const QVector<QRect>& places, const QRect& tile)
+{
+    return std::any_of(places.begin(), places.end(),
+                       [&tile](const QRect& place) { return place.intersects(tile); });
+}
+
 /// Appends `tile`, or widens the last place when that lies to its left.
 void append(QVector<QRect>& places, const QRect& tile)
 {
@@ -61,19 +67,21 @@ void append(QVector<QRect>& places, const QRect& tile)
 
 } // namespace
 
-Ink inkOf(const QImage& picture)
+Ink inkOf(const QImage& picture, const QVector<QRect>& reach)
 {
     Ink ink;
     for (int y = 0; y < picture.height(); y += tileHeight) {
         for (int x = 0; x < picture.width(); x += tileWidth) {
             const QRect tile = QRect(x, y, tileWidth, tileHeight) & picture.rect();
-            if (hasInk(picture, tile))
+            if (intersects(reach, tile) && hasInk(picture, tile))
                 append(ink.places, tile);
         }
     }
-    const auto area = [](int sum, const QRect& place) { return sum + place.width() * place.height(); };
-    const int covered = std::accumulate(ink.places.begin(), ink.places.end(), 0, area);
-    ink.opaque = covered > 0 && covered == picture.width() * picture.height() && isOpaque(picture);
+    const auto area = [](qint64 sum, const QRect& place) {
+        return sum + qint64(place.width()) * place.height();
+    };
+    const qint64 covered = std::accumulate(ink.places.begin(), ink.places.end(), qint64(0), area);
+    ink.opaque = covered > 0 && covered == qint64(picture.width()) * picture.height() && isOpaque(picture);
     return ink;
 }
 

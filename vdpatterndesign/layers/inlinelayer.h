@@ -13,8 +13,10 @@ class VDCHARTCORE_EXPORT InlineLayer : public ChartLayer
 {
 public:
     LayerCoverage coverage() const override;
+    bool hasTexts() const override { return serialVisible; }
     void fit(const QSize& chart) override;
-    void draw(QPainter& painter, const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     QColor circleColor = QColor(0x00, 0xff, 0x00);
     QColor diagonalColor = QColor(0x00, 0xff, 0x00);
@@ -34,8 +36,8 @@ public:
     ushort workingSerialSize = 15; ///< this; each while what it is for is visible
 
 private:
-    void drawDiagonals(QPainter& painter, const QSize& chart) const;
-    void drawCircles(QPainter& painter, const QSize& chart) const;
+    void drawDiagonals(QPainter& painter, const QSize& chart, const QRect& area) const;
+    void drawCircles(QPainter& painter, const QSize& chart, const QRect& area) const;
 };
 
 } // namespace vardeno::testcharttools

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace vardeno::testcharttools {
@@ -32,10 +33,10 @@ QImage& LayerPicture::begin(const QSize& size, Coverage coverage)
     return m_image;
 }
 
-void LayerPicture::end()
+void LayerPicture::end(const QVector<QRect>& reach)
 {
     if (m_coverage == Coverage::Unknown)
-        m_ink = inkOf(m_image);
+        m_ink = inkOf(m_image, reach.isEmpty() ? QVector<QRect>{m_image.rect()} : reach);
     else if (m_coverage == Coverage::Nothing)
         m_ink = Ink();
     else
@@ -55,6 +56,11 @@ QPixmap LayerPicture::finish()
 
 void LayerPicture::paint(QPainter& painter) const
 {
+    paint(painter, m_image.rect());
+}
+
+void LayerPicture::paint(QPainter& painter, const QRect& area) const
+{
     if (m_ink.opaque) {
         // Without its alpha channel it is copied, not blended.
         painter.drawImage(0, 0,
@@ -62,8 +68,14 @@ void LayerPicture::paint(QPainter& painter) const
                                  m_image.bytesPerLine(), QImage::Format_RGB32));
         return;
     }
-    for (const QRect& place : m_ink.places)
-        painter.drawImage(place.topLeft(), m_image, place);
+    const auto isAbove = [](const QRect& place, int y) { return place.bottom() < y; };
+    const QVector<QRect>& places = m_ink.places;
+    for (auto place = std::lower_bound(places.begin(), places.end(), area.top(), isAbove);
+         place != places.end() && place->top() <= area.bottom(); ++place) {
+        const QRect part = *place & area;
+        if (!part.isEmpty())
+            painter.drawImage(part.topLeft(), m_image, part);
+    }
 }
 
 } // namespace vardeno::testcharttools

@@ -20,8 +20,11 @@ public:
     /// someone else still holds it. It is transparent, unless all of it is going to be written.
     QImage& begin(const QSize& size, Coverage coverage = Coverage::Unknown);
 
-    /// Call after drawing.
-    void end();
+    /// The picture that has begun.
+    QImage& image() { return m_image; }
+
+    /// Call after drawing. Ink is looked for in `reach`; everywhere, where it is empty.
+    void end(const QVector<QRect>& reach = {});
     /// The picture, without a copy. GUI thread.
     QPixmap pixmap() const;
     /// Both of them.
@@ -29,6 +32,10 @@ public:
 
     /// Paints the picture at the origin: only its ink, and that as it is where nothing shines through.
     void paint(QPainter& painter) const;
+    /// The same of what is in `area`.
+    void paint(QPainter& painter, const QRect& area) const;
+
+    QSize size() const { return m_image.size(); }
 
     const Ink& ink() const { return m_ink; }
 

@@ -14,7 +14,8 @@ class VDCHARTCORE_EXPORT PatternLayer : public ChartLayer
 public:
     bool isDrawable() const override;
     LayerCoverage coverage() const override;
-    void draw(QPainter& painter, const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     uint mode = 0; ///< 0 chessboard, 1 gradient, 2 stripes; any other value draws nothing
     QColor oddColor = QColor(0xff, 0xaa, 0xff);
@@ -24,8 +25,8 @@ public:
     QVector<QColor> colors; ///< of gradient and stripes, from left to right
 
 private:
-    void drawChess(QPainter& painter, const QSize& chart) const;
-    void drawGradient(QPainter& painter, const QSize& chart) const;
+    void drawChess(QPainter& painter, const QSize& chart, const QRect& area) const;
+    void drawGradient(QPainter& painter, const QSize& chart, const QRect& area) const;
     void drawStripes(QPainter& painter, const QSize& chart) const;
 };
 

@@ -41,7 +41,7 @@ void PictureLogoLayer::fit(const QSize& chart)
     placement = placedPicture(chart, scaled.size(), position, {moveX, moveY});
 }
 
-void PictureLogoLayer::draw(QPainter& painter, const QSize& chart) const
+void PictureLogoLayer::draw(QPainter& painter, const QSize& chart, const QRect&) const
 {
     painter.translate(QPoint(chart.width() / 2, chart.height() / 2));
     painter.setOpacity(double(opacity));

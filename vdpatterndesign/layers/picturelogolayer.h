@@ -13,7 +13,8 @@ class VDCHARTCORE_EXPORT PictureLogoLayer : public ChartLayer
 public:
     bool drawsOnLayersBelow() const override { return true; }
     void fit(const QSize& chart) override;
-    void draw(QPainter& painter, const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     QImage picture; ///< null draws nothing
     float scale = 1.0F;

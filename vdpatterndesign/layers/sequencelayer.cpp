@@ -20,13 +20,13 @@ void SequenceLayer::fit(const QSize& chart)
             ushort(testcharttools::fittedLabelSize(labelSize, textFont(), CabinetGrid{chart, rows, columns}));
 }
 
-void SequenceLayer::draw(QPainter& painter, const QSize& chart) const
+void SequenceLayer::draw(QPainter& painter, const QSize& chart, const QRect& area) const
 {
     const CabinetGrid grid{chart, rows, columns};
     if (linesVisible)
         drawLines(painter, grid);
     if (labelsVisible)
-        drawCabinetLabels(painter, grid, style, fittedLabelSize, labelColor);
+        drawCabinetLabels(painter, grid, style, fittedLabelSize, labelColor, area);
 }
 
 void SequenceLayer::drawLines(QPainter& painter, const CabinetGrid& grid) const

@@ -13,8 +13,10 @@ class VDCHARTCORE_EXPORT SequenceLayer : public ChartLayer
 {
 public:
     LayerCoverage coverage() const override;
+    bool hasTexts() const override { return labelsVisible; }
     void fit(const QSize& chart) override;
-    void draw(QPainter& painter, const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     bool linesVisible = false;
     bool labelsVisible = false;

@@ -39,7 +39,19 @@ void TextLayer::fit(const QSize& chart)
     }
 }
 
-void TextLayer::draw(QPainter& painter, const QSize& chart) const
+QVector<QRect> TextLayer::reach(const QSize& chart) const
+{
+    const QPoint origin = chartLinesOrigin(chart).toPoint();
+    QVector<QRect> places;
+    if (selfTextVisible)
+        places.append(lineReach(m_selfLine.fitted, selfText).translated(origin + m_selfLine.at));
+    if (resolutionVisible)
+        places.append(lineReach(m_informationLine.fitted, informationText(chart))
+                          .translated(origin + m_informationLine.at));
+    return places;
+}
+
+void TextLayer::draw(QPainter& painter, const QSize& chart, const QRect&) const
 {
     painter.translate(chartLinesOrigin(chart));
     if (selfTextVisible)

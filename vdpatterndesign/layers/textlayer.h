@@ -16,8 +16,11 @@ public:
     TextLayer();
 
     LayerCoverage coverage() const override;
+    bool hasTexts() const override { return true; }
     void fit(const QSize& chart) override;
-    void draw(QPainter& painter, const QSize& chart) const override;
+    QVector<QRect> reach(const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     bool selfTextVisible = true;
     bool boxNumVisible = true;     ///< as a part of the information line

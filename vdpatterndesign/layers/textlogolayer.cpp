@@ -15,7 +15,13 @@ void TextLogoLayer::fit(const QSize& chart)
     applied = m_logo.placement.applied;
 }
 
-void TextLogoLayer::draw(QPainter& painter, const QSize& chart) const
+QVector<QRect> TextLogoLayer::reach(const QSize& chart) const
+{
+    const QPoint middle(chart.width() / 2, chart.height() / 2);
+    return {lineReach(m_logo.fitted, text).translated(middle + m_logo.placement.at)};
+}
+
+void TextLogoLayer::draw(QPainter& painter, const QSize& chart, const QRect&) const
 {
     painter.translate(QPoint(chart.width() / 2, chart.height() / 2));
     painter.setPen(color);

@@ -12,8 +12,11 @@ namespace vardeno::testcharttools {
 class VDCHARTCORE_EXPORT TextLogoLayer : public ChartLayer
 {
 public:
+    bool hasTexts() const override { return true; }
     void fit(const QSize& chart) override;
-    void draw(QPainter& painter, const QSize& chart) const override;
+    QVector<QRect> reach(const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     QString text = QStringLiteral("Vardeno_RT5_Pro").remove(QLatin1Char('_'));
     int textSize = 100;       ///< font pixels, fewer where the text is too large

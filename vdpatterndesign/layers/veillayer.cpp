@@ -9,10 +9,10 @@ LayerCoverage VeilLayer::coverage() const
     return alpha() > 0 ? LayerCoverage::Whole : LayerCoverage::Nothing;
 }
 
-void VeilLayer::draw(QPainter& painter, const QSize& chart) const
+void VeilLayer::draw(QPainter& painter, const QSize&, const QRect& area) const
 {
     if (alpha() > 0)
-        painter.fillRect(QRect(QPoint(), chart), QColor(0, 0, 0, alpha()));
+        painter.fillRect(area, QColor(0, 0, 0, alpha()));
 }
 
 } // namespace vardeno::testcharttools

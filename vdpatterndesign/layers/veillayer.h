@@ -12,7 +12,8 @@ class VDCHARTCORE_EXPORT VeilLayer : public ChartLayer
 public:
     LayerCoverage coverage() const override;
     bool drawsOnLayersBelow() const override { return true; }
-    void draw(QPainter& painter, const QSize& chart) const override;
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
 
     ushort brightness = 100; ///< percent, 0 (black) to 100 (no veil)
 

@@ -7,10 +7,13 @@
 #include <QPixmap>
 
 #include <memory>
+#include <vector>
 
 namespace vardeno::testcharttools {
 
 class ChartLayer;
+class Composition;
+class LayerStack;
 
 /// One layer of the chart: a label that shows one transparent pixmap of its own size.
 ///
@@ -56,14 +59,18 @@ protected:
     /// What `draw` is about to do. Where it writes every pixel, it may find its last picture on what it draws
     /// on.
     virtual Coverage coverage() const;
-    /// Draws the layer with `painter` on a transparent picture of `size` (never empty).
+    /// Makes the value ready to be drawn in the layer's size (never empty).
+    virtual void prepare();
+    /// Draws the layer with `painter` on a transparent picture of `size` (never empty); the base has the
+    /// value draw it.
     virtual void draw(QPainter& painter, const QSize& size);
 
-    /// Makes the label's picture anew. The base draws a transparent one of the layer's size.
-    virtual void renderPicture();
+    /// Begins to make the label's picture anew. The base begins a transparent one of the layer's size.
+    /// Whether it is to be drawn on.
+    virtual bool beginPicture();
 
-    /// Paints the stored picture; the base paints it at the top left.
-    virtual void paintStored(QPaintEvent* event);
+    /// Adds what the layer shows to a chart. The base adds its picture, at the top left.
+    virtual void addTo(Composition& chart);
 
     /// Whether the label's picture is the one that was rendered last, not one that someone else gave it.
     bool showsOwnPicture() const;
@@ -88,6 +95,15 @@ protected:
     void refresh();
 
 private:
+    friend class LayerStack;
+    using Layers = std::vector<LayerPainter*>;
+    static void setHeld(const Layers& layers, bool held);
+    static void refresh(const Layers& layers);
+    static void renderTogether(const Layers& layers);
+    bool isStale() const;
+    void drawPicture();
+    void endRender();
+
     class Impl;
     std::unique_ptr<Impl> d;
 };

@@ -1,5 +1,6 @@
 #include "painters/layerstack.h"
 
+#include "layers/composition.h"
 #include "paintbasicwidget.h"
 #include "paintinlinewidget.h"
 #include "paintpiclogowidget.h"
@@ -10,8 +11,10 @@
 #include "painttextlogowidget.h"
 
 #include <QGridLayout>
-#include <QPainter>
 #include <QStackedWidget>
+
+#include <algorithm>
+#include <iterator>
 
 namespace vardeno::testcharttools {
 
@@ -102,20 +105,33 @@ QImage LayerStack::image() const
     return image;
 }
 
+/// As rendering the view would, but for the painting itself, in which no widget has a part.
 void LayerStack::compose(QImage& image) const
 {
     if (image.size() != chartSize() || image.format() != QImage::Format_RGB32 || !image.isDetached())
         image = QImage(chartSize(), QImage::Format_RGB32);
-    if (!m_painters.front()->coversItsArea())
-        image.fill(Qt::black);
-    QPainter painter(&image);
-    m_view->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    const std::vector<LayerPainter*> shown = shownPainters();
+    LayerPainter::refresh(shown);
+    Composition chart;
+    for (LayerPainter* painter : shown) {
+        Q_EMIT painter->sigPaintEventUpdated();
+        painter->addTo(chart);
+    }
+    if (!image.isNull())
+        chart.paintInParallel(image);
 }
 
 void LayerStack::setHeld(bool held)
 {
-    for (LayerPainter* painter : m_painters)
-        painter->setHeld(held);
+    LayerPainter::setHeld(m_painters, held);
+}
+
+std::vector<LayerPainter*> LayerStack::shownPainters() const
+{
+    std::vector<LayerPainter*> shown;
+    std::copy_if(m_painters.begin(), m_painters.end(), std::back_inserter(shown),
+                 [this](const LayerPainter* painter) { return painter->isVisibleTo(m_view); });
+    return shown;
 }
 
 } // namespace vardeno::testcharttools

@@ -69,6 +69,7 @@ public:
 
 private:
     void stack(QGridLayout* cell, const Layer& layer);
+    std::vector<LayerPainter*> shownPainters() const;
 
     QWidget* m_view;
     QStackedWidget* m_sharedPlace = nullptr;

@@ -76,10 +76,10 @@ void PaintBasicWidget::setColorStripeList(QListWidget* list)
     assign(d->colorStripeList, QPointer<QListWidget>(list));
 }
 
-void PaintBasicWidget::draw(QPainter& painter, const QSize& size)
+void PaintBasicWidget::prepare()
 {
     d->layer.colors = d->barColors();
-    LayerPainter::draw(painter, size);
+    LayerPainter::prepare();
 }
 
 bool PaintBasicWidget::sourceChanged() const

@@ -40,7 +40,7 @@ public:
     void setColorStripeList(QListWidget* list);
 
 protected:
-    void draw(QPainter& painter, const QSize& size) override;
+    void prepare() override;
     bool sourceChanged() const override;
 
 private:

@@ -1,6 +1,7 @@
 #include "paintpiclogowidget.h"
 
 #include "defaultlogo.h"
+#include "layers/composition.h"
 #include "layers/picturelogolayer.h"
 #include "support/chartlog.h"
 #include "support/imagefile.h"
@@ -10,7 +11,6 @@
 #include <QFileDialog>
 #include <QImageReader>
 #include <QMessageBox>
-#include <QPainter>
 #include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
@@ -184,24 +184,19 @@ void PaintPicLogoWidget::translateTitle()
 }
 
 /// The label's picture is the scaled logo alone; where it stands is decided when it is painted.
-void PaintPicLogoWidget::renderPicture()
+bool PaintPicLogoWidget::beginPicture()
 {
     d->layer.picture = d->picture.load(d->path());
     d->layer.fit(size());
     setPixmap(QPixmap::fromImage(d->layer.scaled));
+    return false;
 }
 
-void PaintPicLogoWidget::draw(QPainter& painter, const QSize& size)
-{
-    d->layer.draw(painter, size);
-}
-
-void PaintPicLogoWidget::paintStored(QPaintEvent*)
+void PaintPicLogoWidget::addTo(Composition& chart)
 {
     if (!showsOwnPicture()) // which stands where the logo would
         d->layer.scaled = pixmap(Qt::ReturnByValue).toImage();
-    QPainter painter(this);
-    draw(painter, size());
+    chart.add(d->layer, size());
 }
 
 bool PaintPicLogoWidget::sourceChanged() const

@@ -63,9 +63,8 @@ Q_SIGNALS:
     void sigLogoRefused(const QString& path, const QString& reason, const QSize& size, const QSize& limit);
 
 protected:
-    void draw(QPainter& painter, const QSize& size) override;
-    void renderPicture() override;
-    void paintStored(QPaintEvent* event) override;
+    bool beginPicture() override;
+    void addTo(Composition& chart) override;
     bool sourceChanged() const override;
 
 private:

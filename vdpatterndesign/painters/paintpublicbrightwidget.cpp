@@ -2,8 +2,6 @@
 
 #include "layers/veillayer.h"
 
-#include <QPainter>
-
 namespace vardeno::testcharttools {
 
 class PaintPublicBrightWidget::Impl : public QObject
@@ -24,17 +22,6 @@ PaintPublicBrightWidget::~PaintPublicBrightWidget() = default;
 void PaintPublicBrightWidget::setBrightness(ushort percent)
 {
     assign(d->layer.brightness, percent);
-}
-
-/// One colour all over needs no picture to be read.
-void PaintPublicBrightWidget::paintStored(QPaintEvent* event)
-{
-    if (!showsOwnPicture()) {
-        LayerPainter::paintStored(event);
-        return;
-    }
-    QPainter painter(this);
-    d->layer.draw(painter, pixmap(Qt::ReturnByValue).size());
 }
 
 } // namespace vardeno::testcharttools

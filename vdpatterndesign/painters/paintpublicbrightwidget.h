@@ -19,9 +19,6 @@ public:
     /// Percent, 0 (black) to 100 (no veil).
     void setBrightness(ushort percent);
 
-protected:
-    void paintStored(QPaintEvent* event) override;
-
 private:
     class Impl;
     std::unique_ptr<Impl> d;
