@@ -17,7 +17,8 @@
 namespace {
 
 constexpr qint64 mostMemory = 1024LL * 1024 * 1024; ///< bytes, of pictures that are made at the same time
-constexpr qint64 bytesPerPixel = 12;                ///< of a picture, its largest layer, and its file
+constexpr qint64 bytesPerPixel = 12;                ///< of a picture, its largest layer, and its encoding
+constexpr qint64 mostBytes = 256 * 1024 * 1024;     ///< of a picture that is drawn strip by strip
 
 /// By itself, as many as there are cores, and fewer where the largest pictures would take too much memory.
 int atOnce(int wanted, const std::vector<PlannedPicture>& plan)
@@ -27,7 +28,7 @@ int atOnce(int wanted, const std::vector<PlannedPicture>& plan)
         const auto& chart = planned.record.publicData;
         largest = std::max(largest, qint64(chart.resolutionWidth) * chart.resolutionHeight);
     }
-    const qint64 roomFor = std::max<qint64>(mostMemory / (largest * bytesPerPixel), 1);
+    const qint64 roomFor = std::max<qint64>(mostMemory / std::min(largest * bytesPerPixel, mostBytes), 1);
     return wanted > 0 ? wanted : int(std::min<qint64>(QThread::idealThreadCount(), roomFor));
 }
 
@@ -93,7 +94,7 @@ void Batch::make(PlannedPicture& planned, const ChartRenderer& renderer)
 void Batch::draw(PlannedPicture& planned, const ChartRenderer& renderer)
 {
     try {
-        finish(planned, renderer.render(planned.record));
+        finish(planned, renderer.rows(planned.record));
     } catch (const Failure& failure) {
         const std::lock_guard<std::mutex> lock(m_results);
         planned.fail(failure);
@@ -113,30 +114,49 @@ void Batch::waitForWorkers(int count)
 }
 
 /// What keeps one picture from being written keeps the others as well: a full disk, a folder that is gone.
-void Batch::write(const PlannedPicture& planned, const QByteArray& file)
+/// What keeps it from being encoded is its own.
+void Batch::write(const QString& path, const std::function<void(const ByteSink&)>& encode)
 {
+    bool isEncoding = false;
     try {
-        writeOutput(batchPath(m_arguments, planned.picture.file), file);
+        writeOutput(path, [&](const ByteSink& sink) {
+            isEncoding = true;
+            encode([&](const char* bytes, qint64 count) {
+                isEncoding = false;
+                sink(bytes, count);
+                isEncoding = true;
+            });
+            isEncoding = false;
+        });
     } catch (const Failure&) {
-        m_unwritable = true;
+        m_unwritable = m_unwritable || !isEncoding;
         throw;
     }
 }
 
-void Batch::finish(PlannedPicture& planned, const QImage& image)
+void Batch::finish(PlannedPicture& planned, const PictureRows& picture)
 {
+    const QString path = batchPath(m_arguments, planned.picture.file);
     PngOptions options;
     options.compression = m_arguments.compression;
+    options.threads = std::max(1, QThread::idealThreadCount() / m_atOnce);
     if (!m_arguments.withoutRecord)
-        options.texts = CarriedRecord::texts(planned.record, QString::fromStdString(m_arguments.language),
-                                             batchPath(m_arguments, planned.picture.file));
-    const QByteArray file = encodeImage(image, QString::fromStdString(m_arguments.format), options);
-    write(planned, file);
-    const QByteArray sha256 = QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
+        options.texts =
+            CarriedRecord::texts(planned.record, QString::fromStdString(m_arguments.language), path);
+    qint64 size = 0;
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    write(path, [&](const ByteSink& sink) {
+        const auto noted = [&](const char* bytes, qint64 count) {
+            sink(bytes, count);
+            hash.addData(bytes, int(count));
+            size += count;
+        };
+        encodePicture(picture, QString::fromStdString(m_arguments.format), options, noted);
+    });
     const std::lock_guard<std::mutex> lock(m_results);
-    planned.picture.size = image.size();
-    planned.picture.bytes = file.size();
-    planned.picture.sha256 = sha256;
+    planned.picture.size = picture.size;
+    planned.picture.bytes = size;
+    planned.picture.sha256 = hash.result().toHex();
 }
 
 std::vector<BatchPicture> Batch::pictures() const

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "batchplan.h"
-
-#include <QImage>
+#include "picturerows.h"
 
 #include <atomic>
 #include <deque>
@@ -33,8 +32,8 @@ private:
     void make(PlannedPicture& planned, const ChartRenderer& renderer);
     void draw(PlannedPicture& planned, const ChartRenderer& renderer);
     void waitForWorkers(int count);
-    void finish(PlannedPicture& planned, const QImage& image);
-    void write(const PlannedPicture& planned, const QByteArray& file);
+    void finish(PlannedPicture& planned, const PictureRows& picture);
+    void write(const QString& path, const std::function<void(const ByteSink& sink)>& encode);
 
     const Arguments& m_arguments;
     std::vector<PlannedPicture> m_plan;

@@ -8,6 +8,19 @@
 
 using namespace vardeno::testcharttools;
 
+namespace {
+
+constexpr qint64 stripBytes = 16 * 1024 * 1024; ///< of a large chart, at a time
+
+QImage required(const QImage& drawn)
+{
+    if (drawn.isNull())
+        throw Failure{ExitCode::NotWritten, QStringLiteral("not enough memory for the picture")};
+    return drawn;
+}
+
+} // namespace
+
 ChartRenderer::ChartRenderer(const QString& language)
 {
     ChartLanguages::load(language);
@@ -15,13 +28,25 @@ ChartRenderer::ChartRenderer(const QString& language)
     m_captions = ChartCaptions::current();
 }
 
-QImage ChartRenderer::render(const TestChartToolsData& record) const
+ChartPicture ChartRenderer::chart(const TestChartToolsData& record) const
 {
     const QString problem = ChartCheck::pictureProblem(record);
     if (!problem.isEmpty())
         throw Failure{ExitCode::Unreadable, problem};
-    const QImage chart = ChartPicture(record, m_captions).image();
-    if (chart.isNull())
-        throw Failure{ExitCode::NotWritten, QStringLiteral("not enough memory for the picture")};
-    return chart;
+    return ChartPicture(record, m_captions);
+}
+
+QImage ChartRenderer::render(const TestChartToolsData& record) const
+{
+    return required(chart(record).image());
+}
+
+PictureRows ChartRenderer::rows(const TestChartToolsData& record) const
+{
+    const ChartPicture picture = chart(record);
+    if (!picture.isDrawnInParts())
+        return rowsOf(required(picture.image()));
+    const auto rows = [picture](int top, int count) { return required(picture.rows(top, count)); };
+    const qint64 rowBytes = qint64(picture.size().width()) * qint64(sizeof(QRgb));
+    return {picture.size(), rows, int(qMax<qint64>(1, stripBytes / rowBytes))};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chartapplication.h"
+#include "picturerows.h"
 
 #include <chartpicture.h>
 
@@ -18,11 +19,17 @@ public:
     /// `language`: of the resolution line.
     explicit ChartRenderer(const QString& language);
 
-    /// The chart in its resolution. Throws Failure where the picture of its logo cannot be drawn: without it,
-    /// it would be another chart. For any thread.
+    /// The chart in its resolution; a large one is drawn strip by strip when its rows are asked for. Throws
+    /// Failure where the picture of its logo cannot be drawn: without it, it would be another chart. For any
+    /// thread.
+    PictureRows rows(const vardeno::testcharttools::TestChartToolsData& record) const;
+    /// The same as one image.
     QImage render(const vardeno::testcharttools::TestChartToolsData& record) const;
 
 private:
+    vardeno::testcharttools::ChartPicture
+    chart(const vardeno::testcharttools::TestChartToolsData& record) const;
+
     ChartApplication m_application;
     vardeno::testcharttools::ChartCaptions m_captions;
 };

@@ -20,12 +20,13 @@ ExitCode runRender(const Arguments& arguments)
     claims.reads(recordPath, QStringLiteral("the record that is drawn"));
     claims.readsLogo(record.logoData);
     claims.protect(path);
-    const QImage image = ChartRenderer(QString::fromStdString(arguments.language)).render(record);
+    const ChartRenderer renderer(QString::fromStdString(arguments.language));
+    const PictureRows picture = renderer.rows(record);
     PngOptions options;
     options.compression = arguments.compression;
     if (!arguments.withoutRecord)
         options.texts = CarriedRecord::texts(record, QString::fromStdString(arguments.language), path);
     options.threads = QThread::idealThreadCount();
-    writeOutput(path, [&](const ByteSink& sink) { encodePicture(rowsOf(image), format, options, sink); });
+    writeOutput(path, [&](const ByteSink& sink) { encodePicture(picture, format, options, sink); });
     return ExitCode::Good;
 }

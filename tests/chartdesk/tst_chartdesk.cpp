@@ -306,14 +306,14 @@ private Q_SLOTS:
         const QString image = ChartFolderList::charts(folder.path()).first().filePath();
         QFile record(ChartFolderList::recordPath(image));
         QVERIFY(record.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        record.write("{\"format\": \"testchart\", \"version\": 1, \"publicData\": {\"boxRow\": 500}}");
+        record.write("{\"format\": \"testchart\", \"version\": 1, \"publicData\": {\"boxRow\": 5000}}");
         record.close();
 
         window.findChild<QListWidget*>(QStringLiteral("chartList"))->setCurrentRow(0);
         QVERIFY(trigger(window, QStringLiteral("Edit chart")));
         QTRY_VERIFY(window.findChild<QMessageBox*>());
         QVERIFY(window.findChild<QMessageBox*>()->informativeText().contains(
-            QStringLiteral("publicData.boxRow: 500 is not in 1..100")));
+            QStringLiteral("publicData.boxRow: 5000 is not in 1..1000")));
         QVERIFY(listShown(window));
     }
 

@@ -222,10 +222,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("least");
         QTest::addColumn<int>("most");
         QTest::newRow("publicData.brightness") << 0 << 100;
-        QTest::newRow("publicData.resolutionWidth") << 16 << 4320;
-        QTest::newRow("publicData.resolutionHeight") << 16 << 4320;
-        QTest::newRow("publicData.boxRow") << 1 << 100;
-        QTest::newRow("publicData.boxCol") << 1 << 100;
+        QTest::newRow("publicData.resolutionWidth") << 16 << 32768;
+        QTest::newRow("publicData.resolutionHeight") << 16 << 32768;
+        QTest::newRow("publicData.boxRow") << 1 << 1000;
+        QTest::newRow("publicData.boxCol") << 1 << 1000;
         QTest::newRow("publicData.outBorderWidth") << 1 << 100;
         QTest::newRow("inLineData.circleSize") << 1 << 16384;
         QTest::newRow("inLineData.circleWidth") << 1 << 100;
@@ -320,10 +320,10 @@ private Q_SLOTS:
     {
         QJsonObject document = asObject(fullRecord());
         document = with(document, QStringLiteral("basicData.chessChecked"), 1);
-        document = with(document, QStringLiteral("publicData.boxRow"), 500);
+        document = with(document, QStringLiteral("publicData.boxRow"), 5000);
         document.insert(QStringLiteral("logoData"), QJsonArray());
         const QStringList expected = {QStringLiteral("basicData.chessChecked: 1 is not true or false"),
-                                      QStringLiteral("publicData.boxRow: 500 is not in 1..100"),
+                                      QStringLiteral("publicData.boxRow: 5000 is not in 1..1000"),
                                       QStringLiteral("logoData: [] is not an object")};
         QCOMPARE(ChartRecordFile::fromJson(asJson(document)).problems, expected);
     }
@@ -431,9 +431,9 @@ private Q_SLOTS:
         QTest::newRow("a fraction of nothing") << QByteArray("12.0") << "";
         QTest::newRow("an exponent") << QByteArray("1.2e1") << "";
         QTest::newRow("the least above it") << QByteArray("12.000000000000002") << "is not a whole number";
-        QTest::newRow("beyond 64 bits") << QByteArray("18446744073709551628") << "is not in 1..100";
-        QTest::newRow("huge") << QByteArray("1e308") << "is not in 1..100";
-        QTest::newRow("minus nothing") << QByteArray("-0") << "is not in 1..100";
+        QTest::newRow("beyond 64 bits") << QByteArray("18446744073709551628") << "is not in 1..1000";
+        QTest::newRow("huge") << QByteArray("1e308") << "is not in 1..1000";
+        QTest::newRow("minus nothing") << QByteArray("-0") << "is not in 1..1000";
     }
 
     void numbersInOtherNotations()
@@ -576,10 +576,10 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         QFile file(folder.filePath(QStringLiteral("record.json")));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("{\"format\": \"testchart\", \"version\": 1, \"publicData\": {\"boxRow\": 500}}");
+        file.write("{\"format\": \"testchart\", \"version\": 1, \"publicData\": {\"boxRow\": 5000}}");
         file.close();
         QCOMPARE(ChartRecordFile::read(file.fileName()).problems,
-                 QStringList(QStringLiteral("publicData.boxRow: 500 is not in 1..100")));
+                 QStringList(QStringLiteral("publicData.boxRow: 5000 is not in 1..1000")));
     }
 
     void unwritableFiles_data()

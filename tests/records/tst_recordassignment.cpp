@@ -81,8 +81,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("assignment");
         QTest::addColumn<QString>("problem");
         const QString color = QStringLiteral(" is not a color [r, g, b, a] of numbers in 0..255");
-        QTest::newRow("out of range") << "publicData.resolutionWidth=5000"
-                                      << "publicData.resolutionWidth: 5000 is not in 16..4320";
+        QTest::newRow("out of range") << "publicData.resolutionWidth=50000"
+                                      << "publicData.resolutionWidth: 50000 is not in 16..32768";
         QTest::newRow("fraction") << "publicData.boxRow=1.5"
                                   << "publicData.boxRow: 1.5 is not a whole number";
         QTest::newRow("number as text") << "publicData.boxRow=\"12\""

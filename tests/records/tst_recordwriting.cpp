@@ -317,10 +317,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("problem");
         TestChartToolsData record;
         record.publicData.boxRow = 0;
-        record.publicData.resolutionWidth = 5000;
+        record.publicData.resolutionWidth = 50000;
         QTest::newRow("out of range") << record
-                                      << "publicData.resolutionWidth: 5000 is not in 16..4320; "
-                                         "publicData.boxRow: 0 is not in 1..100";
+                                      << "publicData.resolutionWidth: 50000 is not in 16..32768; "
+                                         "publicData.boxRow: 0 is not in 1..1000";
         record = {};
         record.selfData.selfText.assign(51, 'x');
         QTest::newRow("a text too long")

@@ -75,19 +75,20 @@ private Q_SLOTS:
                               << "1x2x3"
                               << ""
                               << "--cabinet: \"1x2x3\" is not two numbers, such as 16x9";
-        QTest::newRow("too many") << "101x9"
+        QTest::newRow("too many") << "1001x9"
                                   << ""
                                   << ""
-                                  << "--grid: publicData.boxCol: 101 is not in 1..100";
-        QTest::newRow("too large") << "40x9"
-                                   << "128x128"
-                                   << ""
-                                   << "--cabinet: 40 x 9 of them: publicData.resolutionWidth: 5120 is not in "
-                                      "16..4320";
+                                  << "--grid: publicData.boxCol: 1001 is not in 1..1000";
+        QTest::newRow("too large")
+            << "400x9"
+            << "128x128"
+            << ""
+            << "--cabinet: 400 x 9 of them: publicData.resolutionWidth: 51200 is not in "
+               "16..32768";
         QTest::newRow("a short name") << ""
                                       << ""
                                       << "rows=0"
-                                      << "--set: publicData.boxRow: 0 is not in 1..100";
+                                      << "--set: publicData.boxRow: 0 is not in 1..1000";
         QTest::newRow("no value") << ""
                                   << ""
                                   << "rows"

@@ -22,7 +22,7 @@ private Q_SLOTS:
         TestChartToolsData other = smallRecord();
         other.basicData.oddColor = {255, 0, 0, 255};
         write(QStringLiteral("other.json"), ChartRecordFile::toJson(other));
-        write(QStringLiteral("wrong.json"), ChartRecordFile::toJson(smallRecord()).replace("320", "5000"));
+        write(QStringLiteral("wrong.json"), ChartRecordFile::toJson(smallRecord()).replace("320", "50000"));
         write(QStringLiteral("broken.json"), "{\"format\": ");
         write(QStringLiteral("manifest.json"), ChartRecordFile::toJson(smallRecord()));
         write(QStringLiteral("taken.png"), "not to be written over");
@@ -53,8 +53,8 @@ private Q_SLOTS:
         QTest::newRow("unknown ending") << QStringList{"render", "small.json", "-o", "a.gif"} << "a.gif";
         QTest::newRow("unknown field")
             << QStringList{"new", "--set", "publicData.rows=1"} << "publicData.rows";
-        QTest::newRow("out of range") << QStringList{"new", "--set", "publicData.boxRow=101"}
-                                      << "publicData.boxRow: 101 is not in 1..100";
+        QTest::newRow("out of range") << QStringList{"new", "--set", "publicData.boxRow=1001"}
+                                      << "publicData.boxRow: 1001 is not in 1..1000";
         QTest::newRow("no value") << QStringList{"new", "--set", "publicData.boxRow"} << "publicData.boxRow";
         QTest::newRow("compression") << QStringList{"render", "small.json", "-o", "a.png", "-c", "10"}
                                      << "--compression";
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QTest::newRow("not JSON") << "broken.json"
                                   << "broken.json: not JSON";
         QTest::newRow("a wrong field") << "wrong.json"
-                                       << "wrong.json: publicData.resolutionWidth: 5000 is not in 16..4320";
+                                       << "wrong.json: publicData.resolutionWidth: 50000 is not in 16..32768";
         QTest::newRow("a large one, with a percent sign") << "large%2.json"
                                                           << "large%2.json: more than 1048576 bytes";
         QTest::newRow("endless") << "/dev/zero"
@@ -248,8 +248,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("message");
         QTest::newRow("good") << QStringList{"check", "good.json"} << 0 << "";
-        QTest::newRow("an error") << QStringList{"check", "wrong.json"} << 1
-                                  << "wrong.json: error: publicData.resolutionWidth: 5000 is not in 16..4320";
+        QTest::newRow("an error")
+            << QStringList{"check", "wrong.json"} << 1
+            << "wrong.json: error: publicData.resolutionWidth: 50000 is not in 16..32768";
         QTest::newRow("a warning") << QStringList{"check", "good.json", "--set", "publicData.boxCol=7"} << 1
                                    << "good.json: warning: publicData.boxCol";
         QTest::newRow("errors only") << QStringList{"check", "good.json", "--errors", "--set",
@@ -510,12 +511,13 @@ private Q_SLOTS:
 
     void aBatchGoesOn()
     {
-        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,5000\nright,320\n");
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,50000\nright,320\n");
         const Outcome outcome = run({"batch", "small.json", "wrong.json", "-w", "walls.csv", "-o", "some"});
         QCOMPARE(outcome.code, 3);
         QCOMPARE(outcome.output, QByteArray("2 of 6 pictures written\n"));
-        QVERIFY(outcome.errors.contains(QStringLiteral(
-            "failed: small-large.png: wall \"large\": publicData.resolutionWidth: 5000 is not in 16..4320")));
+        QVERIFY(
+            outcome.errors.contains(QStringLiteral("failed: small-large.png: wall \"large\": "
+                                                   "publicData.resolutionWidth: 50000 is not in 16..32768")));
         QVERIFY(outcome.errors.contains(QStringLiteral("failed: wrong-left.png: ")));
         QCOMPARE(files(QStringLiteral("some")),
                  QStringList({"manifest.json", "small-left.png", "small-right.png"}));
@@ -553,7 +555,7 @@ private Q_SLOTS:
 
     void manifest()
     {
-        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,5000\n");
+        write(QStringLiteral("walls.csv"), "name,width\nleft,160\nlarge,50000\n");
         QCOMPARE(run({"batch", "small.json", "-w", "walls.csv", "-o", "told"}).code, 3);
         const QJsonObject told = QJsonDocument::fromJson(read(QStringLiteral("told/manifest.json"))).object();
         QCOMPARE(told.value("version").toInt(), 1);
@@ -570,7 +572,7 @@ private Q_SLOTS:
                  QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex());
         const QJsonObject large = told.value("failed").toArray().at(0).toObject();
         QCOMPARE(large.value("file").toString(), QStringLiteral("large.png"));
-        QVERIFY(large.value("problem").toString().contains(QStringLiteral("5000")));
+        QVERIFY(large.value("problem").toString().contains(QStringLiteral("50000")));
     }
 
     void anInterruptedBatchTellsWhatItDid()

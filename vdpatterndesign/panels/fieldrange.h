@@ -1,7 +1,11 @@
 #pragma once
 
+#include "layers/largechart.h"
 #include "panels/settingrows.h"
 #include "records/recordfields.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace vardeno::testcharttools {
 
@@ -52,7 +56,23 @@ struct Finder
 
 } // namespace fieldrange
 
-/// The range that a record's table gives a number: `rangeOf(&PublicChartData::boxRow).value(9)`.
+/// What the editor takes at most, where a record may hold more.
+template <typename Group>
+int mostInEditor(int Group::*)
+{
+    return std::numeric_limits<int>::max();
+}
+inline int mostInEditor(int PublicChartData::*number)
+{
+    if (number == &PublicChartData::resolutionWidth || number == &PublicChartData::resolutionHeight)
+        return longestWhole; // for it holds the picture of each layer
+    if (number == &PublicChartData::boxRow || number == &PublicChartData::boxCol)
+        return 100;
+    return std::numeric_limits<int>::max();
+}
+
+/// The range that the editor gives a number of the record, which is that of the record's table or ends before
+/// it: `rangeOf(&PublicChartData::boxRow).value(9)`.
 template <typename Group>
 SpinRange rangeOf(int Group::*number)
 {
@@ -60,7 +80,7 @@ SpinRange rangeOf(int Group::*number)
     Group& group = fieldrange::groupOf(record, static_cast<const Group*>(nullptr));
     fieldrange::Finder finder{&(group.*number)};
     recordfields::visit(finder, record);
-    return range(finder.found.least, finder.found.most);
+    return range(finder.found.least, std::min(finder.found.most, mostInEditor(number)));
 }
 
 } // namespace vardeno::testcharttools

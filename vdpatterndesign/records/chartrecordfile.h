@@ -17,8 +17,8 @@ namespace ChartRecordFile {
 struct Reading
 {
     TestChartToolsData record;
-    /// What is wrong with the document, each with its field: "publicData.boxRow: 500 is not in 1..100". Where
-    /// there are problems the record is not to be used.
+    /// What is wrong with the document, each with its field: "publicData.boxRow: 5000 is not in 1..1000".
+    /// Where there are problems the record is not to be used.
     QStringList problems;
     /// The document as it was read, with what is unknown here: for `write`. Empty where it was no JSON
     /// object.

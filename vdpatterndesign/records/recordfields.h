@@ -16,7 +16,12 @@ struct Length
     int most;
 };
 
-/// One for each column of the widest chart: with more, a stripe is less than a pixel wide and none is drawn.
+/// Walls are what charts are for, of many pictures beside and above one another. The editor takes smaller
+/// ones.
+constexpr Range sidePixels = {16, 32768};
+constexpr Range cabinetCount = {1, 1000};
+
+/// One for each column of the widest chart that the editor takes.
 constexpr int mostColors = 4320;
 constexpr Length logoTextLength = {32767}; // a text entry's own limit
 constexpr Length selfTextLength = {50};
@@ -40,10 +45,10 @@ void visit(Visitor& visitor, Data& record)
     });
     visitor.group("publicData", "what applies to the whole chart", [&, &data = record.publicData] {
         visitor.field("brightness", data.brightness, Range{0, 100}, "percent");
-        visitor.field("resolutionWidth", data.resolutionWidth, Range{16, 4320}, "pixels");
-        visitor.field("resolutionHeight", data.resolutionHeight, Range{16, 4320}, "pixels");
-        visitor.field("boxRow", data.boxRow, Range{1, 100}, "rows of cabinets");
-        visitor.field("boxCol", data.boxCol, Range{1, 100}, "columns of cabinets");
+        visitor.field("resolutionWidth", data.resolutionWidth, sidePixels, "pixels");
+        visitor.field("resolutionHeight", data.resolutionHeight, sidePixels, "pixels");
+        visitor.field("boxRow", data.boxRow, cabinetCount, "rows of cabinets");
+        visitor.field("boxCol", data.boxCol, cabinetCount, "columns of cabinets");
         visitor.field("showOutBorder", data.showOutBorder, "the frame around the chart");
         visitor.field("outBorderWidth", data.outBorderWidth, Range{1, 100}, "pixels");
         visitor.field("outBorderColor", data.outBorderColor, "the frame");

@@ -18,8 +18,8 @@ namespace recordvalues {
 QJsonValue toJson(const RgbaColor& color);
 QJsonValue toJson(const std::map<int, QColor>& colors);
 
-/// Each takes `value` into `target`, or leaves it and tells why: "500 is not in 1..100". Nothing is converted
-/// or cut. Lists tell of each item, and are taken only when all of them are right.
+/// Each takes `value` into `target`, or leaves it and tells why: "5000 is not in 1..1000". Nothing is
+/// converted or cut. Lists tell of each item, and are taken only when all of them are right.
 QStringList take(const QJsonValue& value, bool& target);
 QStringList take(const QJsonValue& value, int& target, recordfields::Range range);
 QStringList take(const QJsonValue& value, std::string& target, recordfields::Length longest);

@@ -36,10 +36,10 @@ struct BasicChartData
 struct PublicChartData
 {
     int brightness = 100;        ///< percent, 0 to 100
-    int resolutionWidth = 1920;  ///< chart pixels, 16 to 4320
-    int resolutionHeight = 1080; ///< chart pixels, 16 to 4320
-    int boxRow = 9;              ///< cabinet rows, 1 to 100
-    int boxCol = 16;             ///< cabinet columns, 1 to 100
+    int resolutionWidth = 1920;  ///< chart pixels, 16 to 32768; to 4320 in the editor
+    int resolutionHeight = 1080; ///< chart pixels, 16 to 32768; to 4320 in the editor
+    int boxRow = 9;              ///< cabinet rows, 1 to 1000; to 100 in the editor
+    int boxCol = 16;             ///< cabinet columns, 1 to 1000; to 100 in the editor
     bool showOutBorder = true;
     int outBorderWidth = 2; ///< chart pixels, 1 to 100
     RgbaColor outBorderColor = {255, 255, 255, 255};
