@@ -12,26 +12,26 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr QSize chart(3000, 150); // several bands
+constexpr QSize composedSize(3000, 150); // several bands
 
-QImage painted(const Composition& composition, int top = 0, int height = chart.height())
+QImage paintedBands(const Composition& composition, int top = 0, int height = composedSize.height())
 {
-    QImage image(chart.width(), height, QImage::Format_RGB32);
+    QImage image(composedSize.width(), height, QImage::Format_RGB32);
     image.fill(Qt::cyan);
     composition.paintInParallel(image, top);
     return image;
 }
 
-QImage filled(const QColor& color)
+QImage filledBands(const QColor& color)
 {
-    QImage image(chart, QImage::Format_RGB32);
+    QImage image(composedSize, QImage::Format_RGB32);
     image.fill(color);
     return image;
 }
 
 void drawBox(LayerPicture& picture)
 {
-    QPainter(&picture.begin(chart)).fillRect(QRect(20, 30, 900, 100), QColor(255, 0, 0, 128));
+    QPainter(&picture.begin(composedSize)).fillRect(QRect(20, 30, 900, 100), QColor(255, 0, 0, 128));
     picture.end();
 }
 
@@ -44,10 +44,10 @@ class TestComposition : public TestCase
 private Q_SLOTS:
     void nothingIsBlack()
     {
-        VD_COMPARE_IMAGES(painted({}), filled(Qt::black));
+        VD_COMPARE_IMAGES(paintedBands({}), filledBands(Qt::black));
         Composition composition;
         composition.add([](QPainter&, const QRect&) {});
-        VD_COMPARE_IMAGES(painted(composition), filled(Qt::black));
+        VD_COMPARE_IMAGES(paintedBands(composition), filledBands(Qt::black));
     }
 
     /// Every row belongs to one band, and what is painted lies on what came before.
@@ -55,7 +55,7 @@ private Q_SLOTS:
     {
         Composition composition;
         std::mutex mutex;
-        QVector<int> rows(chart.height());
+        QVector<int> rows(composedSize.height());
         composition.add([&](QPainter&, const QRect& area) {
             const std::lock_guard<std::mutex> lock(mutex);
             for (int y = area.top(); y <= area.bottom(); ++y)
@@ -67,10 +67,10 @@ private Q_SLOTS:
             painter.setOpacity(0.3);
         });
         composition.add([](QPainter& painter, const QRect&) { painter.fillRect(7, 5, 9, 90, Qt::blue); });
-        QImage expected = filled(Qt::red);
+        QImage expected = filledBands(Qt::red);
         QPainter(&expected).fillRect(7, 5, 9, 90, Qt::blue);
-        VD_COMPARE_IMAGES(painted(composition), expected);
-        QCOMPARE(rows, QVector<int>(chart.height(), 1));
+        VD_COMPARE_IMAGES(paintedBands(composition), expected);
+        QCOMPARE(rows, QVector<int>(composedSize.height(), 1));
     }
 
     void layersAndPictures()
@@ -81,17 +81,17 @@ private Q_SLOTS:
         LayerPicture box;
         drawBox(box);
         Composition composition;
-        composition.add(pattern, chart);
-        composition.add(box, chart);
-        composition.add(veil, chart);
-        QImage expected = filled(Qt::black);
+        composition.add(pattern, composedSize);
+        composition.add(box, composedSize);
+        composition.add(veil, composedSize);
+        QImage expected = filledBands(Qt::black);
         QPainter painter(&expected);
-        pattern.draw(painter, chart);
+        pattern.draw(painter, composedSize);
         box.paint(painter);
-        veil.draw(painter, chart);
+        veil.draw(painter, composedSize);
         painter.end();
-        VD_COMPARE_IMAGES(painted(composition), expected);
-        VD_COMPARE_IMAGES(painted(composition, 61, 40), expected.copy(0, 61, chart.width(), 40));
+        VD_COMPARE_IMAGES(paintedBands(composition), expected);
+        VD_COMPARE_IMAGES(paintedBands(composition, 61, 40), expected.copy(0, 61, composedSize.width(), 40));
     }
 
     /// A picture that was drawn for another size leaves the rest dark.
@@ -101,21 +101,21 @@ private Q_SLOTS:
         small.begin({100, 50}, LayerCoverage::Opaque).fill(Qt::green);
         small.end();
         Composition composition;
-        composition.add(small, chart);
-        QImage expected = filled(Qt::black);
+        composition.add(small, composedSize);
+        QImage expected = filledBands(Qt::black);
         QPainter(&expected).fillRect(0, 0, 100, 50, Qt::green);
-        VD_COMPARE_IMAGES(painted(composition), expected);
+        VD_COMPARE_IMAGES(paintedBands(composition), expected);
     }
 
     void onAWidget()
     {
         Composition composition;
         composition.add([](QPainter& painter, const QRect& area) { painter.fillRect(area, Qt::red); });
-        QImage image = filled(Qt::white);
+        QImage image = filledBands(Qt::white);
         QPainter painter(&image);
         composition.paint(painter, QRect(10, 10, 20, 20));
         painter.end();
-        QImage expected = filled(Qt::white);
+        QImage expected = filledBands(Qt::white);
         QPainter(&expected).fillRect(10, 10, 20, 20, Qt::red);
         VD_COMPARE_IMAGES(image, expected);
     }

@@ -11,15 +11,15 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr int longestWhole = 4320;
-const RecordLimits limits = {QSize(4320, 4320), 60, 200, 16384};
+constexpr int editorsLongest = 4320;
+const RecordLimits largeLimits = {QSize(4320, 4320), 60, 200, 16384};
 
-QSize sizeOf(const TestChartToolsData& record)
+QSize resolutionOf(const TestChartToolsData& record)
 {
     return {record.publicData.resolutionWidth, record.publicData.resolutionHeight};
 }
 
-QString described(const TestChartToolsData& record)
+QString describedWall(const TestChartToolsData& record)
 {
     return QStringLiteral("%1 x %2 pixels, %3 x %4 cabinets")
         .arg(record.publicData.resolutionWidth)
@@ -42,7 +42,7 @@ QString stripDifference(const ChartPicture& picture, const QImage& whole, int he
 }
 
 /// A gradient alone.
-TestChartToolsData gradient(int width, const std::vector<QColor>& colors)
+TestChartToolsData gradientAlone(int width, const std::vector<QColor>& colors)
 {
     TestChartToolsData record;
     record.publicData.resolutionWidth = width;
@@ -82,9 +82,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<bool>("inParts");
-        QTest::newRow("largest of the editor") << QSize(longestWhole, longestWhole) << false;
-        QTest::newRow("wider") << QSize(longestWhole + 1, 16) << true;
-        QTest::newRow("higher") << QSize(16, longestWhole + 1) << true;
+        QTest::newRow("largest of the editor") << QSize(editorsLongest, editorsLongest) << false;
+        QTest::newRow("wider") << QSize(editorsLongest + 1, 16) << true;
+        QTest::newRow("higher") << QSize(16, editorsLongest + 1) << true;
     }
 
     void whichAreDrawnInParts()
@@ -102,9 +102,9 @@ private Q_SLOTS:
         QTest::addColumn<QSize>("most");
         QTest::addColumn<int>("count");
         QTest::newRow("drawn whole") << QSize(16, 16) << QSize(300, 200) << 40;
-        QTest::newRow("wide, drawn at once") << QSize(longestWhole + 1, 16) << QSize(9000, 64) << 40;
-        QTest::newRow("wide") << QSize(longestWhole + 1, 65) << QSize(6000, 300) << 15;
-        QTest::newRow("high") << QSize(16, longestWhole + 1) << QSize(200, 9000) << 15;
+        QTest::newRow("wide, drawn at once") << QSize(editorsLongest + 1, 16) << QSize(9000, 64) << 40;
+        QTest::newRow("wide") << QSize(editorsLongest + 1, 65) << QSize(6000, 300) << 15;
+        QTest::newRow("high") << QSize(16, editorsLongest + 1) << QSize(200, 9000) << 15;
     }
 
     void stripsAreThePicture()
@@ -112,20 +112,21 @@ private Q_SLOTS:
         QFETCH(QSize, least);
         QFETCH(QSize, most);
         QFETCH(int, count);
-        RandomRecords records(20261122, m_pictures, limits);
+        RandomRecords records(20261122, m_pictures, largeLimits);
         for (int i = 0; i < count; ++i) {
             TestChartToolsData record = records.next();
             record.publicData.resolutionWidth = records.number(least.width(), most.width());
             record.publicData.resolutionHeight = records.number(least.height(), most.height());
             const ChartPicture picture(record, {QStringLiteral("Resolution"), QStringLiteral("Cabinets")});
             const QImage whole = picture.image();
-            QCOMPARE(whole.size(), sizeOf(record));
+            QCOMPARE(whole.size(), resolutionOf(record));
             const int part = std::max(1, whole.height() / records.number(2, 9));
             for (const int height : {part, 64, 100}) {
                 const QString difference = stripDifference(picture, whole, height);
-                QVERIFY2(difference.isEmpty(),
-                         qPrintable(
-                             QStringLiteral("record %1, %2: %3").arg(i).arg(described(record), difference)));
+                QVERIFY2(
+                    difference.isEmpty(),
+                    qPrintable(
+                        QStringLiteral("record %1, %2: %3").arg(i).arg(describedWall(record), difference)));
             }
         }
     }
@@ -145,7 +146,7 @@ private Q_SLOTS:
     /// All that is straight stands where it stands in a chart that is drawn whole.
     void theSamePlacesAsInASmallerChart()
     {
-        TestChartToolsData record = gradient(longestWhole, {});
+        TestChartToolsData record = gradientAlone(editorsLongest, {});
         record.basicData.chessChecked = true;
         record.basicData.colorBarChecked = false;
         record.publicData.showOutBorder = true;
@@ -158,14 +159,14 @@ private Q_SLOTS:
         record.publicData.resolutionWidth += 80;
         record.publicData.boxCol += 1;
         const QImage large = ChartPicture(record).image();
-        const int same = longestWhole - 80;
+        const int same = editorsLongest - 80;
         VD_COMPARE_IMAGES(large.copy(0, 0, same, 90), small.copy(0, 0, same, 90));
     }
 
     void theGradientIsExact()
     {
         const int width = 32768;
-        const QImage row = ChartPicture(gradient(width, {Qt::black, Qt::white})).rows(0, 1);
+        const QImage row = ChartPicture(gradientAlone(width, {Qt::black, Qt::white})).rows(0, 1);
         for (int x = 0; x < width; ++x) {
             const double expected = 255.0 * x / width;
             QVERIFY2(std::abs(qRed(row.pixel(x, 0)) - expected) <= 1.5, qPrintable(QString::number(x)));

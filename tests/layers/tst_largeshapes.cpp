@@ -11,22 +11,22 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr QSize chart(400, 300);
+constexpr QSize canvas(400, 300);
 
-using Draw = std::function<void(QPainter& painter)>;
+using DrawShapes = std::function<void(QPainter& painter)>;
 
-QImage drawn(const Draw& draw)
+QImage drawnShapes(const DrawShapes& draw)
 {
-    QImage image(chart, QImage::Format_ARGB32_Premultiplied);
+    QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     draw(painter);
     return image;
 }
 
-QImage drawnByToolkit(const SmoothPen& pen, const Draw& draw)
+QImage drawnByToolkit(const SmoothPen& pen, const DrawShapes& draw)
 {
-    return drawn([&](QPainter& painter) {
+    return drawnShapes([&](QPainter& painter) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(chartPen(pen.color, pen.width));
         draw(painter);
@@ -34,15 +34,15 @@ QImage drawnByToolkit(const SmoothPen& pen, const Draw& draw)
 }
 
 /// The largest difference of two pixels' alpha, and the mean one of those that either has any of.
-struct Difference
+struct AlphaDifference
 {
     int largest = 0;
     double mean = 0;
 };
 
-Difference difference(const QImage& one, const QImage& other)
+AlphaDifference alphaDifference(const QImage& one, const QImage& other)
 {
-    Difference found;
+    AlphaDifference found;
     int inked = 0;
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x) {
@@ -60,9 +60,9 @@ Difference difference(const QImage& one, const QImage& other)
 /// In tiles of that size, each on a picture of its own.
 QImage drawnInTiles(const QSize& tile, const std::function<void(QPainter& painter, const QRect& area)>& draw)
 {
-    return drawn([&](QPainter& painter) {
-        for (int y = 0; y < chart.height(); y += tile.height()) {
-            for (int x = 0; x < chart.width(); x += tile.width()) {
+    return drawnShapes([&](QPainter& painter) {
+        for (int y = 0; y < canvas.height(); y += tile.height()) {
+            for (int x = 0; x < canvas.width(); x += tile.width()) {
                 const QRect area(QPoint(x, y), tile);
                 QImage part(tile, QImage::Format_ARGB32_Premultiplied);
                 part.fill(Qt::transparent);
@@ -99,11 +99,11 @@ private Q_SLOTS:
     {
         QFETCH(SmoothPen, pen);
         const QPoint from(0, 0);
-        const QPoint to(chart.width(), chart.height());
-        const QImage own =
-            drawn([&](QPainter& painter) { drawSmoothLine(painter, pen, from, to, QRect(QPoint(), chart)); });
+        const QPoint to(canvas.width(), canvas.height());
+        const QImage own = drawnShapes(
+            [&](QPainter& painter) { drawSmoothLine(painter, pen, from, to, QRect(QPoint(), canvas)); });
         const QImage expected = drawnByToolkit(pen, [&](QPainter& painter) { painter.drawLine(from, to); });
-        const Difference found = difference(own, expected);
+        const AlphaDifference found = alphaDifference(own, expected);
         QVERIFY2(found.largest < 50, qPrintable(QString::number(found.largest)));
         QVERIFY2(found.mean < 8, qPrintable(QString::number(found.mean)));
     }
@@ -117,13 +117,13 @@ private Q_SLOTS:
     void everyRowOfALineHasItsInk()
     {
         QFETCH(SmoothPen, pen);
-        const QImage own = drawn([&](QPainter& painter) {
-            drawSmoothLine(painter, pen, {0, 0}, {400, 300}, QRect(QPoint(), chart));
+        const QImage own = drawnShapes([&](QPainter& painter) {
+            drawSmoothLine(painter, pen, {0, 0}, {400, 300}, QRect(QPoint(), canvas));
         });
         const double expected = pen.width * 500 / 300 * pen.color.alpha(); // the diagonal is 500 long
         for (int y = 110; y < 190; ++y) {
             int ink = 0;
-            for (int x = 0; x < chart.width(); ++x)
+            for (int x = 0; x < canvas.width(); ++x)
                 ink += qAlpha(own.pixel(x, y));
             QVERIFY2(std::abs(ink - expected) < 4 + expected / 20, qPrintable(QString::number(ink)));
         }
@@ -135,20 +135,20 @@ private Q_SLOTS:
     {
         QFETCH(SmoothPen, pen);
         const QRect square(60, 20, 251, 251);
-        const QImage own =
-            drawn([&](QPainter& painter) { drawSmoothCircle(painter, pen, square, QRect(QPoint(), chart)); });
+        const QImage own = drawnShapes(
+            [&](QPainter& painter) { drawSmoothCircle(painter, pen, square, QRect(QPoint(), canvas)); });
         const QImage expected = drawnByToolkit(pen, [&](QPainter& painter) { painter.drawEllipse(square); });
-        const Difference found = difference(own, expected);
+        const AlphaDifference found = alphaDifference(own, expected);
         QVERIFY2(found.largest < 50, qPrintable(QString::number(found.largest)));
         QVERIFY2(found.mean < 8, qPrintable(QString::number(found.mean)));
     }
 
     void aCircleOfNoSizeIsNotDrawn()
     {
-        const QImage own = drawn([](QPainter& painter) {
-            drawSmoothCircle(painter, {Qt::red, 50}, QRect(100, 100, 0, 0), QRect(QPoint(), chart));
+        const QImage own = drawnShapes([](QPainter& painter) {
+            drawSmoothCircle(painter, {Qt::red, 50}, QRect(100, 100, 0, 0), QRect(QPoint(), canvas));
         });
-        QCOMPARE(difference(own, drawn([](QPainter&) {})).largest, 0);
+        QCOMPARE(alphaDifference(own, drawnShapes([](QPainter&) {})).largest, 0);
     }
 
     void tilesFitTogether_data()
@@ -167,7 +167,7 @@ private Q_SLOTS:
             drawSmoothCircle(painter, {Qt::blue, 3}, QRect(5, 5, 200, 200), area);
             drawSmoothCircle(painter, {Qt::green, 60}, QRect(150, 100, 40, 40), area);
         };
-        const QImage whole = drawn([&](QPainter& painter) { draw(painter, QRect(QPoint(), chart)); });
+        const QImage whole = drawnShapes([&](QPainter& painter) { draw(painter, QRect(QPoint(), canvas)); });
         VD_COMPARE_IMAGES(drawnInTiles(tile, draw), whole);
     }
 };

@@ -16,7 +16,7 @@ namespace {
 constexpr int bandBytes = 512 * 1024;
 
 /// The rows from `top` on, in the memory of `image`.
-QImage rowsOf(uchar* bits, const QImage& image, int top, int count)
+QImage bandOf(uchar* bits, const QImage& image, int top, int count)
 {
     return {bits + qsizetype(top) * image.bytesPerLine(), image.width(), count, image.bytesPerLine(),
             image.format()};
@@ -58,7 +58,7 @@ void Composition::paintInParallel(QImage& image, int top) const
     uchar* const bits = image.bits();
     const int height = std::max(1, bandBytes / image.bytesPerLine());
     inParallel((image.height() + height - 1) / height, [&](int i) {
-        QImage band = rowsOf(bits, image, i * height, std::min(height, image.height() - i * height));
+        QImage band = bandOf(bits, image, i * height, std::min(height, image.height() - i * height));
         paintBand(band, top + i * height);
     });
 }

@@ -11,7 +11,7 @@ namespace vardeno::testcharttools {
 namespace {
 
 /// What a line of that width covers of a pixel whose middle is `distance` from the line's.
-double coverage(double distance, double width)
+double lineCoverage(double distance, double width)
 {
     const double half = width / 2;
     return std::clamp(std::min(distance + 0.5, half) - std::max(distance - 0.5, -half), 0.0, 1.0);
@@ -45,7 +45,7 @@ public:
             return;
         auto* const pixels = reinterpret_cast<QRgb*>(m_row.scanLine(0));
         for (int x = first; x <= last; ++x)
-            pixels[x - first] = m_colors[std::lround(coverage(distance(x), m_pen.width) * steps)];
+            pixels[x - first] = m_colors[std::lround(lineCoverage(distance(x), m_pen.width) * steps)];
         m_painter.drawImage(QPoint(first, y), m_row, QRect(0, 0, last - first + 1, 1));
     }
 
