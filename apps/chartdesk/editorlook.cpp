@@ -39,6 +39,7 @@ EditorLook::EditorLook(VTestChartTools* editor)
     editor->setWheelScrollsPanels(true);
     editor->setLiveSliders(true);
     editor->setCalmLock(true);
+    editor->setTypingGoesOn(true);
     editor->findChild<BasicSettingBox*>()->setQuietWhenEmpty(true);
     arrangeButtons(editor->findChild<QWidget*>(QStringLiteral("saveWidget")));
     QApplication::instance()->installEventFilter(this); // the question has no parent

@@ -1,4 +1,5 @@
 #include "charttool.h"
+#include "lockspy.h"
 
 #include <QComboBox>
 #include <QInputMethodEvent>
@@ -248,6 +249,54 @@ private Q_SLOTS:
         QVERIFY(shown.idle());
         QCOMPARE(int(rows->value()), 21);
         QVERIFY(rows->hasFocus());
+    }
+
+    /// An input method drops what it is composing where its entry is locked or loses the focus.
+    void typingGoesOn()
+    {
+        Shown shown;
+        QVERIFY(!shown.tool.typingGoesOn());
+        shown.tool.setProperty("typingGoesOn", true);
+        QVERIFY(shown.tool.typingGoesOn());
+        QLineEdit* entry = shown.customText();
+        entry->setFocus();
+        entry->selectAll();
+        compose(QStringLiteral("ni"), QString());
+        const LockSpy locks(entry);
+        QVERIFY(shown.lock());
+        QVERIFY(!shown.entry(4320)->isEnabled());
+        compose(QString(), QStringLiteral("\u4f60"));
+        shown.type(QStringLiteral("b"));
+        QCOMPARE(entry->text(), QStringLiteral("\u4f60b")); // at once
+        compose(QStringLiteral("hao"), QString());
+        shown.tool.setUpdateFlag(false);
+        shown.tool.slotGetHeightWidth();
+        QVERIFY(shown.idle());
+        compose(QString(), QStringLiteral("\u597d"));
+        QCOMPARE(entry->text(), QStringLiteral("\u4f60b\u597d"));
+        QVERIFY(!locks.wasLocked());
+        QVERIFY(entry->hasFocus());
+        QVERIFY(shown.idle());
+        QVERIFY(!locks.wasLocked());
+        QCOMPARE(shown.tool.getTestChartToolsData().selfData.selfText, entry->text().toStdString());
+    }
+
+    void typingGoesOnUntilAKeyLeaves()
+    {
+        Shown shown;
+        shown.tool.setTypingGoesOn(true);
+        QLineEdit* entry = shown.customText();
+        entry->setFocus();
+        entry->selectAll();
+        QVERIFY(shown.lock());
+        shown.type(QStringLiteral("ab"));
+        shown.press(Qt::Key_Tab);
+        shown.type(QStringLiteral("7"));
+        QCOMPARE(entry->text(), QStringLiteral("ab"));
+        QVERIFY(entry->hasFocus());
+        QVERIFY(shown.unlock());
+        QCOMPARE(entry->text(), QStringLiteral("ab"));
+        QVERIFY(!entry->hasFocus());
     }
 
     void turnedWheelSteps_data()

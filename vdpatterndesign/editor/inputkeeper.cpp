@@ -56,6 +56,14 @@ std::shared_ptr<QEvent> copyOfTyped(const QEvent& event)
     return copyOf(static_cast<const QKeyEvent&>(event));
 }
 
+bool isKeyThatLeaves(const QEvent& event)
+{
+    if (event.type() == QEvent::InputMethod)
+        return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
 } // namespace
 
 /// Where the focus was, and how.
@@ -110,8 +118,11 @@ void InputKeeper::begin()
         return;
     rememberFocus();
     m_active = true;
-    // Inert before the focus leaves it: an entry that loses the focus while it works has ended its edit.
-    if (lineEditOf(m_focus) && m_tool->isAncestorOf(m_focus))
+    if (!lineEditOf(m_focus) || !m_tool->isAncestorOf(m_focus))
+        return;
+    if (m_typingGoesOn && qobject_cast<QLineEdit*>(m_focus))
+        m_spared = m_focus;
+    else // before the focus leaves it: an entry that loses the focus while it works has ended its edit
         m_focus->setEnabled(false);
 }
 
@@ -133,6 +144,7 @@ void InputKeeper::giveBack()
         rememberFocus();
     m_ending = false;
     m_active = false;
+    m_spared = nullptr;
     replay();
 }
 
@@ -190,8 +202,9 @@ void InputKeeper::watchMouse(QWidget* target, const QEvent* event)
 
 bool InputKeeper::holdTyped(QEvent* event)
 {
-    if (!m_active || !m_focus)
+    if (!m_active || !m_focus || (m_spared && !m_leaving && !isKeyThatLeaves(*event)))
         return false;
+    m_leaving = m_spared;
     if (isChosen(focus()))
         rememberFocus();
     m_held.push_back([this, copy = copyOfTyped(*event)] { type(copy.get()); });
@@ -250,6 +263,7 @@ bool InputKeeper::isChosen(const QWidget* widget) const
 void InputKeeper::rememberFocus()
 {
     m_focus = focus();
+    m_leaving = false;
     m_held.insert(m_active ? m_held.end() : m_held.begin(),
                   [this, place = Place(m_focus)] { giveFocusBack(place); });
 }

@@ -32,6 +32,14 @@ public:
     /// unless the controls become inert again before.
     void end();
 
+    /// Whether a text entry that has the focus when the controls are about to become inert does not, and what
+    /// is typed goes on into it, until a key leaves it. An input method needs that: where its entry becomes
+    /// inert it drops what it is composing. At first not.
+    void setTypingGoesOn(bool goesOn) { m_typingGoesOn = goesOn; }
+    bool typingGoesOn() const { return m_typingGoesOn; }
+    /// The entry that does not become inert; null for none.
+    QWidget* spared() const { return m_spared; }
+
     /// Where turns of the wheel arrive instead of at the controls, from the first change on.
     void setCover(const QWidget* cover) { m_cover = cover; }
 
@@ -55,6 +63,9 @@ private:
 
     QWidget* m_tool;
     const QWidget* m_cover = nullptr;
+    QPointer<QWidget> m_spared;
+    bool m_leaving = false; ///< the spared entry, by a key that is held
+    bool m_typingGoesOn = false;
     bool m_active = false;
     bool m_ending = false;
     bool m_sending = false;     ///< what is not to be held again

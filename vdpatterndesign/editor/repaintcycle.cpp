@@ -106,11 +106,12 @@ void RepaintCycle::setLocked(bool locked)
 {
     if (locked)
         m_look.freeze();
-    const bool takesFocus = !isFocusInAnotherTool(m_tool);
-    if (takesFocus)
+    const bool isFocusOurs = !isFocusInAnotherTool(m_tool);
+    if (isFocusOurs)
         m_input.begin(); // unlocking takes the focus as well, and a cycle may end before its lock has come
     for (const auto& [rank, panel] : m_panels) {
-        panel->setLockTakesFocus(takesFocus);
+        panel->setLockTakesFocus(isFocusOurs && !m_input.spared());
+        panel->spareFromLocks(m_input.spared());
         panel->setControlsDisabled(locked);
     }
     m_buttons->setLocked(locked);

@@ -43,6 +43,7 @@ public:
     /// All awaited layers have reported.
     void finish();
 
+    InputKeeper& input() { return m_input; }
     CalmLook& look() { return m_look; }
 
 private:

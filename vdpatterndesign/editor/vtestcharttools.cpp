@@ -403,6 +403,16 @@ void VTestChartTools::setCalmLock(bool calm)
     d->cycle.look().setOn(calm);
 }
 
+bool VTestChartTools::typingGoesOn() const
+{
+    return d->cycle.input().typingGoesOn();
+}
+
+void VTestChartTools::setTypingGoesOn(bool goesOn)
+{
+    d->cycle.input().setTypingGoesOn(goesOn);
+}
+
 PaintPicLogoWidget* VTestChartTools::pictureLogo() const
 {
     return d->layers.find<PaintPicLogoWidget>();

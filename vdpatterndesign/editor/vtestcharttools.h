@@ -27,6 +27,7 @@ class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
     Q_PROPERTY(bool saveButtonsFollowState READ saveButtonsFollowState WRITE setSaveButtonsFollowState)
     Q_PROPERTY(bool wheelScrollsPanels READ wheelScrollsPanels WRITE setWheelScrollsPanels)
     Q_PROPERTY(bool liveSliders READ liveSliders WRITE setLiveSliders)
+    Q_PROPERTY(bool typingGoesOn READ typingGoesOn WRITE setTypingGoesOn)
     Q_PROPERTY(bool calmLock READ calmLock WRITE setCalmLock)
 
 public:
@@ -90,6 +91,12 @@ public:
     /// 0.4 s. Off, at first, they look so at once. They are locked in the same way.
     bool calmLock() const;
     void setCalmLock(bool calm);
+
+    /// Whether the text entry that has the focus takes text while the other controls are locked, which input
+    /// methods need: what they are composing is lost where the entry is locked. Off, at first, it is locked
+    /// with the others, and the keys that arrive meanwhile are its at the end.
+    bool typingGoesOn() const;
+    void setTypingGoesOn(bool goesOn);
 
     /// The layer of the picture logo, of this tool's life: its `sigLogoRefused` tells why a picture that the
     /// user has chosen was not taken.

@@ -20,7 +20,8 @@ void PanelControls::setLocked(bool locked)
 void PanelControls::update() const
 {
     for (const Control& control : m_controls)
-        control.widget->setEnabled(!m_locked && (!control.allowed || control.allowed()));
+        control.widget->setEnabled((!m_locked || control.widget == m_spared) &&
+                                   (!control.allowed || control.allowed()));
 }
 
 void PanelControls::setWheelScrolls(bool scrolls)

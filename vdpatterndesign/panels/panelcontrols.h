@@ -22,6 +22,8 @@ public:
     void add(QWidget* control, Allowed allowed = {});
 
     void setLocked(bool locked);
+    /// A control that locks leave as it is; null, at first, for none.
+    void spare(const QWidget* control) { m_spared = control; }
     /// Asks for every control whether it may be used; for after a switch was operated.
     void update() const;
 
@@ -44,6 +46,7 @@ private:
         Qt::FocusPolicy ownFocusPolicy;
     };
     std::vector<Control> m_controls;
+    const QWidget* m_spared = nullptr;
     bool m_locked = false;
     bool m_wheelScrolls = false;
 };

@@ -36,6 +36,11 @@ void SettingPanel::setLockTakesFocus(bool takes)
     m_lockTakesFocus = takes;
 }
 
+void SettingPanel::spareFromLocks(const QWidget* control)
+{
+    m_controls->spare(control);
+}
+
 void SettingPanel::setWheelScrolls(bool scrolls)
 {
     m_controls->setWheelScrolls(scrolls);

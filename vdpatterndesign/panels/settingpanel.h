@@ -39,6 +39,8 @@ public:
     bool wheelScrolls() const;
     /// Whether a lock and an unlock move the focus; at first they do.
     void setLockTakesFocus(bool takes);
+    /// A control that locks leave as it is; null, at first, for none.
+    void spareFromLocks(const QWidget* control);
 
     /// Shows every caption in the current language, in the panel and in the painters that it drives.
     virtual void retranslate();
