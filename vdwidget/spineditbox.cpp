@@ -73,8 +73,8 @@ void SpinEditBox::focusOutEvent(QFocusEvent* event)
 {
     if (isEnabled())
         QDoubleSpinBox::focusOutEvent(event);
-    else
-        QWidget::focusOutEvent(event);
+    else                               // an edit that the lock interrupts is not finished
+        QWidget::focusOutEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void SpinEditBox::finishEdit()

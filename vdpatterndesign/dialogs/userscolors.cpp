@@ -17,7 +17,7 @@ struct Slot
 
 std::vector<Slot>& kept()
 {
-    static std::vector<Slot> colors(std::size_t(QColorDialog::customCount()));
+    static std::vector<Slot> colors(static_cast<std::size_t>(QColorDialog::customCount()));
     return colors;
 }
 

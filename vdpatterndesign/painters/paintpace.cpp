@@ -10,7 +10,7 @@ namespace {
 
 constexpr qint64 shortestPause = 50; ///< ms
 constexpr qint64 pausePerWork = 60;  ///< 1.6 % of a core
-constexpr qint64 longestPause = 60 * 1000;
+constexpr qint64 longestPause = 60000;
 
 } // namespace
 
