@@ -21,7 +21,7 @@ inline QString languageFor(const QLocale& locale)
     return vardeno::testcharttools::ChartLanguages::codeFor(locale);
 }
 
-/// Loads the texts of the language `code` and makes it the language of the process. A chart tool that is
+/// Loads the texts of the language `code` and makes it the language of the process. An editor that is
 /// already there has its own way to another language.
 inline void chooseLanguage(const QString& code)
 {

@@ -30,7 +30,7 @@ namespace {
 const QColor picked(0x33, 0x66, 0x99);
 const QColor pickedNext(0x99, 0x33, 0x66);
 
-/// A colour that the chart tool lets a person pick.
+/// A colour that the editor lets a person pick.
 struct Role
 {
     const char* name;     ///< as the picker carries it
@@ -103,7 +103,7 @@ Entry* pickerEntry(const QWidget* picker, const char* name)
     return nullptr;
 }
 
-/// The chart tool within a page of a host's window that is shown and active, its first repaint done.
+/// The editor within a page of a host's window that is shown and active, its first repaint done.
 struct RoutingHost
 {
     QWidget window;

@@ -25,7 +25,7 @@ QImage picture(const QSize& size, bool translucent)
     return image;
 }
 
-/// A chart tool and the reference, side by side.
+/// The editor and the reference, side by side.
 class Charts
 {
 public:

@@ -35,12 +35,12 @@
 #include <functional>
 #include <vector>
 
-/// What the tests of the chart tool share. Header only: the test support is not linked with the library.
+/// What the tests of the editor share. Header only: the test support is not linked with the library.
 namespace charttool {
 
 using namespace vardeno::testcharttools;
 
-/// A user in front of a chart tool, who finds its widgets by what they show or are called, and operates them
+/// A user in front of an editor, who finds its widgets by what they show or are called, and operates them
 /// with clicks and keys that take the way through the window.
 class User
 {

@@ -12,7 +12,7 @@ namespace vardeno::testcharttools {
 class PanelControls;
 struct TestChartToolsData;
 
-/// A settings panel of the chart tool: the controls of one group of the chart record.
+/// A settings panel of the editor: the controls of one group of the chart record.
 ///
 /// This base owns what the panels share: captions that follow the language and are elided to their widgets,
 /// the lock that makes every control inert while the chart is painted, and the way to the shell. GUI thread

@@ -6,9 +6,9 @@
 
 #include <QObject>
 
-/// The one translator of the process, shared by all chart tools and by the host.
+/// The one translator of the process, shared by all editors and by the host.
 ///
-/// The host loads language files into `translator()`. The language of a chart tool that is already built is
+/// The host loads language files into `translator()`. The language of an editor that is already built is
 /// switched with the tool's own `switchLanguage`, which also renews its texts; `switchLanguage` here only
 /// changes what later look-ups answer. GUI thread only, except that `instance()` may be called from any
 /// thread.
