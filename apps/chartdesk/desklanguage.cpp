@@ -29,7 +29,7 @@ void ToolkitTexts::switchLanguage(const QString& code)
     QCoreApplication::removeTranslator(this);
     // Without such a file, or with an older one, the toolkit's texts stay as they are in the code.
     if (!load(QLatin1String("qtbase_") + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        load(QString());
+        static_cast<void>(load(QString()));
     QCoreApplication::installTranslator(this);
 }
 

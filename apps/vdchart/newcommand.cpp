@@ -52,7 +52,7 @@ ExitCode runPresets(const Arguments& arguments)
 {
     int width = 0;
     for (const Preset& preset : presets())
-        width = std::max(width, preset.name.size());
+        width = std::max(width, int(preset.name.size()));
     for (const Preset& preset : presets()) {
         const QString line =
             arguments.namesOnly ? preset.name : preset.name.leftJustified(width + 2) + preset.description;

@@ -172,7 +172,7 @@ private Q_SLOTS:
             if (word == QLatin1String("click"))
                 QTest::mouseClick(title(), Qt::LeftButton);
             else
-                QTest::keyClick(m_window->windowHandle(), Qt::Key(QKeySequence(word)[0]));
+                QTest::keyClick(m_window->windowHandle(), Qt::Key(int(QKeySequence(word)[0])));
         }
         QCOMPARE(m_states, states);
         verifyState(states.isEmpty() || states.last());

@@ -581,7 +581,7 @@ private:
             else if (word == QLatin1String("step"))
                 m_box->stepBy(3);
             else
-                QTest::keyClick(m_window->windowHandle(), Qt::Key(QKeySequence(word)[0]));
+                QTest::keyClick(m_window->windowHandle(), Qt::Key(int(QKeySequence(word)[0])));
         }
     }
 

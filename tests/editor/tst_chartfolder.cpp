@@ -24,7 +24,7 @@ class TestChartFolder : public TestCase
     Q_OBJECT
 
 public:
-    explicit TestChartFolder(QChar zeroDigit)
+    explicit TestChartFolder(const QString& zeroDigit)
         : m_zeroDigit(zeroDigit)
     {
     }
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         m_home = qgetenv("HOME");
-        QVERIFY(m_zeroDigit != QLatin1Char('0'));
+        QVERIFY(m_zeroDigit != QLatin1String("0"));
     }
 
     void init()
@@ -373,7 +373,7 @@ private:
         QVERIFY2(line.contains(QLatin1String("removeChartFolder(")) && line.endsWith(end), qPrintable(line));
     }
 
-    QChar m_zeroDigit; ///< of the system
+    QString m_zeroDigit; ///< of the system
     QByteArray m_home;
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -382,7 +382,7 @@ int main(int argc, char** argv)
 {
     // A system with digits of its own, which no folder's name has; the toolkit asks for it once.
     qputenv("LC_ALL", "fa_IR.UTF-8");
-    const QChar zero = QLocale::system().zeroDigit();
+    const QString zero(QLocale::system().zeroDigit());
     prepareTestProcess();
     QApplication application(argc, argv);
     prepareTestApplication();

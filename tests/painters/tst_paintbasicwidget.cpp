@@ -329,7 +329,7 @@ private Q_SLOTS:
         QCOMPARE(picture.size(), size);
         for (int x = 0; x < size.width(); ++x) {
             const double place = (x + 0.5) / size.width() * (colors.size() - 1);
-            const int stop = std::min(int(place), colors.size() - 2);
+            const int stop = std::min(int(place), int(colors.size()) - 2);
             const QRgb wanted = between(colors.at(stop), colors.at(stop + 1), place - stop);
             for (const int y : {0, size.height() / 2, size.height() - 1}) {
                 const QRgb actual = picture.pixel(x, y);

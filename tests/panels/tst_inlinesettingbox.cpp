@@ -954,7 +954,8 @@ private Q_SLOTS:
         QSignalSpy serial(&shown.panel, &InLineSettingBox::inlineSequeSignal);
         QSignalSpy any(&shown.panel, &SettingPanel::colorRequested);
         const auto counts = [&] {
-            return QList<int>{circle.count(), diagonal.count(), serial.count(), any.count()};
+            return QList<int>{int(circle.count()), int(diagonal.count()), int(serial.count()),
+                              int(any.count())};
         };
         click(shown.circleColor());
         QCOMPARE(counts(), QList<int>({1, 0, 0, 1}));

@@ -33,7 +33,7 @@ FittedText fitText(const QString& text, int requested, double widthLimit, double
         // cannot fit either.
         const double scale =
             std::min({1.0, (heightLimit + 2) / std::max(fitted.height - 1, 1),
-                      (widthLimit + 2.0 * text.size()) / std::max(fitted.advance - text.size(), 1)});
+                      (widthLimit + 2.0 * text.size()) / std::max(fitted.advance - int(text.size()), 1)});
         const int smaller = fitted.pixelSize - 1;
         const int next = proportional ? std::min(smaller, int(fitted.pixelSize * scale) + 1) : smaller;
         if (next == 0)

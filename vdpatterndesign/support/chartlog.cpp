@@ -2,16 +2,30 @@
 
 namespace vardeno::testcharttools {
 
+namespace {
+
+QLoggingCategory& themeCategory()
+{
+    static QLoggingCategory category("vardeno.testcharttools.theme", QtDebugMsg);
+    return category;
+}
+
+} // namespace
+
 const QLoggingCategory& chartLog()
 {
     static const QLoggingCategory category("vardeno.testcharttools", QtDebugMsg);
     return category;
 }
 
-QLoggingCategory& themeLog()
+const QLoggingCategory& themeLog()
 {
-    static QLoggingCategory category("vardeno.testcharttools.theme", QtDebugMsg);
-    return category;
+    return themeCategory();
+}
+
+void setThemeWarnings(bool on)
+{
+    themeCategory().setEnabled(QtWarningMsg, on);
 }
 
 } // namespace vardeno::testcharttools

@@ -11,6 +11,7 @@ VDCHARTCORE_EXPORT const QLoggingCategory& chartLog();
 
 /// What a theme that cannot be read as it should is warned of in: "vardeno.testcharttools.theme", on at
 /// first.
-VDCHARTCORE_EXPORT QLoggingCategory& themeLog();
+VDCHARTCORE_EXPORT const QLoggingCategory& themeLog();
+VDCHARTCORE_EXPORT void setThemeWarnings(bool on);
 
 } // namespace vardeno::testcharttools

@@ -31,7 +31,7 @@ QString nearestName(const QString& name, const QStringList& names)
 {
     const bool isWhole = name.contains(QLatin1Char('.'));
     QString nearest;
-    int least = 2 + std::min(3, name.size() / 3);
+    int least = 2 + std::min(3, int(name.size()) / 3);
     for (const QString& candidate : names) {
         const QString compared = isWhole ? candidate : candidate.section(QLatin1Char('.'), -1);
         if (std::abs(compared.size() - name.size()) >= least)

@@ -26,9 +26,9 @@ public:
     explicit QuietThemeLog(bool quiet)
         : m_before(themeLog().isWarningEnabled())
     {
-        themeLog().setEnabled(QtWarningMsg, m_before && !quiet);
+        setThemeWarnings(m_before && !quiet);
     }
-    ~QuietThemeLog() { themeLog().setEnabled(QtWarningMsg, m_before); }
+    ~QuietThemeLog() { setThemeWarnings(m_before); }
     QuietThemeLog(const QuietThemeLog&) = delete;
     QuietThemeLog& operator=(const QuietThemeLog&) = delete;
 
