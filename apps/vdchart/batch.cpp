@@ -16,9 +16,9 @@
 
 namespace {
 
-constexpr qint64 mostMemory = 1024LL * 1024 * 1024; ///< bytes, of pictures that are made at the same time
-constexpr qint64 bytesPerPixel = 12;                ///< of a picture, its largest layer, and its encoding
-constexpr qint64 mostBytes = 256 * 1024 * 1024;     ///< of a picture that is drawn strip by strip
+constexpr qint64 mostMemory = 1024LL * 1024 * 1024;     ///< bytes, of pictures that are made at the same time
+constexpr qint64 bytesPerPixel = 12;                    ///< of a picture, its largest layer, and its encoding
+constexpr qint64 mostBytes = qint64(256) * 1024 * 1024; ///< of a picture that is drawn strip by strip
 
 /// By itself, as many as there are cores, and fewer where the largest pictures would take too much memory.
 int atOnce(int wanted, const std::vector<PlannedPicture>& plan)

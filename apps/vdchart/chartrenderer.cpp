@@ -10,7 +10,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr qint64 stripBytes = 16 * 1024 * 1024; ///< of a large chart, at a time
+constexpr qint64 stripBytes = qint64(16) * 1024 * 1024; ///< of a large chart, at a time
 
 QImage required(const QImage& drawn)
 {

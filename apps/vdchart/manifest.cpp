@@ -69,7 +69,7 @@ std::vector<BatchPicture> readManifest(const QString& path)
         throw Failure{ExitCode::Unreadable, QStringLiteral("%1: not the manifest of a batch").arg(path)};
     std::vector<BatchPicture> pictures;
     for (const QString& list : {QStringLiteral("pictures"), QStringLiteral("failed")}) {
-        for (const QJsonValue& entry : document.value(list).toArray())
+        for (const QJsonValue entry : document.value(list).toArray())
             pictures.push_back(pictureOf(entry.toObject()));
     }
     return pictures;

@@ -101,12 +101,12 @@ void FilteredRows::addFiltered()
 
 void FilteredRows::toSamples(const QRgb* pixels, Bytes& samples) const
 {
-    uchar* const sample = samples.data();
+    uchar* sample = samples.data();
     if (!m_block.table) {
         for (int x = 0; x < m_width; ++x) {
-            sample[3 * x] = uchar(qRed(pixels[x]));
-            sample[3 * x + 1] = uchar(qGreen(pixels[x]));
-            sample[3 * x + 2] = uchar(qBlue(pixels[x]));
+            *sample++ = uchar(qRed(pixels[x]));
+            *sample++ = uchar(qGreen(pixels[x]));
+            *sample++ = uchar(qBlue(pixels[x]));
         }
         return;
     }
