@@ -1,5 +1,7 @@
 #include "imagepixels.h"
 
+#include <QColorSpace>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -14,6 +16,7 @@ QImage plainColors(const QImage& image)
         image.format() == QImage::Format_RGB32 ? image.copy() : image.convertToFormat(QImage::Format_ARGB32);
     plain.reinterpretAsFormat(QImage::Format_RGB32);
     plain.setDevicePixelRatio(1);
+    plain.setColorSpace({}); // which Qt 6 compares too
     for (int y = 0; y < plain.height(); ++y) {
         QRgb* const row = pixelRow(plain, y);
         std::transform(row, row + plain.width(), row, [](QRgb color) { return color | 0xff000000U; });

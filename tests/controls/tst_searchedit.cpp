@@ -141,8 +141,9 @@ private Q_SLOTS:
         search(QStringLiteral("ab"));
         QTest::keyClick(m_line, Qt::Key_Return);
         QTest::keyClick(m_line, Qt::Key_Tab);
-        const QStringList heard{"textChanged(a)", "textChanged(ab)", "editingFinished()",
-                                "editingFinished()"};
+        QStringList heard{"textChanged(a)", "textChanged(ab)", "editingFinished()"};
+        if (QT_VERSION_MAJOR == 5) // Qt 6 tells of an edit once
+            heard.append(QStringLiteral("editingFinished()"));
         QCOMPARE(m_heard, heard);
     }
 

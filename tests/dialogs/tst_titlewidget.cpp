@@ -239,7 +239,7 @@ private Q_SLOTS:
         if (released != Qt::NoButton)
             shown.release(start, released);
         shown.moveTo(start + QPoint(5, 5));
-        QTEST(moved.count(), "moves");
+        QTEST(int(moved.count()), "moves");
         QCOMPARE(clicked.count(), pressed == Qt::NoButton ? 0 : 1); // every press, whatever the button
     }
 

@@ -56,18 +56,12 @@ QByteArray hashOf(const QImage& chart)
     return QCryptographicHash::hash(pixels(chart), QCryptographicHash::Sha256).toHex();
 }
 
-/// Of their own for each toolkit, which draw texts and circles a little differently.
-QString hashFile()
-{
-    return recordFolder().filePath(QT_VERSION_MAJOR == 5 ? QStringLiteral("pixels.sha256")
-                                                         : QStringLiteral("pixels-qt6.sha256"));
-}
-
 /// As sha256sum writes them: the hash, two spaces, the record's file name.
 QMap<QString, QByteArray> goldenHashes()
 {
     QMap<QString, QByteArray> hashes;
-    for (const QByteArray& line : contents(hashFile()).split('\n')) {
+    for (const QByteArray& line :
+         contents(recordFolder().filePath(QStringLiteral("pixels.sha256"))).split('\n')) {
         if (!line.isEmpty())
             hashes.insert(QString::fromUtf8(line.mid(66)), line.left(64));
     }
@@ -159,7 +153,7 @@ private Q_SLOTS:
         for (auto hash = m_hashes.cbegin(); hash != m_hashes.cend(); ++hash)
             lines += hash.value() + "  " + hash.key().toUtf8() + '\n';
         if (isUpdate())
-            QVERIFY(writeFile(hashFile(), lines));
+            QVERIFY(writeFile(recordFolder().filePath(QStringLiteral("pixels.sha256")), lines));
     }
 
     void count()

@@ -56,7 +56,7 @@ void Composition::paint(QPainter& painter, const QRect& area) const
 void Composition::paintInParallel(QImage& image, int top) const
 {
     uchar* const bits = image.bits();
-    const int height = std::max(1, bandBytes / image.bytesPerLine());
+    const int height = std::max(1, bandBytes / int(image.bytesPerLine()));
     inParallel((image.height() + height - 1) / height, [&](int i) {
         QImage band = bandOf(bits, image, i * height, std::min(height, image.height() - i * height));
         paintBand(band, top + i * height);

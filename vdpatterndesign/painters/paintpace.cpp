@@ -18,6 +18,7 @@ PaintPace::PaintPace(QWidget* widget)
     : m_widget(widget)
 {
     m_next.setSingleShot(true);
+    m_next.setTimerType(Qt::PreciseTimer); // a coarse one may be early
     connect(&m_next, &QTimer::timeout, this, &PaintPace::ask);
 }
 
