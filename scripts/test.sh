@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Builds the project and runs every functional test once. With --all also: the tests under AddressSanitizer and
-# UndefinedBehaviorSanitizer, and each fuzz target for half a minute.
+# UndefinedBehaviorSanitizer, each fuzz target for half a minute, everything with Qt 6, an optimised build with the
+# benchmarks (which scripts/bench.sh runs), hosts with the sources in their tree, and clang-tidy over the libraries and
+# programs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -32,7 +34,11 @@ run_tests() {
 flaky=()
 unlisted=()
 step 'Set-up'
-scripts/setup.sh mold python3-minimal xvfb xauth clang-format fonts-noto-cjk
+packages=(mold python3-minimal xvfb xauth clang-format fonts-noto-cjk)
+if [ -n "$all" ]; then
+  packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy clang libclang-rt-dev)
+fi
+scripts/setup.sh "${packages[@]}"
 scripts/format.sh --check
 step 'Build'
 cmake --preset dev
@@ -45,6 +51,18 @@ if [ -n "$all" ]; then
   cmake --preset asan
   cmake --build --preset asan
   run_tests asan
+  step 'Qt 6'
+  cmake --preset qt6
+  cmake --build --preset qt6
+  # Offscreen, and without what tests/README.md names.
+  run_tests qt6 -E '_x11$|^tst_(colorrouting|heldarrow)$'
+  step 'Release build with benchmarks'
+  cmake --preset benchmarks
+  cmake --build --preset benchmarks
+  step 'Hosts'
+  ctest --preset dev -C Thorough -R '^hosts$'
+  step 'clang-tidy'
+  scripts/lint.sh
   step 'Fuzzing'
   scripts/fuzz.sh 30
 fi

@@ -14,7 +14,7 @@ function(check shared taken_by as_needed)
   file(REMOVE_RECURSE "${work}")
   run(${CMAKE_COMMAND} -S "${SOURCE_DIR}" -B "${work}/build" -G "${GENERATOR}" "-DLIBRARY=${LIBRARY}"
     -DBUILD_SHARED_LIBS=${shared} -DTAKEN_BY=${taken_by} "-DAS_NEEDED=${as_needed}" -DVD_QT_MAJOR=${QT_MAJOR}
-    -DVD_PRECOMPILED_HEADERS=ON "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}")
+    -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=20 "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}")
   run(${CMAKE_COMMAND} --build "${work}/build")
   run(${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen "${work}/build/host")
   run(${CMAKE_COMMAND} --install "${work}/build" --prefix "${work}/installed")
