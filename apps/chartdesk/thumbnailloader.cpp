@@ -1,5 +1,10 @@
 #include "thumbnailloader.h"
 
+#include "chartfolderlist.h"
+#include "samplechart.h"
+
+#include <chartrecordfile.h>
+
 #include <QImageReader>
 #include <QPainter>
 #include <QRunnable>
@@ -10,16 +15,27 @@
 
 namespace {
 
+constexpr qint64 mostPixels = 64 * 1024 * 1024; ///< of a picture that is read whole
+
+/// Null where there is no record that tells what the picture shows.
+QImage drawnFromRecord(const QString& imagePath, const QSize& size)
+{
+    const auto reading =
+        vardeno::testcharttools::ChartRecordFile::read(ChartFolderList::recordPath(imagePath));
+    return reading.problems.isEmpty() ? sampledChart(reading.record, size) : QImage();
+}
+
 QImage thumbnail(const QString& path, const QSize& size)
 {
     QImage canvas(size, QImage::Format_RGB32);
     canvas.fill(Qt::black);
     QImageReader reader(path);
     const QSize scaled = reader.size().scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    const bool isLarge = qint64(reader.size().width()) * reader.size().height() > mostPixels;
     reader.setScaledSize(scaled);
     QPainter painter(&canvas);
     painter.drawImage((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2,
-                      reader.read());
+                      isLarge ? drawnFromRecord(path, scaled) : reader.read());
     return canvas;
 }
 
