@@ -30,7 +30,7 @@ protected:
         process.start(programPath("vdchart"), arguments);
         process.write(input);
         process.closeWriteChannel();
-        if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
             return {-1, QByteArray(), process.errorString()};
         return {process.exitCode(), process.readAllStandardOutput(),
                 QString::fromUtf8(process.readAllStandardError())};
@@ -45,7 +45,7 @@ protected:
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_folder.path());
         process.start(QStringLiteral("bash"), {QStringLiteral("-c"), script});
-        process.waitForFinished(30000);
+        process.waitForFinished(120000);
         return {process.exitCode(), process.readAllStandardOutput(),
                 QString::fromUtf8(process.readAllStandardError())};
     }

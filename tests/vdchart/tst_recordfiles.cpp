@@ -101,7 +101,7 @@ QImage byTheCommandLine(const TestChartToolsData&, const QString& path)
     QProcess vdchart;
     vdchart.start(programPath("vdchart"),
                   {QStringLiteral("render"), path, QStringLiteral("-o"), QStringLiteral("-")});
-    return vdchart.waitForFinished() ? QImage::fromData(vdchart.readAllStandardOutput()) : QImage();
+    return vdchart.waitForFinished(120000) ? QImage::fromData(vdchart.readAllStandardOutput()) : QImage();
 }
 
 /// A way from a record to the pixels of its chart. `path` is the record's file.
