@@ -27,6 +27,8 @@ ROOMS = {
 }
 LIBRARY = "vdpatterndesign"
 BELOW_ALL = ["vdtranslate"]
+BESIDE = ["comparison", "reading"]  # libraries on the core, where they are there
+BELOW = {"reading": ["comparison"]}  # what they may include of one another
 WIDGETS = ["vdwidget"]
 OF_QT_WIDGETS = re.compile(r"Q(tWidgets|Widget|Application|Label|\w*Dialog|\w*Button|\w*Edit|\w*Box|(Box|HBox|VBox|Grid)Layout)")
 
@@ -40,8 +42,7 @@ class Checker:
         self.problems = []
         self.headers = {}  # name of the file: (library, room)
         self.libraries = [LIBRARY, "vdtranslate", "vdwidget"]
-        if (root / "comparison").is_dir():
-            self.libraries.append("comparison")
+        self.libraries += [library for library in BESIDE if (root / library).is_dir()]
         for library in self.libraries:
             for header in (root / library).rglob("*.h"):
                 self.add(library, header)
@@ -87,10 +88,11 @@ class Checker:
             self.tell(file, f"{name} is of {library}, which is beside the editor")
 
     def check_lower_library(self, library):
+        allowed = [library, *BELOW_ALL, *BELOW.get(library, [])]
         for file in sorted([*(self.root / library).rglob("*.h"), *(self.root / library).rglob("*.cpp")]):
             for _, name in self.includes(file):
                 target = self.headers.get(pathlib.PurePath(name).name)
-                if target and target[0] not in [library, *BELOW_ALL] and not self.is_core(target):
+                if target and target[0] not in allowed and not self.is_core(target):
                     self.tell(file, f"{name} is of {target[0]}, which {library} may not include")
                 if target and library in ["vdtranslate", "vdwidget"] and target[0] == LIBRARY:
                     self.tell(file, f"{name} is of {LIBRARY}, which is above {library}")

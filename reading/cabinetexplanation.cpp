@@ -1,0 +1,243 @@
+#include "cabinetexplanation.h"
+
+#include "readingthresholds.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace WallReading {
+
+namespace {
+
+Explanation own(const Evidence& evidence, std::size_t cabinet)
+{
+    Explanation result;
+    result.isRight = true;
+    result.cabinet = int(cabinet);
+    result.expected = evidence.expectedAt(cabinet);
+    result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
+    return result;
+}
+
+Explanation shows(const Evidence& evidence, std::size_t cabinet, const Content& content)
+{
+    Explanation result;
+    const cv::Mat seen = evidence.seenAt(cabinet);
+    result.expected =
+        fittedTo(laid(evidence.expectedAt(std::size_t(content.cabinet)), content.orientation), seen.size());
+    result.cabinet = content.cabinet;
+    // Mirrored top to bottom is mirrored left to right and turned by half.
+    result.turn = content.orientation.turn;
+    result.kind = content.cabinet != int(cabinet)  ? Kind::Swapped
+                  : content.orientation.isMirrored ? Kind::Mirrored
+                                                   : Kind::Turned;
+    result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
+    return result;
+}
+
+/// One colour all over; dark where it is about the darkest that the wall can show.
+Explanation oneColor(const Evidence& evidence, std::size_t cabinet)
+{
+    Explanation result;
+    const cv::Mat seen = evidence.seenAt(cabinet);
+    std::vector<cv::Mat> planes;
+    cv::split(seen, planes);
+    cv::Vec3f middle;
+    bool isDark = true;
+    for (int c = 0; c < 3; ++c) {
+        std::vector<float> values = planes[std::size_t(c)].reshape(1, 1).clone();
+        std::nth_element(values.begin(), values.begin() + std::ptrdiff_t(values.size() / 2), values.end());
+        middle[c] = values[values.size() / 2];
+        isDark = isDark && middle[c] < std::max(evidence.light.black[c] + 8,
+                                                Thresholds::mostDark * evidence.light.white[c]);
+    }
+    result.kind = isDark ? Kind::Dark : Kind::Flat;
+    result.expected = cv::Mat(seen.size(), CV_32FC3, cv::Scalar(middle[0], middle[1], middle[2]));
+    result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
+    return result;
+}
+
+/// Its own picture, brighter or darker by one factor.
+Explanation dimmed(const Evidence& evidence, std::size_t cabinet)
+{
+    Explanation result;
+    const cv::Mat seen = evidence.seenAt(cabinet);
+    const cv::Mat expected = evidence.expectedAt(cabinet);
+    result.kind = Kind::Brightness;
+    // A part of what it shows may be the room's light.
+    const cv::Scalar meanSeen = cv::mean(seen);
+    const cv::Scalar meanExpected = cv::mean(expected);
+    const cv::Mat flatExpected = expected - meanExpected;
+    const double spread = flatExpected.dot(flatExpected);
+    const double through = seen.dot(expected) / std::max(1.0, expected.dot(expected));
+    const double slope = spread > 1 ? (seen - meanSeen).dot(flatExpected) / spread : through;
+    result.factor = std::clamp(slope, 0.2, 3.0);
+    const double ambient = cv::sum(cv::Scalar(evidence.light.black))[0] / 3;
+    const double most = 5 + 1.5 * ambient * std::max(0.0, 1 - result.factor);
+    const double rest = std::clamp(cv::sum(meanSeen - meanExpected * result.factor)[0] / 3, -5.0, most);
+    result.expected = expected * result.factor + cv::Scalar::all(rest);
+    result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
+    return result;
+}
+
+/// Its own picture with a channel missing, or with two exchanged.
+std::vector<Explanation> recolored(const Evidence& evidence, std::size_t cabinet)
+{
+    const cv::Mat seen = evidence.seenAt(cabinet);
+    const cv::Mat expected = evidence.expectedAt(cabinet);
+    const cv::Scalar meanSeen = cv::mean(seen);
+    const cv::Scalar meanExpected = cv::mean(expected);
+    std::vector<Explanation> all;
+    for (int missing = 0; missing < 3; ++missing) {
+        std::vector<cv::Mat> planes;
+        cv::split(expected, planes);
+        const double black = double(evidence.light.black[missing]);
+        const double should = meanExpected[missing] - black;
+        if (should < Thresholds::leastOfChannel * double(evidence.light.white[missing]) ||
+            meanSeen[missing] - black > Thresholds::mostMissing * should)
+            continue;
+        planes[std::size_t(missing)].setTo(meanSeen[missing]);
+        Explanation result;
+        result.kind = Kind::Color;
+        cv::merge(planes, result.expected);
+        result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
+        all.push_back(result);
+    }
+    const std::vector<std::array<int, 3>> orders = {{0, 2, 1}, {1, 0, 2}, {2, 1, 0}, {1, 2, 0}, {2, 0, 1}};
+    for (const auto& order : orders) {
+        std::vector<cv::Mat> planes;
+        cv::split(expected, planes);
+        Explanation result;
+        result.kind = Kind::Color;
+        cv::merge(std::vector<cv::Mat>{planes[std::size_t(order[0])], planes[std::size_t(order[1])],
+                                       planes[std::size_t(order[2])]},
+                  result.expected);
+        result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
+        all.push_back(result);
+    }
+    return all;
+}
+
+cv::Mat greyOfFloats(const cv::Mat& rgb)
+{
+    cv::Mat grey;
+    cv::cvtColor(rgb, grey, cv::COLOR_RGB2GRAY);
+    return grey;
+}
+
+/// The parts of the seen and of the expected cabinet that show the same after a move.
+struct Overlap
+{
+    cv::Rect seen;
+    cv::Rect expected;
+};
+
+Overlap overlapOf(const cv::Size& size, const cv::Point& by)
+{
+    const cv::Rect all({}, size);
+    const cv::Rect seen = (all + by) & all;
+    return {seen, seen - by};
+}
+
+double correlation(const cv::Mat& a, const cv::Mat& b)
+{
+    cv::Scalar meanA;
+    cv::Scalar meanB;
+    cv::Scalar spreadA;
+    cv::Scalar spreadB;
+    cv::meanStdDev(a, meanA, spreadA);
+    cv::meanStdDev(b, meanB, spreadB);
+    if (spreadA[0] < 0.7 || spreadB[0] < 0.7)
+        return 0;
+    const double product = a.dot(b) / double(a.total()) - meanA[0] * meanB[0];
+    return product / (spreadA[0] * spreadB[0]);
+}
+
+struct Shifted
+{
+    cv::Point by;
+    double alike = 0;
+};
+
+Shifted bestShift(const cv::Mat& seen, const cv::Mat& expected, const cv::Rect& moves,
+                  double* second = nullptr)
+{
+    std::vector<Shifted> all;
+    for (int y = moves.y; y < moves.y + moves.height; ++y) {
+        for (int x = moves.x; x < moves.x + moves.width; ++x) {
+            const Overlap overlap = overlapOf(seen.size(), {x, y});
+            all.push_back({{x, y}, correlation(seen(overlap.seen), expected(overlap.expected))});
+        }
+    }
+    Shifted best;
+    for (const Shifted& shifted : all) {
+        if (shifted.alike > best.alike)
+            best = shifted;
+    }
+    if (second) {
+        *second = 0;
+        for (const Shifted& shifted : all) {
+            if (std::max(std::abs(shifted.by.x - best.by.x), std::abs(shifted.by.y - best.by.y)) > 3)
+                *second = std::max(*second, shifted.alike);
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t cabinet,
+                                        const std::vector<Content>& nearest, double clearlyRight)
+{
+    std::vector<Explanation> all = {own(evidence, cabinet)};
+    for (const Content& content : nearest) {
+        if (content.cabinet != int(cabinet) || !content.orientation.isStraight())
+            all.push_back(shows(evidence, cabinet, content));
+    }
+    if (all.front().cost < clearlyRight)
+        return all;
+    all.push_back(oneColor(evidence, cabinet));
+    all.push_back(dimmed(evidence, cabinet));
+    const std::vector<Explanation> colors = recolored(evidence, cabinet);
+    all.insert(all.end(), colors.begin(), colors.end());
+    return all;
+}
+
+std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet)
+{
+    const cv::Mat seen = evidence.seenAt(cabinet);
+    const cv::Mat expected = evidence.expectedAt(cabinet);
+    const cv::Mat seenGrey = greyOfFloats(seen);
+    const cv::Mat expectedGrey = greyOfFloats(expected);
+    const int smaller = std::min(seen.cols, seen.rows);
+    const double factor = std::min(1.0, 44.0 / smaller);
+    cv::Mat coarseSeen;
+    cv::Mat coarseExpected;
+    cv::resize(seenGrey, coarseSeen, {}, factor, factor, cv::INTER_AREA);
+    cv::resize(expectedGrey, coarseExpected, {}, factor, factor, cv::INTER_AREA);
+    const int reach = int(Thresholds::mostShift * smaller * factor);
+    double second = 0;
+    const Shifted coarse =
+        bestShift(coarseSeen, coarseExpected, {-reach, -reach, 2 * reach + 1, 2 * reach + 1}, &second);
+    if (coarse.alike < Thresholds::shiftedAlike - 0.1 || second > coarse.alike - 0.05)
+        return std::nullopt;
+    const cv::Point at(cvRound(coarse.by.x / factor), cvRound(coarse.by.y / factor));
+    const int near = int(std::ceil(1 / factor)) + 1;
+    const Shifted fine =
+        bestShift(seenGrey, expectedGrey, {at.x - near, at.y - near, 2 * near + 1, 2 * near + 1});
+    const Overlap overlap = overlapOf(seen.size(), fine.by);
+    Explanation result;
+    result.kind = Kind::Shifted;
+    result.shift = cv::Point2d(fine.by) / evidence.scale;
+    if (fine.alike < Thresholds::shiftedAlike || cv::norm(result.shift) < Thresholds::leastShift)
+        return std::nullopt;
+    result.part = overlap.seen;
+    result.expected = expected(overlap.expected);
+    result.cost = costOf(evidence, overlap.seen + evidence.rects[cabinet].tl(), result.expected);
+    return result;
+}
+
+} // namespace WallReading

@@ -1,0 +1,291 @@
+#include "placesearch.h"
+
+#include "cvimages.h"
+#include "placefeatures.h"
+#include "placeoutlines.h"
+#include "placerefinement.h"
+#include "placescore.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <cmath>
+
+namespace WallReading {
+
+namespace {
+
+constexpr int chartFeatureSide = 1400;
+constexpr int pictureFeatureSide = 1800;
+constexpr int mostFeatures = 4000;
+
+/// The mean correlation of a place that is surely the chart's, so that no other is looked for.
+constexpr double surelyThere = 0.6;
+
+/// The least that is taken at all: noise and other pictures come to 0.1 at most.
+constexpr double leastThere = 0.3;
+
+/// Standard errors by which a place has to beat the same place moved or turned.
+constexpr double leastLead = 4;
+
+/// Pixels of a cabinet in the coarse view: labels can be told apart there.
+constexpr int coarseCabinet = 44;
+
+struct Candidate
+{
+    Lens lens;
+    PlaceScore score;
+    bool isMirrored = false;
+    bool isCapture = false;
+};
+
+class Search
+{
+public:
+    Search(const cv::Mat& chart, const ChartComparison::CabinetGrid& grid, const cv::Mat& picture,
+           const Deadline& deadline)
+        : m_chart(chart)
+        , m_grid(grid)
+        , m_picture(greyOf(picture))
+        , m_deadline(deadline)
+        , m_coarse(viewOf(chart, coarseSide()))
+        , m_scorer(m_coarse, int(0.45 * cabinetSide(grid) * m_coarse.scale))
+    {
+    }
+
+    FoundPlace run()
+    {
+        proposeCaptures();
+        if (!isSure())
+            proposeFeatures(false);
+        if (!isSure() && !m_deadline.isOver())
+            proposeOutlines();
+        if (!isSure() && !m_deadline.isOver())
+            proposeFeatures(true);
+        return result();
+    }
+
+private:
+    int coarseSide() const
+    {
+        const double scale = double(coarseCabinet) / cabinetSide(m_grid);
+        return std::clamp(int(scale * std::max(m_chart.cols, m_chart.rows)), 480, 1280);
+    }
+
+    bool isSure() const { return m_best.score.mean > surelyThere; }
+
+    /// The picture, reduced so that the view takes about each of its pixels.
+    const cv::Mat& pictureFor(const ChartView& view, Lens& lens)
+    {
+        const cv::Point2d middle(view.chart.width / 2.0, view.chart.height / 2.0);
+        const double factor = std::min(1.0, 1.4 * view.scale / std::max(1e-3, scaleAt(lens, middle)));
+        if (std::abs(factor - m_reducedBy) > 0.05 * factor) {
+            m_reduced = reduced(m_picture, factor);
+            m_reducedBy = double(m_reduced.cols) / m_picture.cols;
+        }
+        lens = scaled(lens, m_reduced.size());
+        return m_reduced;
+    }
+
+    static Lens scaled(const Lens& lens, const cv::Size& to)
+    {
+        const double factor = to.width / (2 * lens.middle.x);
+        Lens result = after(lens, cv::Matx33d::eye());
+        result.homography = cv::Matx33d(factor, 0, 0, 0, factor, 0, 0, 0, 1) * lens.homography;
+        result.middle = {to.width / 2.0, to.height / 2.0};
+        result.reach = std::hypot(result.middle.x, result.middle.y);
+        return result;
+    }
+
+    Lens refine(const ChartView& view, Lens lens, int search, int rounds)
+    {
+        const cv::Mat& picture = pictureFor(view, lens);
+        const Refinement better = refined(view, picture, lens, search, rounds);
+        return scaled(better.lens, m_picture.size());
+    }
+
+    PlaceScore score(Lens lens)
+    {
+        const cv::Mat& picture = pictureFor(m_coarse, lens);
+        return m_scorer.score(picture, lens);
+    }
+
+    void propose(const Lens& start, int search, bool isCapture = false)
+    {
+        Candidate candidate;
+        candidate.lens = refine(m_coarse, start, search, 3);
+        if (!isSensible(candidate.lens, m_chart.size()))
+            candidate.lens = start;
+        candidate.score = score(candidate.lens);
+        candidate.isCapture = isCapture;
+        take(candidate);
+    }
+
+    void take(const Candidate& candidate)
+    {
+        if (candidate.score.mean > m_best.score.mean)
+            m_best = candidate;
+    }
+
+    void proposeCaptures()
+    {
+        const double shape = double(m_picture.cols) / m_picture.rows * m_chart.rows / m_chart.cols;
+        if (shape < 0.8 || shape > 1.25)
+            return;
+        const Lens straight = filling(m_picture.size(), m_chart.size());
+        propose(straight, 10, true);
+        if (!isSure())
+            propose(after(straight, halfTurn()), 10, true);
+        for (const Lens& lens : {straight, after(straight, halfTurn())}) {
+            if (!isSure())
+                proposeMirrored(lens);
+        }
+    }
+
+    void proposeFeatures(bool isMirrored)
+    {
+        const double chartScale =
+            std::min(1.0, double(chartFeatureSide) / std::max(m_chart.cols, m_chart.rows));
+        cv::Mat chart = reduced(greyOf(m_chart), chartScale);
+        if (isMirrored)
+            cv::flip(chart, chart, 1);
+        const double pictureScale =
+            std::min(1.0, double(pictureFeatureSide) / std::max(m_picture.cols, m_picture.rows));
+        if (m_pictureFeatures.points.empty())
+            m_pictureFeatures = featuresOf(reduced(m_picture, pictureScale), mostFeatures);
+        const Features features = featuresOf(chart, mostFeatures);
+        const std::vector<Lens> lenses = proposedByFeatures(features, m_pictureFeatures, chartScale,
+                                                            pictureScale, m_chart.size(), m_picture.size());
+        for (const Lens& lens : lenses) {
+            if (isMirrored)
+                proposeMirrored(lens);
+            else
+                propose(lens, 6);
+        }
+        if (!isMirrored)
+            climb();
+    }
+
+    /// Scores the lens with the mirrored chart, as it was found.
+    void proposeMirrored(const Lens& lens)
+    {
+        Candidate candidate;
+        candidate.lens = after(lens, {-1, 0, double(m_chart.cols), 0, 1, 0, 0, 0, 1});
+        candidate.lens = refine(m_coarse, candidate.lens, 6, 3);
+        candidate.score = score(candidate.lens);
+        candidate.isMirrored = true;
+        take(candidate);
+    }
+
+    void proposeOutlines()
+    {
+        for (const Lens& lens : proposedByOutlines(m_picture, m_chart.size())) {
+            for (int turn = 0; turn < 4; turn += 2) {
+                propose(turn == 0 ? lens : after(lens, halfTurn()), 12);
+                if (isSure() || m_deadline.isOver())
+                    return;
+            }
+        }
+        climb();
+    }
+
+    cv::Matx33d halfTurn() const
+    {
+        return {-1, 0, double(m_chart.cols), 0, -1, double(m_chart.rows), 0, 0, 1};
+    }
+
+    cv::Matx33d movedBy(int rows, int columns) const
+    {
+        const double width = double(m_chart.cols) / m_grid.columns;
+        const double height = double(m_chart.rows) / (double(m_grid.cabinets.size()) / m_grid.columns);
+        return {1, 0, columns * width, 0, 1, rows * height, 0, 0, 1};
+    }
+
+    /// Where the best place is off by whole cabinets, its neighbours are better.
+    void climb()
+    {
+        for (int round = 0; round < 4 && m_best.score.mean > 0.1; ++round) {
+            const Candidate start = m_best;
+            forNeighbours([this, &start](const cv::Matx33d& change, const Place&) {
+                Candidate moved = start;
+                moved.lens = after(start.lens, change);
+                moved.score = score(moved.lens);
+                take(moved);
+            });
+            if (m_best.score.mean <= start.score.mean)
+                break;
+            m_best.lens = refine(m_coarse, m_best.lens, 4, 2);
+            m_best.score = score(m_best.lens);
+        }
+    }
+
+    template <typename Each>
+    void forNeighbours(Each each)
+    {
+        for (int rows = -2; rows <= 2; ++rows) {
+            for (int columns = -2; columns <= 2; ++columns) {
+                if (rows != 0 || columns != 0)
+                    each(movedBy(rows, columns), Place{rows, columns});
+            }
+        }
+    }
+
+    FoundPlace result()
+    {
+        FoundPlace found;
+        if (m_best.score.mean < leastThere)
+            return found;
+        m_best.lens = refine(viewOf(m_chart, 1920), m_best.lens, 4, 3);
+        m_best.score = score(m_best.lens);
+        found.lens = m_best.lens;
+        found.score = m_best.score.mean;
+        found.isMirrored = m_best.isMirrored;
+        found.isCapture = m_best.isCapture;
+        found.doubt = Doubt::None;
+        found.isFound = m_best.score.mean >= leastThere;
+        if (!found.isFound)
+            found.doubt = Doubt::NotFound;
+        else
+            compareWithNeighbours(found);
+        return found;
+    }
+
+    void compareWithNeighbours(FoundPlace& found)
+    {
+        const auto compare = [&](const cv::Matx33d& change, const Place& by) {
+            const double lead = betterBy(m_best.score, score(after(m_best.lens, change)));
+            if (lead < leastLead && found.doubt == Doubt::None) {
+                found.doubt = Doubt::AlikeWhenMoved;
+                found.alike = by;
+            }
+        };
+        forNeighbours(compare);
+        compare(halfTurn(), {});
+    }
+
+    const cv::Mat& m_chart;
+    const ChartComparison::CabinetGrid& m_grid;
+    cv::Mat m_picture;
+    const Deadline& m_deadline;
+    ChartView m_coarse;
+    PlaceScorer m_scorer;
+    cv::Mat m_reduced;
+    double m_reducedBy = 0;
+    Features m_pictureFeatures;
+    Candidate m_best;
+};
+
+} // namespace
+
+double Deadline::seconds() const
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count();
+}
+
+FoundPlace placeOf(const cv::Mat& chart, const ChartComparison::CabinetGrid& grid, const cv::Mat& picture,
+                   const Deadline& deadline)
+{
+    return Search(chart, grid, picture, deadline).run();
+}
+
+} // namespace WallReading

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "chartview.h"
+#include "lens.h"
+#include "wallreading.h"
+
+#include <chrono>
+
+namespace WallReading {
+
+/// When a reading has to come to an end.
+class Deadline
+{
+public:
+    bool isOver() const { return seconds() > mostSeconds; }
+    double seconds() const;
+
+private:
+    static constexpr double mostSeconds = 16; ///< with what is left to do then it stays below 20
+    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+};
+
+/// Where the chart is in the picture.
+struct FoundPlace
+{
+    bool isFound = false;
+    Lens lens;
+    double score = 0;
+    Doubt doubt = Doubt::NotFound;
+    Place alike;
+    bool isMirrored = false; ///< the whole chart
+    bool isCapture = false;  ///< the chart fills the picture
+};
+
+FoundPlace placeOf(const cv::Mat& chart, const ChartComparison::CabinetGrid& grid, const cv::Mat& picture,
+                   const Deadline& deadline);
+
+} // namespace WallReading
