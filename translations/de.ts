@@ -140,6 +140,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>Ctrl and wheel, plus and minus zoom; 0 shows all, 1 pixel for pixel; drags and arrow keys move</source>
+        <translation>Strg und Rad, Plus und Minus zoomen; 0 zeigt alles, 1 jedes Pixel; Ziehen und Pfeiltasten verschieben</translation>
+    </message>
+    <message>
         <source>Custom text</source>
         <translation>Eigener Text</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Even</source>
         <translation>Feld B</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ganz</translation>
     </message>
     <message>
         <source>From up to down increase Frome left to right increase</source>
@@ -288,6 +296,10 @@
         <translation>Position des Logos</translation>
     </message>
     <message>
+        <source>Preview of the chart</source>
+        <translation>Vorschau des Testbilds</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>Vorige Farbe</translation>
     </message>
@@ -376,6 +388,10 @@
         <translation>Größe</translation>
     </message>
     <message>
+        <source>Show pixel for pixel</source>
+        <translation>Pixelgenau zeigen</translation>
+    </message>
+    <message>
         <source>Show the border</source>
         <translation>Rahmen zeigen</translation>
     </message>
@@ -402,6 +418,10 @@
     <message>
         <source>Show the logo</source>
         <translation>Logo zeigen</translation>
+    </message>
+    <message>
+        <source>Show the whole chart</source>
+        <translation>Ganzes Testbild zeigen</translation>
     </message>
     <message>
         <source>Sideways shift of the logo in pixels</source>
@@ -488,6 +508,22 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>Offen halten</translation>
+    </message>
+    <message>
         <source>from down to up increase frome left to right decrease</source>
         <translation>Nach oben, nach links</translation>
     </message>
@@ -498,6 +534,10 @@
     <message>
         <source>from up to down increase frome left to right decrease</source>
         <translation>Nach unten, nach links</translation>
+    </message>
+    <message>
+        <source>small</source>
+        <translation>Minimieren</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,10 @@
         <translation>Confirm</translation>
     </message>
     <message>
+        <source>Ctrl and wheel, plus and minus zoom; 0 shows all, 1 pixel for pixel; drags and arrow keys move</source>
+        <translation>Ctrl and wheel, plus and minus zoom; 0 shows all, 1 pixel for pixel; drags and arrow keys move</translation>
+    </message>
+    <message>
         <source>Custom text</source>
         <translation>Custom text</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Even</source>
         <translation>Even</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Fit</translation>
     </message>
     <message>
         <source>From up to down increase Frome left to right increase</source>
@@ -288,6 +296,10 @@
         <translation>Position of the logo</translation>
     </message>
     <message>
+        <source>Preview of the chart</source>
+        <translation>Preview of the chart</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>Previous color</translation>
     </message>
@@ -376,6 +388,10 @@
         <translation>Size</translation>
     </message>
     <message>
+        <source>Show pixel for pixel</source>
+        <translation>Show pixel for pixel</translation>
+    </message>
+    <message>
         <source>Show the border</source>
         <translation>Show the border</translation>
     </message>
@@ -402,6 +418,10 @@
     <message>
         <source>Show the logo</source>
         <translation>Show the logo</translation>
+    </message>
+    <message>
+        <source>Show the whole chart</source>
+        <translation>Show the whole chart</translation>
     </message>
     <message>
         <source>Sideways shift of the logo in pixels</source>
@@ -488,6 +508,22 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>Keep open</translation>
+    </message>
+    <message>
         <source>from down to up increase frome left to right decrease</source>
         <translation>Rows up, columns left</translation>
     </message>
@@ -498,6 +534,10 @@
     <message>
         <source>from up to down increase frome left to right decrease</source>
         <translation>Rows down, columns left</translation>
+    </message>
+    <message>
+        <source>small</source>
+        <translation>Minimize</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,10 @@
         <translation>Aceptar</translation>
     </message>
     <message>
+        <source>Ctrl and wheel, plus and minus zoom; 0 shows all, 1 pixel for pixel; drags and arrow keys move</source>
+        <translation>Ctrl y la rueda, más y menos amplían y reducen; 0 muestra todo, 1 píxel a píxel; arrastrar y las flechas mueven</translation>
+    </message>
+    <message>
         <source>Custom text</source>
         <translation>Texto propio</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Even</source>
         <translation>Par</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>From up to down increase Frome left to right increase</source>
@@ -288,6 +296,10 @@
         <translation>Posición del logo</translation>
     </message>
     <message>
+        <source>Preview of the chart</source>
+        <translation>Vista previa de la carta</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>Color anterior</translation>
     </message>
@@ -376,6 +388,10 @@
         <translation>Tamaño</translation>
     </message>
     <message>
+        <source>Show pixel for pixel</source>
+        <translation>Mostrar píxel a píxel</translation>
+    </message>
+    <message>
         <source>Show the border</source>
         <translation>Mostrar el borde</translation>
     </message>
@@ -402,6 +418,10 @@
     <message>
         <source>Show the logo</source>
         <translation>Mostrar el logo</translation>
+    </message>
+    <message>
+        <source>Show the whole chart</source>
+        <translation>Mostrar la carta completa</translation>
     </message>
     <message>
         <source>Sideways shift of the logo in pixels</source>
@@ -488,6 +508,22 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>Mantener abierto</translation>
+    </message>
+    <message>
         <source>from down to up increase frome left to right decrease</source>
         <translation>Hacia arriba, a la izquierda</translation>
     </message>
@@ -498,6 +534,10 @@
     <message>
         <source>from up to down increase frome left to right decrease</source>
         <translation>Hacia abajo, a la izquierda</translation>
+    </message>
+    <message>
+        <source>small</source>
+        <translation>Minimizar</translation>
     </message>
 </context>
 <context>

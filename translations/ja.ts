@@ -140,6 +140,10 @@
         <translation>決定</translation>
     </message>
     <message>
+        <source>Ctrl and wheel, plus and minus zoom; 0 shows all, 1 pixel for pixel; drags and arrow keys move</source>
+        <translation>Ctrl+ホイール、＋と－で拡大縮小、0 で全体、1 で等倍、ドラッグと矢印キーで移動</translation>
+    </message>
+    <message>
         <source>Custom text</source>
         <translation>任意テキスト</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Even</source>
         <translation>偶数</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>全体</translation>
     </message>
     <message>
         <source>From up to down increase Frome left to right increase</source>
@@ -288,6 +296,10 @@
         <translation>ロゴの位置</translation>
     </message>
     <message>
+        <source>Preview of the chart</source>
+        <translation>チャートのプレビュー</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>前の色</translation>
     </message>
@@ -376,6 +388,10 @@
         <translation>サイズ</translation>
     </message>
     <message>
+        <source>Show pixel for pixel</source>
+        <translation>ピクセル等倍で表示</translation>
+    </message>
+    <message>
         <source>Show the border</source>
         <translation>外枠を表示</translation>
     </message>
@@ -402,6 +418,10 @@
     <message>
         <source>Show the logo</source>
         <translation>ロゴを表示</translation>
+    </message>
+    <message>
+        <source>Show the whole chart</source>
+        <translation>チャート全体を表示</translation>
     </message>
     <message>
         <source>Sideways shift of the logo in pixels</source>
@@ -488,6 +508,22 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>開いたままにする</translation>
+    </message>
+    <message>
         <source>from down to up increase frome left to right decrease</source>
         <translation>下から上、右から左</translation>
     </message>
@@ -498,6 +534,10 @@
     <message>
         <source>from up to down increase frome left to right decrease</source>
         <translation>上から下、右から左</translation>
+    </message>
+    <message>
+        <source>small</source>
+        <translation>最小化</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,10 @@
         <translation>确定</translation>
     </message>
     <message>
+        <source>Ctrl and wheel, plus and minus zoom; 0 shows all, 1 pixel for pixel; drags and arrow keys move</source>
+        <translation>Ctrl 加滚轮、加号和减号缩放；0 显示全部，1 逐像素；拖动和方向键移动</translation>
+    </message>
+    <message>
         <source>Custom text</source>
         <translation>自定义文字</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Even</source>
         <translation>偶数</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适应</translation>
     </message>
     <message>
         <source>From up to down increase Frome left to right increase</source>
@@ -288,6 +296,10 @@
         <translation>标志的位置</translation>
     </message>
     <message>
+        <source>Preview of the chart</source>
+        <translation>测试图预览</translation>
+    </message>
+    <message>
         <source>Previous color</source>
         <translation>上一个颜色</translation>
     </message>
@@ -376,6 +388,10 @@
         <translation>显示大小</translation>
     </message>
     <message>
+        <source>Show pixel for pixel</source>
+        <translation>逐像素显示</translation>
+    </message>
+    <message>
         <source>Show the border</source>
         <translation>显示边框</translation>
     </message>
@@ -402,6 +418,10 @@
     <message>
         <source>Show the logo</source>
         <translation>显示标志</translation>
+    </message>
+    <message>
+        <source>Show the whole chart</source>
+        <translation>显示整张测试图</translation>
     </message>
     <message>
         <source>Sideways shift of the logo in pixels</source>
@@ -488,6 +508,22 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>fixed</source>
+        <translation>保持打开</translation>
+    </message>
+    <message>
         <source>from down to up increase frome left to right decrease</source>
         <translation>行从下到上，列从右到左</translation>
     </message>
@@ -498,6 +534,10 @@
     <message>
         <source>from up to down increase frome left to right decrease</source>
         <translation>行从上到下，列从右到左</translation>
+    </message>
+    <message>
+        <source>small</source>
+        <translation>最小化</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace vardeno::testcharttools {
 
 namespace {
@@ -56,6 +58,15 @@ void PropertyBox::setTitleText(const QString& text)
 QString PropertyBox::titleText() const
 {
     return m_title ? m_title->text() : QString();
+}
+
+void PropertyBox::setTitleFits(bool fits)
+{
+    if (!m_title)
+        return;
+    m_title->ensurePolished();
+    const int needed = m_title->fontMetrics().height() + 8;
+    m_title->setFixedHeight(fits ? std::max(needed, titleHeight) : titleHeight);
 }
 
 QWidget* PropertyBox::addItem(const QString& name, QLayout* layout, int height)

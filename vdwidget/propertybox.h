@@ -28,6 +28,10 @@ public:
     void setTitleText(const QString& text);
     QString titleText() const;
 
+    /// Whether the title bar is as high as its text needs, but not less than usual; to be told again when the
+    /// font has changed. At first it has the usual height, 28 pixels.
+    void setTitleFits(bool fits);
+
     /// Appends an item that shows `layout` (taken over) and is `height` pixels high, and returns it. Its
     /// object name is `name`.
     QWidget* addItem(const QString& name, QLayout* layout, int height);

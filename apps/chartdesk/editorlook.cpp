@@ -40,6 +40,9 @@ EditorLook::EditorLook(VTestChartTools* editor)
     editor->setLiveSliders(true);
     editor->setCalmLock(true);
     editor->setTypingGoesOn(true);
+    editor->setUndoKeys(true);
+    editor->setFollowsHost(true);
+    editor->setZoomablePreview(true);
     editor->findChild<BasicSettingBox*>()->setQuietWhenEmpty(true);
     arrangeButtons(editor->findChild<QWidget*>(QStringLiteral("saveWidget")));
     QApplication::instance()->installEventFilter(this); // the question has no parent

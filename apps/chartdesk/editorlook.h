@@ -8,7 +8,8 @@ class VTestChartTools;
 
 /// What this host wants otherwise than the editor has it: Confirm is always the last of its buttons, the only
 /// blue one, the question before a colour is deleted stays in the window and off its button and is not asked
-/// of an empty list, the wheel turns a field only with the focus, sliders are live, and the lock is calm.
+/// of an empty list, the wheel turns a field only with the focus, sliders are live, the lock is calm, and
+/// keys undo.
 class EditorLook : public QObject
 {
     Q_OBJECT

@@ -126,7 +126,7 @@ void EditSession::fitToWall()
     fitted.basicData = record.basicData;
     if (ChartRecordFile::toJson(fitted) == ChartRecordFile::toJson(record))
         return;
-    show(fitted);
+    m_editor->amendRecord(fitted);
     m_fresh = m_editor->getTestChartToolsData();
 }
 
@@ -362,7 +362,7 @@ void EditSession::takePictureIn()
     if (!QFile::copy(picture, copy))
         return;
     record.logoData.picturePath = copy.toStdString();
-    show(record);
+    m_editor->amendRecord(record);
 }
 
 /// Where the record's picture is to lie in the chart's folder, empty for one that is built in or missing.

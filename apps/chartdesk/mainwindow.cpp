@@ -39,7 +39,8 @@ enum Page
     EditorPage
 };
 
-constexpr int margin = 15; ///< around the editor
+constexpr int margin = 15;             ///< around the editor
+constexpr QSize editorSize(1610, 803); ///< with which its window begins
 
 void giveLook(const QAbstractScrollArea* area, const QString& sheet)
 {
@@ -174,6 +175,7 @@ QWidget* MainWindow::createEditorPage()
     m_editor = new VTestChartTools(scroll);
     tellRefusedLogos(m_editor);
     scroll->setWidget(m_editor);
+    scroll->setWidgetResizable(true); // the editor follows
     m_session = new EditSession(m_editor, this);
     new EditorLook(m_editor);
     giveLook(scroll, m_editor->styleSheet());
@@ -185,7 +187,7 @@ QWidget* MainWindow::createEditorPage()
 void MainWindow::fitToEditor()
 {
     const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
-    const QSize wanted = m_editor->size() + QSize(2 * margin, 2 * margin + bars);
+    const QSize wanted = editorSize + QSize(2 * margin, 2 * margin + bars);
     const QSize room = screen()->availableSize();
     resize(wanted.boundedTo(room));
     if (wanted.boundedTo(room) != wanted)

@@ -403,6 +403,7 @@ private Q_SLOTS:
         QWidget window;
         QWidget page(&window); // with both, the tool has its colour dialog
         VTestChartTools tool(&page);
+        tool.setZoomablePreview(true); // which has texts of its own
         QTemporaryDir charts;
         QFile empty(charts.filePath(QStringLiteral("la.ts")));
         QVERIFY(empty.open(QIODevice::WriteOnly));

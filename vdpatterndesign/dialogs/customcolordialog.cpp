@@ -2,6 +2,7 @@
 
 #include "dialogs/userscolors.h"
 #include "support/translation.h"
+#include "titlewidget.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -99,6 +100,7 @@ void CustomColorDialog::retranslate()
 {
     relabel<QLabel>(m_dialog, labels);
     relabel<QPushButton>(m_dialog, buttons);
+    titleBar()->retranslate();
 }
 
 void CustomColorDialog::setVisible(bool visible)

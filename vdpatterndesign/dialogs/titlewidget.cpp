@@ -1,5 +1,6 @@
 #include "titlewidget.h"
 
+#include "support/translation.h"
 #include "theme/resources.h"
 
 #include <QFrame>
@@ -61,11 +62,23 @@ QPushButton* TitleWidget::createButton(const char* objectName, const QString& hi
     auto* button = new QPushButton(this);
     button->setObjectName(QLatin1String(objectName));
     button->setToolTip(hint);
+    button->setAccessibleName(hint);
     button->setFixedSize(20, 20);
     button->setFlat(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setIcon(QIcon(QStringLiteral(":/resources/images/%1.png").arg(picture)));
     return button;
+}
+
+void TitleWidget::retranslate()
+{
+    const auto name = [](QPushButton* button, const QString& text) {
+        button->setToolTip(text);
+        button->setAccessibleName(text);
+    };
+    name(m_minimise, translated(QStringLiteral("small")));
+    name(m_lock, translated(QStringLiteral("fixed")));
+    name(m_close, translated(QStringLiteral("close")));
 }
 
 void TitleWidget::setTitle(const QString& text)

@@ -20,6 +20,8 @@ public:
     explicit TitleWidget(QWidget* parent = nullptr);
 
     void setTitle(const QString& text);
+    /// Shows what the buttons do in the current language.
+    void retranslate();
     bool isLocked() const;
     /// Shows the lock as `locked`, and tells nobody.
     void setLocked(bool locked);

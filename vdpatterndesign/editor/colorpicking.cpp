@@ -7,6 +7,7 @@
 
 #include <QPointer>
 #include <QPushButton>
+#include <QVariant>
 
 namespace vardeno::testcharttools {
 

@@ -1,7 +1,11 @@
 #include "editor/editbuttons.h"
 
+#include "panels/contentsize.h"
+
 #include <QHBoxLayout>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace vardeno::testcharttools {
 
@@ -31,7 +35,7 @@ EditButtons::EditButtons(QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(9, 0, 9, 0);
     row->addStretch();
-    for (QPushButton* button : {m_cancel, m_addConfirm, m_replaceConfirm, m_replaceApply})
+    for (QPushButton* button : ofEdit())
         row->addWidget(button, 0, Qt::AlignVCenter);
 }
 
@@ -45,11 +49,90 @@ QPushButton* EditButtons::create(const char* objectName, const char* text, const
     return button;
 }
 
+std::array<QPushButton*, 4> EditButtons::ofEdit() const
+{
+    return {m_cancel, m_addConfirm, m_replaceConfirm, m_replaceApply};
+}
+
+void EditButtons::retranslate()
+{
+    m_captions.retranslate();
+    fit();
+}
+
+void EditButtons::setFollowsRoom(bool follows)
+{
+    m_followsRoom = follows;
+    setMinimumSize(follows ? QSize(0, barSize.height()) : barSize);
+    setMaximumSize(follows ? QSize(QWIDGETSIZE_MAX, barSize.height()) : barSize);
+    for (QPushButton* button : ofEdit()) {
+        button->setFixedSize(editButtonSize);
+        if (follows)
+            button->setFont(QFont()); // what the tool has
+        else
+            useFixedFont(button);
+    }
+    retranslate();
+}
+
+void EditButtons::fit()
+{
+    if (!m_followsRoom)
+        return;
+    int height = editButtonSize.height();
+    for (QPushButton* button : ofEdit()) {
+        const QSize size = contentSize(button).expandedTo(editButtonSize);
+        button->setFixedSize(size);
+        height = std::max(height, size.height());
+    }
+    m_captions.retranslate();
+    if (m_sideBar)
+        height = std::max(height, m_sideBar->sizeHint().height());
+    setFixedHeight(barSize.height() - editButtonSize.height() + height);
+    placeSideBar();
+}
+
+void EditButtons::setSideBar(QWidget* bar)
+{
+    m_sideBar = bar;
+    fit();
+    placeSideBar();
+}
+
+/// Beside the bar, not in it, where hosts find the buttons of the edit.
+void EditButtons::placeSideBar()
+{
+    if (!m_sideBar)
+        return;
+    layout()->activate();
+    int right = width();
+    for (const QPushButton* button : ofEdit()) {
+        if (!button->isHidden())
+            right = std::min(right, button->x());
+    }
+    const int left = layout()->contentsMargins().left();
+    m_sideBar->setGeometry(x() + left, y() + 1, right - 2 * left, height() - 1);
+    m_sideBar->raise();
+}
+
+void EditButtons::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    placeSideBar();
+}
+
+void EditButtons::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    placeSideBar();
+}
+
 void EditButtons::setShowForAdd(bool add)
 {
     m_addConfirm->setVisible(add);
     m_replaceConfirm->setVisible(!add);
     m_replaceApply->setVisible(!add);
+    placeSideBar();
 }
 
 void EditButtons::setFollowsState(bool follows)
@@ -79,7 +162,7 @@ void EditButtons::setLocked(bool locked)
         showState();
         return;
     }
-    for (QPushButton* button : {m_cancel, m_addConfirm, m_replaceConfirm, m_replaceApply})
+    for (QPushButton* button : ofEdit())
         button->setEnabled(!locked);
 }
 

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <array>
+
 class QPushButton;
 
 namespace vardeno::testcharttools {
@@ -26,7 +28,14 @@ public:
     QPushButton* replaceApply() const { return m_replaceApply; }
 
     void setShowForAdd(bool add);
-    void retranslate() { m_captions.retranslate(); }
+    void retranslate();
+    /// Whether the bar takes the width that it is given, and its captions are seen whole in the font of the
+    /// tool. At first it has its one size, and they have a font of one size.
+    void setFollowsRoom(bool follows);
+    /// Gives every caption its room, where it does.
+    void fit();
+    /// A sibling that stands over the left of the bar.
+    void setSideBar(QWidget* bar);
 
     bool followsState() const { return m_followsState; }
     void setFollowsState(bool follows);
@@ -39,9 +48,16 @@ public:
     void beginWriting();
     void endWriting(bool written);
 
+protected:
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QPushButton* create(const char* objectName, const char* text, const QSize& size);
     void showState();
+
+    std::array<QPushButton*, 4> ofEdit() const;
+    void placeSideBar();
 
     QPushButton* m_save;
     QPushButton* m_cancel;
@@ -49,6 +65,8 @@ private:
     QPushButton* m_replaceConfirm;
     QPushButton* m_replaceApply;
     CaptionSet m_captions;
+    QWidget* m_sideBar = nullptr;
+    bool m_followsRoom = false;
     bool m_followsState = false;
     bool m_unsaved = true;
     bool m_changedSinceWriting = false; ///< so that what is written then is not all

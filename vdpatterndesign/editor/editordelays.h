@@ -11,6 +11,7 @@ struct EditorDelays
     int snapshot = 100; ///< one snapshot for all that a change sets off
     int removal = 2000; ///< the host learns of the new chart before the old one goes
     int patience = 400; ///< of a calm lock: what takes longer is seen
+    int burst = 1000;   ///< changes of one field that follow in less are one step of the history
 };
 
 VDPATTERNDESIGN_EXPORT EditorDelays& editorDelays();

@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace vardeno::testcharttools {
 
 namespace {
@@ -54,6 +56,29 @@ void SettingsColumn::finish()
     m_mask->setAttribute(Qt::WA_StyledBackground);
     m_mask->hide();
     connect(verticalScrollBar(), &QScrollBar::valueChanged, m_mask, [this](int y) { m_mask->move(0, y); });
+}
+
+void SettingsColumn::setFollowsRoom(bool follows)
+{
+    m_followsRoom = follows;
+    setHorizontalScrollBarPolicy(follows ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setMinimumSize(follows ? QSize(columnSize.width(), 0) : columnSize);
+    setMaximumSize(follows ? QSize(columnSize.width(), QWIDGETSIZE_MAX) : columnSize);
+    if (!follows)
+        m_mask->setFixedSize(columnSize);
+}
+
+void SettingsColumn::setWidths(int content, int room)
+{
+    if (m_followsRoom)
+        setFixedWidth(std::min(content, room));
+}
+
+void SettingsColumn::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    if (m_followsRoom)
+        m_mask->setFixedSize(std::max(widget()->width(), width()), height());
 }
 
 } // namespace vardeno::testcharttools

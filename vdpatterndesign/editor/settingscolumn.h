@@ -20,10 +20,20 @@ public:
     /// No section follows: what is left of the column stays empty, and the mask is made.
     void finish();
 
+    /// Whether the column takes the height that it is given; its content is then seen whole, or scrolled to
+    /// where there is less room. At first it has its one size.
+    void setFollowsRoom(bool follows);
+    /// While it does: what its content is wide, and how wide it may be.
+    void setWidths(int content, int room);
+
     QWidget* mask() const { return m_mask; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QVBoxLayout* m_sections;
+    bool m_followsRoom = false;
     QWidget* m_mask = nullptr;
 };
 

@@ -13,6 +13,8 @@ class QPushButton;
 
 namespace vardeno::testcharttools {
 
+class ChartPreview;
+class EditHistory;
 class PaintPicLogoWidget;
 
 /// The test chart editor that a host embeds: the live chart on the left, the settings on the right, the edit
@@ -29,6 +31,9 @@ class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
     Q_PROPERTY(bool liveSliders READ liveSliders WRITE setLiveSliders)
     Q_PROPERTY(bool typingGoesOn READ typingGoesOn WRITE setTypingGoesOn)
     Q_PROPERTY(bool calmLock READ calmLock WRITE setCalmLock)
+    Q_PROPERTY(bool followsHost READ followsHost WRITE setFollowsHost)
+    Q_PROPERTY(bool zoomablePreview READ zoomablePreview WRITE setZoomablePreview)
+    Q_PROPERTY(bool undoKeys READ undoKeys WRITE setUndoKeys)
 
 public:
     explicit VTestChartTools(QWidget* parent = nullptr);
@@ -46,6 +51,18 @@ public:
     /// chart that is being added (`isShowForAdd()`) has its default colours here, too: a host that starts a
     /// new chart from a record of its own applies it first, and calls `setShowForAdd(true)` then.
     void applyRecord(const TestChartToolsData& record);
+
+    /// Shows `record`, with its own colour bar in any mode, as the outcome of the change that the user has
+    /// just made: for a host that completes changes. One `undo` takes back both.
+    void amendRecord(const TestChartToolsData& record);
+
+    /// Undo and redo of what the user changes, of this tool's life.
+    EditHistory* history() const;
+    /// Whether Ctrl+Z undoes and Ctrl+Shift+Z and Ctrl+Y redo wherever in the tool the focus is. In an entry
+    /// they then do so, too, and take back what is being typed. Off, at first, an entry's keys are its own.
+    /// Shortcuts of the host come first.
+    bool undoKeys() const;
+    void setUndoKeys(bool on);
 
     /// The composed chart in the size of its resolution, opaque, as it is saved.
     QImage chartImage();
@@ -97,6 +114,17 @@ public:
     /// with the others, and the keys that arrive meanwhile are its at the end.
     bool typingGoesOn() const;
     void setTypingGoesOn(bool goesOn);
+    /// Whether the tool takes the size that its host gives it, from 660 x 300 pixels on: the chart has the
+    /// room that the settings leave, and no caption or value of theirs is cut in whatever font. Off, at
+    /// first, it has its one size.
+    bool followsHost() const;
+    void setFollowsHost(bool follows);
+    /// Whether the preview zooms: see `ChartPreview`. The zoom, and what is under the pointer, then stand
+    /// below it. Off, at first, all of the chart is shown.
+    bool zoomablePreview() const;
+    void setZoomablePreview(bool zooms);
+    /// Where the chart is shown, of this tool's life.
+    ChartPreview* preview() const;
 
     /// The layer of the picture logo, of this tool's life: its `sigLogoRefused` tells why a picture that the
     /// user has chosen was not taken.

@@ -20,6 +20,9 @@ VDCHARTCORE_EXPORT QString label(const TestChartToolsData& record, int row, int 
 /// neighbours leave a gap of one pixel here and there. Empty outside the grid.
 VDCHARTCORE_EXPORT QRect rect(const TestChartToolsData& record, int row, int column);
 
+/// What the cabinet is labelled that holds `pixel` of the chart; empty between cabinets and outside.
+VDCHARTCORE_EXPORT QString labelAt(const TestChartToolsData& record, const QPoint& pixel);
+
 } // namespace ChartCabinets
 
 } // namespace vardeno::testcharttools

@@ -117,4 +117,18 @@ void showRecord(const TestChartToolsData& record, const LayerStack& layers)
     showGrid(record.publicData, *layers.find<PaintPublicWidget>());
 }
 
+void showGridRows(int rows, const LayerStack& layers)
+{
+    layers.find<PaintInLineWidget>()->setRows(ushort(rows));
+    layers.find<PaintSelfWidget>()->setRows(ushort(rows));
+    layers.find<PaintBasicWidget>()->setRows(ushort(rows));
+}
+
+void showGridColumns(int columns, const LayerStack& layers)
+{
+    layers.find<PaintInLineWidget>()->setColumns(ushort(columns));
+    layers.find<PaintSelfWidget>()->setColumns(ushort(columns));
+    layers.find<PaintBasicWidget>()->setColumns(ushort(columns));
+}
+
 } // namespace vardeno::testcharttools

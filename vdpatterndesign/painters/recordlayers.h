@@ -13,4 +13,8 @@ TestChartToolsData withChoices(TestChartToolsData record);
 /// colours and the logo's style are the panels' to show.
 void showRecord(const TestChartToolsData& record, const LayerStack& layers);
 
+/// The cabinets of the layers that take them from the shell.
+void showGridRows(int rows, const LayerStack& layers);
+void showGridColumns(int columns, const LayerStack& layers);
+
 } // namespace vardeno::testcharttools

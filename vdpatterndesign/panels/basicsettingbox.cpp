@@ -193,6 +193,7 @@ void BasicSettingBox::Impl::build(PanelControls& controls)
 
     pages = new QStackedWidget(owner);
     pages->setFixedWidth(410);
+    controls.addWide(pages);
     pages->addWidget(buildChessPage(controls));
     pages->addWidget(buildGradientPage(controls));
     pages->addWidget(buildColorBarPage(controls));
@@ -206,6 +207,7 @@ void BasicSettingBox::Impl::buildModeRow(QVBoxLayout* column, PanelControls& con
 {
     auto* caption = new QLabel(owner);
     caption->setFixedSize(modeCaption);
+    controls.addFirstCaption(caption, modeCaption);
     caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const QString captionEnd = QStringLiteral("  ");
     controls.captions.add(QStringLiteral("Mode selection"), [captionEnd, caption](const QString& text) {

@@ -135,6 +135,7 @@ void LogoSettingBox::Impl::build(PanelControls& controls)
     pictureRadio->setChecked(true);
     pages = new QStackedWidget(owner);
     pages->setFixedWidth(410);
+    controls.addWide(pages);
     pages->addWidget(buildPicturePage(controls));
     pages->addWidget(buildTextPage(controls));
     column->addWidget(pages);
@@ -172,12 +173,14 @@ QLayout* LogoSettingBox::Impl::buildHint(QWidget* page, PanelControls& controls)
 {
     auto* spacer = new QLabel(page);
     spacer->setFixedSize(88, 12);
+    controls.addFirstCaption(spacer, {88, 12});
     auto* icon = new QLabel(page);
     icon->setFixedSize(12, 12);
     icon->setPixmap(QPixmap(QStringLiteral(":/resources/images/suggest.png")));
     auto* hint = new QLabel(page);
     hint->setObjectName(QStringLiteral("_suggestLabel"));
     hint->setFixedWidth(200);
+    controls.addSized(hint, {200, -1});
     hint->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     controls.captions.add(hint, QStringLiteral("SuggestTransparentbackgroundrecommended"));
     auto* row = new QHBoxLayout;

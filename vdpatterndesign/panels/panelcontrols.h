@@ -3,6 +3,7 @@
 #include "controls/caption.h"
 
 #include <QObject>
+#include <QSize>
 
 #include <functional>
 #include <vector>
@@ -32,6 +33,24 @@ public:
     void setWheelScrolls(bool scrolls);
     bool wheelScrolls() const { return m_wheelScrolls; }
 
+    /// Where the panel fits its content: `widget`, of the size `usual`, becomes as large as its text needs. A
+    /// height below 0 is the widget's own.
+    void addSized(QWidget* widget, const QSize& usual);
+    /// The same for what the column of first captions consists of, which all are equally wide.
+    void addFirstCaption(QWidget* widget, const QSize& usual);
+    /// A part of the panel that is as wide as the panel.
+    void addWide(QWidget* part);
+
+    /// How much wider than usual the first captions need to be.
+    int neededCaptionGrowth() const;
+    /// Gives everything the size that it needs, the first captions so much more than the usual one. The parts
+    /// are as wide as they like.
+    void fit(int captionGrowth);
+    /// Gives everything its usual size.
+    void unfit();
+    bool fits() const { return m_fits; }
+    void setWidth(int width) const;
+
     CaptionSet captions;
     CaptionSet hints; ///< what each field is
 
@@ -45,8 +64,18 @@ private:
         Allowed allowed;
         Qt::FocusPolicy ownFocusPolicy;
     };
+    struct Sized
+    {
+        QWidget* widget;
+        QSize usual;
+        bool isFirstCaption;
+    };
+
     std::vector<Control> m_controls;
     const QWidget* m_spared = nullptr;
+    std::vector<Sized> m_sized;
+    std::vector<QWidget*> m_wide;
+    bool m_fits = false;
     bool m_locked = false;
     bool m_wheelScrolls = false;
 };

@@ -82,6 +82,7 @@ void SelfSettingBox::Impl::buildRows(PanelControls& controls)
         QStringLiteral("QWidget#selfsettingbox{border-left : 1px solid #535465; border-right : 1px "
                        "solid #535465;border-bottom : 1px solid #535465;}"));
     inner->setFixedWidth(410);
+    controls.addWide(inner);
     auto* column = new QVBoxLayout(inner);
     column->setContentsMargins(10, 7, 10, 7);
     column->setSpacing(5);

@@ -4,10 +4,28 @@
 #include "theme/resources.h"
 
 #include <QEvent>
+#include <QLayout>
 
 #include <algorithm>
 
 namespace vardeno::testcharttools {
+
+namespace {
+
+/// Layouts, and the widgets around them, remember what they need until the next event.
+void forgetSizes(QWidget* panel)
+{
+    const auto layouts = panel->findChildren<QLayout*>();
+    for (QLayout* layout : layouts)
+        layout->invalidate();
+    const auto parts = panel->findChildren<QWidget*>();
+    for (QWidget* part : parts) {
+        if (part->layout())
+            part->updateGeometry();
+    }
+}
+
+} // namespace
 
 SettingPanel::SettingPanel(int usualHeight, QWidget* parent)
     : QWidget(parent)
@@ -49,6 +67,45 @@ void SettingPanel::setWheelScrolls(bool scrolls)
 bool SettingPanel::wheelScrolls() const
 {
     return m_controls->wheelScrolls();
+}
+
+bool SettingPanel::fitsContent() const
+{
+    return m_controls->fits();
+}
+
+void SettingPanel::setFitsContent(bool fits)
+{
+    if (fits == fitsContent())
+        return;
+    if (fits) {
+        m_usualWidth = width();
+        fitToWidth(neededWidth(neededCaptionGrowth()));
+        return;
+    }
+    m_controls->unfit();
+    fitToWidth(m_usualWidth);
+}
+
+int SettingPanel::neededCaptionGrowth() const
+{
+    return m_controls->neededCaptionGrowth();
+}
+
+int SettingPanel::neededWidth(int captionGrowth)
+{
+    m_controls->fit(captionGrowth);
+    m_controls->captions.retranslate();
+    forgetSizes(this);
+    return std::max(m_usualWidth, layout()->minimumSize().width());
+}
+
+void SettingPanel::fitToWidth(int width)
+{
+    setFixedWidth(width);
+    m_controls->setWidth(width);
+    m_controls->captions.retranslate();
+    forgetSizes(this);
 }
 
 void SettingPanel::retranslate()

@@ -42,6 +42,16 @@ public:
     /// A control that locks leave as it is; null, at first, for none.
     void spareFromLocks(const QWidget* control);
 
+    /// Whether no caption and no value is cut, whatever language and font the panel has. At first false:
+    /// every control has its one size. Several panels in a column are fitted together: each gets what the
+    /// neediest of them needs for its first captions, in pixels beyond the usual, and then for all of its
+    /// width.
+    bool fitsContent() const;
+    void setFitsContent(bool fits);
+    int neededCaptionGrowth() const;
+    int neededWidth(int captionGrowth);
+    void fitToWidth(int width);
+
     /// Shows every caption in the current language, in the panel and in the painters that it drives.
     virtual void retranslate();
 
@@ -70,6 +80,7 @@ protected:
 private:
     std::unique_ptr<PanelControls> m_controls;
     int m_usualHeight;
+    int m_usualWidth = 0; ///< while the panel fits its content
     bool m_lockTakesFocus = true;
 };
 

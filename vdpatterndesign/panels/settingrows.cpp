@@ -96,23 +96,28 @@ SettingRow::SettingRow(QWidget* panel, PanelControls& controls, QHBoxLayout* lay
 
 SettingRow& SettingRow::caption(const QString& source, const QSize& size, int margin)
 {
-    m_caption = new QLabel(m_panel);
-    m_caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    append(m_caption, size);
-    if (!source.isEmpty())
-        m_controls->captions.add(m_caption, source, margin);
+    addCaption(source, size, margin);
+    m_controls->addSized(m_caption, size);
+    return *this;
+}
+
+SettingRow& SettingRow::firstCaption(const QString& source, const QSize& size, int margin)
+{
+    addCaption(source, size, margin);
+    m_controls->addFirstCaption(m_caption, size);
     return *this;
 }
 
 SettingRow& SettingRow::shortCaption(const QString& source, const QSize& longest)
 {
-    caption(QString(), longest);
-    m_controls->captions.add(source, [label = m_caption, longest](const QString& text) {
-        const int needed = std::max(label->fontMetrics().horizontalAdvance(text),
-                                    label->fontMetrics().boundingRect(text).width());
-        label->setFixedWidth(std::min(needed, longest.width()));
-        showElided(label, text);
-    });
+    addCaption(QString(), longest, 0);
+    m_controls->captions.add(
+        source, [label = m_caption, controls = m_controls, longest](const QString& text) {
+            const int needed = std::max(label->fontMetrics().horizontalAdvance(text),
+                                        label->fontMetrics().boundingRect(text).width());
+            label->setFixedWidth(controls->fits() ? needed : std::min(needed, longest.width()));
+            showElided(label, text);
+        });
     return *this;
 }
 
@@ -256,9 +261,20 @@ SettingRow& SettingRow::spacing(int pixels)
     return *this;
 }
 
+void SettingRow::addCaption(const QString& source, const QSize& size, int margin)
+{
+    m_caption = new QLabel(m_panel);
+    m_caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_caption->setFixedSize(size);
+    widget(m_caption);
+    if (!source.isEmpty())
+        m_controls->captions.add(m_caption, source, margin);
+}
+
 void SettingRow::append(QWidget* control, const QSize& size)
 {
     control->setFixedSize(size);
+    m_controls->addSized(control, size);
     widget(control);
 }
 
@@ -300,7 +316,7 @@ SettingRow SettingRows::row(const QString& captionSource)
     layout->addStretch();
     m_column->addLayout(layout);
     SettingRow row(m_panel, *m_controls, layout);
-    row.caption(captionSource, m_captionSize, m_captionMargin);
+    row.firstCaption(captionSource, m_captionSize, m_captionMargin);
     return row;
 }
 

@@ -57,6 +57,8 @@ public:
     /// A right-aligned caption, which names the row's next control; without a `source` it only takes the
     /// room.
     SettingRow& caption(const QString& source, const QSize& size, int margin = 0);
+    /// The same, as the first of the row.
+    SettingRow& firstCaption(const QString& source, const QSize& size, int margin);
     /// The same, at the left and only as wide as its text, up to `longest`.
     SettingRow& shortCaption(const QString& source, const QSize& longest);
     SettingRow& spin(SpinEditBox*& box, const QSize& size, const SpinRange& range, Allowed allowed = {});
@@ -90,6 +92,7 @@ public:
     SettingRow& spacing(int pixels);
 
 private:
+    void addCaption(const QString& source, const QSize& size, int margin);
     void append(QWidget* control, const QSize& size);
     void appendLocked(QWidget* control, const QSize& size, Allowed allowed);
 
