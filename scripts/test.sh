@@ -1,16 +1,18 @@
 #!/usr/bin/env bash
-# Builds the project and runs every functional test once. With --all also: the tests under AddressSanitizer and
-# UndefinedBehaviorSanitizer, each fuzz target for half a minute, everything with Qt 6, an optimised build with the
-# benchmarks (which scripts/bench.sh runs), hosts with the sources in their tree, and clang-tidy over the libraries and
-# programs.
+# Builds the project and runs every functional test once. With --sanitizers also: the tests under AddressSanitizer and
+# UndefinedBehaviorSanitizer, and each fuzz target for half a minute. With --all also: everything with Qt 6, an optimised
+# build with the benchmarks (which scripts/bench.sh runs), hosts with the sources in their tree, and clang-tidy over the
+# libraries and programs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 all=
+sanitizers=
 case "${1:-}" in
-  --all) all=1 ;;
+  --all) all=1 sanitizers=1 ;;
+  --sanitizers) sanitizers=1 ;;
   '') ;;
-  *) echo "usage: scripts/test.sh [--all]" >&2 && exit 2 ;;
+  *) echo "usage: scripts/test.sh [--sanitizers | --all]" >&2 && exit 2 ;;
 esac
 
 step() { printf '\n== %s (after %d s)\n' "$1" "$SECONDS"; }
@@ -35,9 +37,8 @@ flaky=()
 unlisted=()
 step 'Set-up'
 packages=(mold python3-minimal xvfb xauth clang-format fonts-noto-cjk)
-if [ -n "$all" ]; then
-  packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy clang libclang-rt-dev)
-fi
+[ -z "$sanitizers" ] || packages+=(clang libclang-rt-dev)
+[ -z "$all" ] || packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy)
 scripts/setup.sh "${packages[@]}"
 scripts/format.sh --check
 step 'Build'
@@ -46,11 +47,16 @@ cmake --build --preset dev
 step 'Tests'
 run_tests dev
 
-if [ -n "$all" ]; then
+if [ -n "$sanitizers" ]; then
   step 'Sanitizers'
   cmake --preset asan
   cmake --build --preset asan
   run_tests asan
+  step 'Fuzzing'
+  scripts/fuzz.sh 30
+fi
+
+if [ -n "$all" ]; then
   step 'Qt 6'
   cmake --preset qt6
   cmake --build --preset qt6
@@ -63,8 +69,6 @@ if [ -n "$all" ]; then
   ctest --preset dev -C Thorough -R '^hosts$'
   step 'clang-tidy'
   scripts/lint.sh
-  step 'Fuzzing'
-  scripts/fuzz.sh 30
 fi
 
 step 'Done'
