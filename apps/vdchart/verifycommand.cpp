@@ -1,4 +1,5 @@
 #include "arguments.h"
+#include "cabinetgrid.h"
 #include "carriedrecord.h"
 #include "chartcomparison.h"
 #include "chartrenderer.h"
@@ -63,18 +64,6 @@ qint64 translucentPixels(const QImage& picture)
         count += std::count_if(line, line + pixels.width(), [](QRgb pixel) { return qAlpha(pixel) < 255; });
     }
     return count;
-}
-
-ChartComparison::CabinetGrid cabinetsOf(const TestChartToolsData& record)
-{
-    ChartComparison::CabinetGrid grid;
-    grid.columns = record.publicData.boxCol;
-    for (int row = 0; row < record.publicData.boxRow; ++row) {
-        for (int column = 0; column < record.publicData.boxCol; ++column)
-            grid.cabinets.push_back(
-                {ChartCabinets::rect(record, row, column), ChartCabinets::label(record, row, column)});
-    }
-    return grid;
 }
 
 /// The standard streams serve one purpose at a time.

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include <chartcabinets.h>
+#include <cabinetgrid.h>
 #include <chartpicture.h>
 #include <presets.h>
 
@@ -82,18 +82,6 @@ TestChartToolsData recordOf(const std::string& kind, const Grid& grid)
         label(record.inLineData, {255, 255, 255, 255}, 28);
     }
     return record;
-}
-
-ChartComparison::CabinetGrid cabinetsOf(const TestChartToolsData& record)
-{
-    ChartComparison::CabinetGrid grid;
-    grid.columns = record.publicData.boxCol;
-    for (int row = 0; row < record.publicData.boxRow; ++row) {
-        for (int column = 0; column < record.publicData.boxCol; ++column)
-            grid.cabinets.push_back(
-                {ChartCabinets::rect(record, row, column), ChartCabinets::label(record, row, column)});
-    }
-    return grid;
 }
 
 /// Puts `content` where `cabinet` is.
