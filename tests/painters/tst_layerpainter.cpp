@@ -264,41 +264,6 @@ private Q_SLOTS:
         VD_COMPARE_IMAGES(held.toImage(), filled(QSize(30, 20), Qt::green));
     }
 
-    void coversItsArea_data()
-    {
-        QTest::addColumn<QColor>("color");
-        QTest::addColumn<bool>("covers");
-        QTest::newRow("opaque") << QColor(Qt::green) << true;
-        QTest::newRow("nearly opaque") << QColor(0, 255, 0, 254) << false;
-        QTest::newRow("transparent") << QColor(Qt::transparent) << false;
-    }
-
-    void coversItsArea()
-    {
-        QFETCH(QColor, color);
-        QFETCH(bool, covers);
-        PlainLayer layer;
-        layer.resize(300, 200);
-        layer.setColor(color);
-        QCOMPARE(layer.coversItsArea(), covers);
-        layer.resize(400, 300);
-        QCOMPARE(layer.coversItsArea(), covers);
-        layer.draws = false;
-        layer.resize(500, 300);
-        QVERIFY(!layer.coversItsArea());
-    }
-
-    void coversNothingWithSomeoneElsesPicture()
-    {
-        PlainLayer layer;
-        layer.resize(30, 20);
-        QVERIFY(layer.coversItsArea());
-        connect(&layer, &LayerPainter::sigPaintEventUpdated, this, [&] { layer.setPixmap(QPixmap()); });
-        layer.grab();
-        layer.draws = false;
-        QVERIFY(!layer.coversItsArea());
-    }
-
     void aShownLayerGoesOnPainting()
     {
         PlainLayer layer;

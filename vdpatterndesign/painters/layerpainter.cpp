@@ -62,12 +62,6 @@ void LayerPainter::setHeld(const Layers& layers, bool held)
     renderTogether(changed);
 }
 
-bool LayerPainter::coversItsArea()
-{
-    refresh();
-    return showsOwnPicture() && d->picture.ink().opaque && pixmap(Qt::ReturnByValue).size() == size();
-}
-
 void LayerPainter::paintEvent(QPaintEvent* event)
 {
     d->pace.begin();

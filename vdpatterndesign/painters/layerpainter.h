@@ -40,9 +40,6 @@ public:
     /// be.
     void setHeld(bool held);
 
-    /// Brings the picture up to date and tells whether it covers the whole layer without a transparent pixel.
-    bool coversItsArea();
-
 Q_SIGNALS:
     /// Sent by every paint event, after the layer's picture is up to date and before it is painted.
     void sigPaintEventUpdated();
