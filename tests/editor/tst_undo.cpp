@@ -202,6 +202,9 @@ private Q_SLOTS:
         QVERIFY(desk.shown() == desk.before);
         desk.history()->redo();
         QVERIFY(desk.shown() == bar);
+        desk.history()->undo();
+        desk.user.colorBar()->click(); // anew
+        QVERIFY(desk.shown() == bar);
     }
 
     void theHostsRecordBeginsAnotherHistory_data()

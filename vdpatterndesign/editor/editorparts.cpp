@@ -36,7 +36,11 @@ EditorParts::EditorParts(VTestChartTools* tool)
     , picking(tool, panels.all())
     , history(
           tool, [this] { return shownRecord(); },
-          [this](const TestChartToolsData& shown) { applyWhole(shown); })
+          [this](const TestChartToolsData& shown) {
+              applyWhole(shown);
+              if (shown.basicData.chessChecked)
+                  panels.basic()->forgetColorBar(); // as it was before the bar was chosen first
+          })
     , m_tool(tool)
 {
     build();

@@ -680,6 +680,11 @@ void BasicSettingBox::colorStripeAddDefaultColors(bool isFirst)
     d->colorStripeAddDefaultColors(isFirst);
 }
 
+void BasicSettingBox::forgetColorBar()
+{
+    d->firstTime = true;
+}
+
 void BasicSettingBox::getData(BasicChartData& data) const
 {
     d->binding.collect(data);

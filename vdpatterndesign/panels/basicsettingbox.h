@@ -40,6 +40,9 @@ public:
     void addColor(const QColor& color, const QString& which);
     /// Appends the five default colours to the colour bar, after clearing it when `isFirst` is true.
     void colorStripeAddDefaultColors(bool isFirst);
+    /// Takes the colour bar for one that has not been shown yet: choosing it while it has no colours appends
+    /// the default ones.
+    void forgetColorBar();
 
     void getData(BasicChartData& data) const;
     void setData(const BasicChartData& data);
