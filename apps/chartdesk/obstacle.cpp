@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <QUuid>
 
 #include <cerrno>
@@ -15,7 +14,7 @@
 
 namespace {
 
-constexpr qint64 roomOfAChart = 64 << 20; ///< bytes; what the largest ones take
+constexpr quint64 roomOfAChart = 64 << 20; ///< bytes; what the largest ones take
 
 /// Writes a little; the error number, 0 for success.
 int writeTrial(const QString& path)
@@ -75,7 +74,8 @@ Obstacle obstacleIn(const QString& folder)
         return obstacleOf(error.value());
     const QString trial = folder + QLatin1String("/.chartdesk-") + QUuid::createUuid().toString(QUuid::Id128);
     const Obstacle found = obstacleOf(writeTrial(trial));
-    const bool hasRoom = QStorageInfo(folder).bytesAvailable() >= roomOfAChart;
+    const auto space = std::filesystem::space(QFile::encodeName(folder).toStdString(), error);
+    const bool hasRoom = error || space.available >= roomOfAChart; // what nobody can tell is no obstacle
     for (QString made = folder; made != last && QDir().rmdir(made);)
         made = QFileInfo(made).path();
     return found == Obstacle::None && !hasRoom ? Obstacle::NoSpace : found;
