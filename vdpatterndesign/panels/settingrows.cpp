@@ -1,6 +1,7 @@
 #include "panels/settingrows.h"
 
 #include "controls/fieldhint.h"
+#include "panels/contentsize.h"
 
 #include <combobox.h>
 #include <spineditbox.h>
@@ -111,13 +112,14 @@ SettingRow& SettingRow::firstCaption(const QString& source, const QSize& size, i
 SettingRow& SettingRow::shortCaption(const QString& source, const QSize& longest)
 {
     addCaption(QString(), longest, 0);
-    m_controls->captions.add(
-        source, [label = m_caption, controls = m_controls, longest](const QString& text) {
-            const int needed = std::max(label->fontMetrics().horizontalAdvance(text),
-                                        label->fontMetrics().boundingRect(text).width());
-            label->setFixedWidth(controls->fits() ? needed : std::min(needed, longest.width()));
-            showElided(label, text);
-        });
+    m_controls->captions.add(source, [label = m_caption, controls = m_controls,
+                                      longest](const QString& text) {
+        const QSize needed = textSize(label, text, 0);
+        const int height = controls->fits() ? std::max(needed.height(), longest.height()) : longest.height();
+        label->setFixedSize(controls->fits() ? needed.width() : std::min(needed.width(), longest.width()),
+                            height);
+        showElided(label, text);
+    });
     return *this;
 }
 
