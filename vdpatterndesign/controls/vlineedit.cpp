@@ -1,6 +1,6 @@
 #include "vlineedit.h"
 
-#include "controls/expression.h"
+#include "controls/entrystate.h"
 #include "controls/expressionvalidator.h"
 #include "controls/wheelnotches.h"
 #include "lineedit.h"
@@ -15,16 +15,12 @@
 #include <QUndoStack>
 #include <QWheelEvent>
 
-#include <cmath>
 #include <functional>
-#include <optional>
 #include <utility>
 
 namespace vardeno::testcharttools {
 
 namespace {
-
-constexpr double zeroRange = 1e-12;
 
 bool isEnter(int key)
 {
@@ -62,37 +58,16 @@ QFrame* underLine(QWidget* parent)
 
 } // namespace
 
-/// What undo and redo bring back.
-struct VLineEdit::Entry
-{
-    QString text;
-    QString lastText;
-    double value;
-    int cursor;
-};
-
 class VLineEdit::Impl
 {
 public:
     explicit Impl(VLineEdit* control);
-    Entry entry() const { return {shown, lastText, value, cursorPosition}; }
-    bool isEvaluating() const { return numberMode && !inputLocked; }
-    bool isValid(double candidate) const;
-    std::optional<double> accepted(const QString& text) const;
-    Entry settled() const;
-    bool refuses(const QString& text) const;
     void forgetHistory();
 
-    double value = 0;
+    EntryRules rules;
+    EntryState state; ///< its text is what the editor shows, but for an edit that is not judged yet
     bool readOnly = false;
-    bool numberMode = true;
-    bool inputLocked = false;
-    QString lastText;
     double step = 0.1;
-    bool allowZero = true;
-    bool hasMinimum = false;
-    double minimum = 0;
-    int cursorPosition = 0; ///< follows the editor's, but not before an edit is over
     QWidget* row;
     QLabel* caption;
     LineEdit* editor;
@@ -100,10 +75,8 @@ public:
     QFrame* underline;
     QLabel* unit;
     QUndoStack* undoStack;
-    QString shown;     ///< what the editor shows, but for an edit that is not judged yet
     QString announced; ///< by `textChanged`
     QValidator* validator;
-    bool typed = false; ///< the text is as it was typed
     bool restoring = false;
     WheelNotches wheel;
 };
@@ -116,43 +89,8 @@ VLineEdit::Impl::Impl(VLineEdit* control)
     , underline(underLine(control))
     , unit(label("VUnitLabel", row))
     , undoStack(new QUndoStack(control))
-    , validator(new ExpressionValidator(shown, editor))
+    , validator(new ExpressionValidator(state.text, editor))
 {
-}
-
-bool VLineEdit::Impl::isValid(double candidate) const
-{
-    return std::isfinite(candidate) && (allowZero || std::abs(candidate) > zeroRange) &&
-           (!hasMinimum || candidate > minimum);
-}
-
-/// The value of a text that is an expression from end to end and valid here.
-std::optional<double> VLineEdit::Impl::accepted(const QString& text) const
-{
-    if (expressionCharacters(text) != text)
-        return std::nullopt;
-    const auto result = calculated(text);
-    return result && isValid(*result) ? result : std::nullopt;
-}
-
-/// What the control goes over to when an edit ends.
-VLineEdit::Entry VLineEdit::Impl::settled() const
-{
-    Entry after = entry();
-    const bool open = shown != lastText;
-    const auto late = open && numberMode ? accepted(shown) : std::nullopt;
-    after.value = late.value_or(value);
-    if (open && !late)
-        after.text = lastText;
-    else if (numberMode && (late || typed))
-        after.text = textAfterTyping(shown, after.value);
-    after.lastText = after.text;
-    return after;
-}
-
-bool VLineEdit::Impl::refuses(const QString& text) const
-{
-    return isEvaluating() && !editFits(shown, text, editor->cursorPosition());
 }
 
 /// Later, if the history is just being walked through.
@@ -216,7 +154,7 @@ void VLineEdit::connectEditor()
     connect(d->editor, &QLineEdit::textEdited, this, &VLineEdit::onTextEdited);
     connect(d->editor, &QLineEdit::editingFinished, this, &VLineEdit::onEditingFinished);
     connect(d->editor, &QLineEdit::cursorPositionChanged, this,
-            [this](int, int position) { d->cursorPosition = position; });
+            [this](int, int position) { d->state.cursor = position; });
     connect(d->editor, &LineEdit::undoRequested, d->undoStack, &QUndoStack::undo);
     connect(d->editor, &LineEdit::redoRequested, d->undoStack, &QUndoStack::redo);
     connect(d->clear, &QPushButton::clicked, this, &VLineEdit::clearText);
@@ -225,7 +163,7 @@ void VLineEdit::connectEditor()
 
 double VLineEdit::value() const
 {
-    return d->value;
+    return d->state.value;
 }
 
 QString VLineEdit::text() const
@@ -235,42 +173,33 @@ QString VLineEdit::text() const
 
 void VLineEdit::setText(const QString& text)
 {
-    if (text.trimmed().isEmpty())
+    const auto after = afterSetting(d->rules, d->state, text);
+    if (!after)
         return;
-    const QString shown = d->numberMode ? expressionCharacters(text) : text;
-    if (d->numberMode) {
-        const auto value = d->accepted(shown);
-        if (!value)
-            return;
-        d->value = *value;
-    }
-    d->lastText = shown;
-    d->typed = false;
-    if (shown == d->editor->text())
+    d->state = *after;
+    if (after->text == d->editor->text())
         return;
     d->forgetHistory();
-    d->shown = shown;
-    d->editor->setText(shown);
+    d->editor->setText(after->text);
 }
 
 void VLineEdit::setNumberMode(bool on)
 {
-    if (d->numberMode == on)
+    if (d->rules.numberMode == on)
         return;
-    d->numberMode = on;
+    d->rules.numberMode = on;
     d->editor->setValidator(on ? d->validator : nullptr);
     d->forgetHistory();
     if (text().isEmpty())
         return;
-    const auto value = on ? d->accepted(text()) : d->value;
-    const QString shown = value ? text() : shownNumber(d->value);
-    d->value = value.value_or(d->value);
-    restore({shown, shown, d->value, d->cursorPosition});
+    const EntryState after = afterModeChange(d->rules, d->state);
+    d->state.value = after.value; // not the user's doing: not told of
+    restore(after);
 }
 
 bool VLineEdit::numberMode() const
 {
-    return d->numberMode;
+    return d->rules.numberMode;
 }
 
 void VLineEdit::setReadOnly(bool on)
@@ -287,12 +216,12 @@ bool VLineEdit::isReadOnly() const
 
 void VLineEdit::setInputLocked(bool on)
 {
-    d->inputLocked = on;
+    d->rules.inputLocked = on;
 }
 
 bool VLineEdit::isInputLocked() const
 {
-    return d->inputLocked;
+    return d->rules.inputLocked;
 }
 
 void VLineEdit::setStep(double step)
@@ -307,34 +236,32 @@ double VLineEdit::step() const
 
 void VLineEdit::setAllowZero(bool on)
 {
-    d->allowZero = on;
+    d->rules.allowZero = on;
 }
 
 bool VLineEdit::allowZero() const
 {
-    return d->allowZero;
+    return d->rules.allowZero;
 }
 
 void VLineEdit::setMinimum(double minimum)
 {
-    d->hasMinimum = true;
-    d->minimum = minimum;
+    d->rules.minimum = minimum;
 }
 
 void VLineEdit::clearMinimum()
 {
-    d->hasMinimum = false;
-    d->minimum = 0;
+    d->rules.minimum.reset();
 }
 
 bool VLineEdit::hasMinimum() const
 {
-    return d->hasMinimum;
+    return d->rules.minimum.has_value();
 }
 
 double VLineEdit::minimum() const
 {
-    return d->minimum;
+    return d->rules.minimum.value_or(0);
 }
 
 void VLineEdit::setCaption(const QString& caption)
@@ -370,32 +297,21 @@ void VLineEdit::slotTextChanged(const QString& text)
 {
     if (text != d->editor->text())
         return;
-    d->shown = text;
+    d->state.text = text;
     if (std::exchange(d->announced, text) != text)
         Q_EMIT textChanged(text);
 }
 
 void VLineEdit::onTextEdited(const QString& text)
 {
-    const Entry before = d->entry();
-    if (d->refuses(text)) {
+    const EntryState before = d->state;
+    const auto typed = afterTyping(d->rules, before, text, d->editor->cursorPosition());
+    if (!typed) {
         restore(before);
         return;
     }
-    d->typed = true;
-    Entry after{text, d->lastText, d->value, d->editor->cursorPosition()};
-    if (!d->numberMode && !text.isEmpty())
-        after.lastText = text;
-    const auto value = d->isEvaluating() ? d->accepted(text) : std::nullopt;
-    if (!value) {
-        change(before, after);
-        return;
-    }
-    after.value = *value;
-    after.text = after.lastText = textWhileTyping(text, *value);
-    if (after.text != text)
-        after.cursor = after.text.size();
-    accept(before, after);
+    d->state.typed = true;
+    apply(before, *typed);
 }
 
 void VLineEdit::onEditingFinished()
@@ -403,23 +319,24 @@ void VLineEdit::onEditingFinished()
     Q_EMIT editingFinished();
 }
 
-/// Undo and redo lead here, and so does every change when its command is pushed.
-void VLineEdit::restore(const Entry& entry)
+/// Undo and redo lead here, and so does every change when its command is pushed. Whether a text is as it was
+/// typed is no matter of the history.
+void VLineEdit::restore(const EntryState& state)
 {
     const QScopedValueRollback<bool> guard(d->restoring, true);
-    const bool otherValue = d->value != entry.value;
-    d->value = entry.value;
-    d->lastText = entry.lastText;
-    d->shown = entry.text;
-    if (d->editor->text() != entry.text)
-        d->editor->setText(entry.text);
-    d->editor->setCursorPosition(entry.cursor);
-    slotTextChanged(entry.text);
+    const bool otherValue = d->state.value != state.value;
+    const bool typed = d->state.typed;
+    d->state = state;
+    d->state.typed = typed;
+    if (d->editor->text() != state.text)
+        d->editor->setText(state.text);
+    d->editor->setCursorPosition(state.cursor);
+    slotTextChanged(state.text);
     if (otherValue)
-        Q_EMIT valueChange(d->value);
+        Q_EMIT valueChange(d->state.value);
 }
 
-void VLineEdit::change(const Entry& before, const Entry& after)
+void VLineEdit::change(const EntryState& before, const EntryState& after)
 {
     auto* command = new VUndoCommand(std::bind(&VLineEdit::restore, this, after),
                                      std::bind(&VLineEdit::restore, this, before));
@@ -429,30 +346,30 @@ void VLineEdit::change(const Entry& before, const Entry& after)
     d->undoStack->push(command);
 }
 
-/// A change that is a value, which is announced even if it was the value before.
-void VLineEdit::accept(const Entry& before, const Entry& after)
+/// A change that is a value is announced even if it was the value before, and once.
+void VLineEdit::apply(const EntryState& before, const EntryChange& made)
 {
-    d->value = after.value;
-    change(before, after);
-    Q_EMIT valueChange(d->value);
+    if (made.isValue)
+        d->state.value = made.after.value;
+    change(before, made.after);
+    if (made.isValue)
+        Q_EMIT valueChange(d->state.value);
 }
 
 void VLineEdit::clearText()
 {
     d->editor->setFocus();
-    if (!d->shown.isEmpty())
-        change(d->entry(), {QString(), d->lastText, d->value, 0});
+    if (!d->state.text.isEmpty())
+        change(EntryState(d->state), afterClearing(d->state));
 }
 
 void VLineEdit::stepBy(int notches, Qt::KeyboardModifiers modifiers)
 {
-    const double sum = d->value + notches * d->step * wheelFactor(modifiers);
-    const double value = std::abs(sum) <= zeroRange ? 0 : sum;
-    if (notches == 0 || !d->isValid(value))
+    const auto stepped = afterStep(d->rules, d->state, notches * d->step * wheelFactor(modifiers));
+    if (notches == 0 || !stepped)
         return;
-    const QString text = shownNumber(value);
-    d->typed = false;
-    accept(d->entry(), {text, text, value, d->cursorPosition});
+    d->state.typed = false;
+    apply(EntryState(d->state), *stepped); // the state changes meanwhile
 }
 
 /// An edit goes on after a look at another window, and after a lock.
@@ -460,22 +377,18 @@ void VLineEdit::leave(Qt::FocusReason reason)
 {
     if (d->editor->isEnabled() && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
         settle();
-    Q_EMIT sigEditFinished(d->lastText);
+    Q_EMIT sigEditFinished(d->state.lastText);
 }
 
 /// Ends an edit: what has no value goes back to what had one.
 void VLineEdit::settle()
 {
-    if (d->numberMode && d->inputLocked)
-        return;
-    const Entry before = d->entry();
-    const Entry after = d->settled();
-    d->typed = false;
-    d->lastText = after.lastText;
-    if (after.value != before.value)
-        accept(before, after);
-    else if (after.text != before.text)
-        change(before, after);
+    const EntryState before = d->state;
+    const EntryChange ended = afterEdit(d->rules, before);
+    d->state.typed = ended.after.typed;
+    d->state.lastText = ended.after.lastText;
+    if (ended.isValue || ended.after.text != before.text)
+        apply(before, ended);
 }
 
 bool VLineEdit::eventFilter(QObject* watched, QEvent* event)
@@ -484,7 +397,7 @@ bool VLineEdit::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Wheel: {
-        if (!d->numberMode || d->readOnly || !d->editor->isEnabled())
+        if (!d->rules.numberMode || d->readOnly || !d->editor->isEnabled())
             break;
         const auto* wheel = static_cast<QWheelEvent*>(event);
         stepBy(d->wheel.turn(wheel->angleDelta(), wheel->modifiers()), wheel->modifiers());

@@ -10,6 +10,9 @@ class QUndoStack;
 
 namespace vardeno::testcharttools {
 
+struct EntryChange;
+struct EntryState;
+
 /// A compact entry, 20 pixels high: an optional caption, a one-line editor with a clear button, a unit, and a
 /// thin line below.
 ///
@@ -106,13 +109,12 @@ public Q_SLOTS: // for the editor's signals
 
 private:
     class Impl;
-    struct Entry;
 
     void arrange();
     void connectEditor();
-    void restore(const Entry& entry);
-    void change(const Entry& before, const Entry& after);
-    void accept(const Entry& before, const Entry& after);
+    void restore(const EntryState& state);
+    void change(const EntryState& before, const EntryState& after);
+    void apply(const EntryState& before, const EntryChange& made);
     void clearText();
     void stepBy(int notches, Qt::KeyboardModifiers modifiers);
     void leave(Qt::FocusReason reason);
