@@ -224,12 +224,14 @@ void EditorParts::takeSnapshot()
 }
 
 /// The layers' reports while they paint for saving are not those of a repaint cycle.
-QImage EditorParts::imageForSaving()
+void EditorParts::save(EditType type, const QString& replaced)
 {
-    updating = true;
-    QImage image = layers.image();
-    updating = false;
-    return image;
+    saver->save(type, replaced, [this] {
+        updating = true;
+        QImage image = layers.image();
+        updating = false;
+        return image;
+    });
 }
 
 TestChartToolsData EditorParts::shownRecord() const

@@ -37,7 +37,8 @@ public:
     void fitToResolution();
     /// The chart has changed.
     void captureAndDisplay() { cycle.start(); }
-    QImage imageForSaving();
+    /// Has the chart saved as one that is edited like that, in the place of the chart named `replaced`.
+    void save(EditType type, const QString& replaced);
 
     TestChartToolsData shownRecord() const;
     /// Shows `data`; a chart that is being added gets the default colours in its colour bar.

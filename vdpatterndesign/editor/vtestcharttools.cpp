@@ -21,6 +21,15 @@
 
 namespace vardeno::testcharttools {
 
+namespace {
+
+void logEdit(const char* slot, const char* type)
+{
+    qCDebug(chartLog) << slot << "TestChartTools EditType is :" << type;
+}
+
+} // namespace
+
 /// The widget's parts; its slots say what they do together.
 class VTestChartTools::Impl : public EditorParts
 {
@@ -284,40 +293,35 @@ void VTestChartTools::slotSaveImage()
 
 void VTestChartTools::slotCancleButtonClicked()
 {
-    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
-                      << "EditType::Cancle";
+    logEdit(Q_FUNC_INFO, "EditType::Cancle");
     Q_EMIT sigTestToolEditDone(TestChartToolsData(), QString(), Cancle);
 }
 
 void VTestChartTools::slotAddConfirmButtonClicked()
 {
-    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
-                      << "EditType::AddConfirm";
+    logEdit(Q_FUNC_INFO, "EditType::AddConfirm");
     d->buttons->addConfirm()->setEnabled(false);
-    d->saver->save(AddConfirm, QString(), [this] { return d->imageForSaving(); });
+    d->save(AddConfirm, QString());
 }
 
 void VTestChartTools::slotReplaceConfirmButtonClicked()
 {
     if (!d->buttons->replaceApply()->isEnabled()) {
-        qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
-                          << "EditType::ReplaceConfirmOnlyCancle";
+        logEdit(Q_FUNC_INFO, "EditType::ReplaceConfirmOnlyCancle");
         Q_EMIT sigTestToolEditDone(getTestChartToolsData(), QString(), ReplaceConfirmOnlyCancle);
         return;
     }
     d->buttons->replaceConfirm()->setEnabled(false);
     d->buttons->replaceApply()->setEnabled(false);
-    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
-                      << "EditType::ReplaceConfirm";
-    d->saver->save(ReplaceConfirm, d->saver->currentEditName, [this] { return d->imageForSaving(); });
+    logEdit(Q_FUNC_INFO, "EditType::ReplaceConfirm");
+    d->save(ReplaceConfirm, d->saver->currentEditName);
 }
 
 void VTestChartTools::slotReplaceApplyButtonClicked()
 {
     d->buttons->replaceApply()->setEnabled(false);
-    qCDebug(chartLog) << Q_FUNC_INFO << "TestChartTools EditType is :"
-                      << "EditType::ReplaceApply";
-    d->saver->save(ReplaceApply, d->saver->currentEditName, [this] { return d->imageForSaving(); });
+    logEdit(Q_FUNC_INFO, "EditType::ReplaceApply");
+    d->save(ReplaceApply, d->saver->currentEditName);
 }
 
 void VTestChartTools::slotUpdateRow(int row)
