@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vdchartcore_export.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -11,9 +13,9 @@ namespace vardeno::testcharttools {
 /// list on one line where it is short enough. The members named by `order` stand first, in that order,
 /// whichever object they are in; the others follow by name. Below the eighth level all stands on one line, so
 /// that indentation cannot multiply the size of a document.
-QByteArray jsonText(const QJsonObject& document, const QStringList& order);
+VDCHARTCORE_EXPORT QByteArray jsonText(const QJsonObject& document, const QStringList& order);
 
 /// A value on one line.
-QByteArray jsonLine(const QJsonValue& value);
+VDCHARTCORE_EXPORT QByteArray jsonLine(const QJsonValue& value);
 
 } // namespace vardeno::testcharttools

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "records/documentfile.h"
+
 #include <QJsonObject>
 #include <QStringList>
 
 namespace vardeno::testcharttools {
 
-extern const char recordFormat[];
-extern const char recordSchemaName[];
-constexpr int recordVersion = 1;
+extern const DocumentKind recordKind;
 
 /// The JSON Schema (draft 2020-12) of chart records, made from the table of fields.
 QJsonObject recordSchema();

@@ -110,6 +110,46 @@ QStringList take(const QJsonValue& value, std::map<int, QColor>& target)
     return problems;
 }
 
+QJsonObject schema(bool)
+{
+    return {{QStringLiteral("type"), QStringLiteral("boolean")}};
+}
+
+QJsonObject schema(int, recordfields::Range range)
+{
+    return {{QStringLiteral("type"), QStringLiteral("integer")},
+            {QStringLiteral("minimum"), range.least},
+            {QStringLiteral("maximum"), range.most}};
+}
+
+QJsonObject schema(const std::string&, recordfields::Length longest)
+{
+    return {{QStringLiteral("type"), QStringLiteral("string")},
+            {QStringLiteral("maxLength"), longest.most},
+            {QStringLiteral("pattern"), QStringLiteral("^[^\\u0000]*$")}};
+}
+
+QJsonObject schema(const RgbaColor&)
+{
+    return {{QStringLiteral("$ref"), QStringLiteral("#/$defs/color")}};
+}
+
+QJsonObject schema(const std::map<int, QColor>&)
+{
+    return {{QStringLiteral("type"), QStringLiteral("array")},
+            {QStringLiteral("items"), schema(RgbaColor())},
+            {QStringLiteral("maxItems"), recordfields::mostColors}};
+}
+
+QJsonObject colorSchema()
+{
+    return {{QStringLiteral("description"), QStringLiteral("red, green, blue, alpha")},
+            {QStringLiteral("type"), QStringLiteral("array")},
+            {QStringLiteral("items"), schema(0, recordfields::Range{0, 255})},
+            {QStringLiteral("minItems"), 4},
+            {QStringLiteral("maxItems"), 4}};
+}
+
 QJsonArray hexColors(const QString& text)
 {
     static const QRegularExpression color(QStringLiteral("^#[0-9a-fA-F]{6}$"));

@@ -63,8 +63,12 @@ QStringList unknownPaths(const QJsonObject& document, const QStringList& fields,
 
 QStringList unknownMembers(const QJsonObject& document)
 {
-    const QStringList fields = recordFieldNames();
-    const QStringList head = {QStringLiteral("$schema"), QStringLiteral("format"), QStringLiteral("version")};
+    return unknownMembers(document, recordFieldNames());
+}
+
+QStringList unknownMembers(const QJsonObject& document, const QStringList& fields)
+{
+    const QStringList head = documentHead();
     const QStringList paths = unknownPaths(document, fields, head);
     const QStringList names = groupNames(fields) + head + fields;
     QStringList lines;

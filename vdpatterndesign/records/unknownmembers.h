@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vdchartcore_export.h"
+
 #include <QJsonObject>
 #include <QStringList>
 
@@ -9,5 +11,8 @@ namespace vardeno::testcharttools {
 /// "publicData.boxrow: unknown member, did you mean publicData.boxRow?". Of many the first twenty, and how
 /// many more there are.
 QStringList unknownMembers(const QJsonObject& document);
+
+/// The same of another kind of document, whose fields are called `fields`: "group.field" and so on.
+VDCHARTCORE_EXPORT QStringList unknownMembers(const QJsonObject& document, const QStringList& fields);
 
 } // namespace vardeno::testcharttools

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vdchartcore_export.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -7,6 +9,6 @@ namespace vardeno::testcharttools {
 
 /// The one of `names` that `name` is most likely meant to be, or an empty text where none is close: a few
 /// letters may be wrong, and what stands before a name's last point may be missing.
-QString nearestName(const QString& name, const QStringList& names);
+VDCHARTCORE_EXPORT QString nearestName(const QString& name, const QStringList& names);
 
 } // namespace vardeno::testcharttools
