@@ -27,7 +27,7 @@ ROOMS = {
 }
 LIBRARY = "vdpatterndesign"
 BELOW_ALL = ["vdtranslate"]
-BESIDE = ["comparison", "reading"]  # libraries on the core, where they are there
+BESIDE = ["comparison", "walls", "reading"]  # libraries on the core, where they are there
 BELOW = {"reading": ["comparison"]}  # what they may include of one another
 WIDGETS = ["vdwidget"]
 OF_QT_WIDGETS = re.compile(r"Q(tWidgets|Widget|Application|Label|\w*Dialog|\w*Button|\w*Edit|\w*Box|(Box|HBox|VBox|Grid)Layout)")

@@ -12,9 +12,9 @@ tidy() { xargs -0 -P "$(nproc)" -n "$1" clang-tidy --quiet --extra-arg=-Wno-unkn
 if [ $# -eq 0 ]; then
   cmake --preset dev >/dev/null
   cmake --build --preset dev # moc's output must be there
-  find build/dev/{vdtranslate,vdwidget,vdpatterndesign,comparison,apps} -path '*/Unity/*.cxx' -print0 |
+  find build/dev/{vdtranslate,vdwidget,vdpatterndesign,comparison,walls,apps} -path '*/Unity/*.cxx' -print0 |
     tidy 1 -p build/dev --checks=-bugprone-suspicious-include \
-      --header-filter='/(vdtranslate|vdwidget|vdpatterndesign|comparison|apps)/.*\.(h|cpp)$'
+      --header-filter='/(vdtranslate|vdwidget|vdpatterndesign|comparison|walls|apps)/.*\.(h|cpp)$'
   exit
 fi
 

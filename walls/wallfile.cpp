@@ -1,0 +1,196 @@
+#include "wallfile.h"
+
+#include "chartrecordfile.h"
+#include "records/documentfile.h"
+#include "records/fieldvisitors.h"
+#include "records/jsontext.h"
+#include "records/recordvalues.h"
+#include "records/unknownmembers.h"
+#include "support/nearestname.h"
+#include "wallfields.h"
+#include "wallproblems.h"
+#include "wallvalues.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace vardeno::walls::WallFile {
+
+using namespace testcharttools;
+
+namespace {
+
+constexpr DocumentKind wallKind = {"testwall", "wall.schema.json", 1};
+constexpr int mostTold = 20;
+
+fieldvisitors::FieldNames collectedNames()
+{
+    fieldvisitors::FieldNames names;
+    const WallDocument wall;
+    visitWall(names, wall);
+    return names;
+}
+
+QStringList prefixed(const QString& prefix, QStringList lines)
+{
+    for (QString& line : lines)
+        line.prepend(prefix);
+    return lines;
+}
+
+QJsonObject recordJson(const QByteArray& json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+
+/// The members of the document in the order in which they are written, and of a record in it likewise.
+QStringList documentOrder()
+{
+    QStringList order = documentHead() + collectedNames().order + exceptionMembers();
+    const TestChartToolsData record;
+    fieldvisitors::FieldNames names;
+    recordfields::visit(names, record);
+    order += names.order;
+    order.removeDuplicates();
+    return order;
+}
+
+ChartRecordFile::Reading inlineRecord(const InlineRecord& record, const QString& folder = {})
+{
+    return ChartRecordFile::fromJson(QJsonDocument(record.document).toJson(QJsonDocument::Compact), folder);
+}
+
+QStringList unknownInExceptions(const CabinetExceptions& exceptions)
+{
+    QStringList lines;
+    for (std::size_t i = 0; i < exceptions.list.size() && lines.size() < mostTold; ++i) {
+        for (const QString& member : exceptions.list[i].others.keys()) {
+            const QString meant = nearestName(member, exceptionMembers());
+            lines.append(QStringLiteral("cabinets.exceptions: (cabinet %1) %2: unknown member")
+                             .arg(i + 1)
+                             .arg(recordvalues::elided(member)) +
+                         (meant.isEmpty() ? QString() : QStringLiteral(", did you mean %1?").arg(meant)));
+        }
+    }
+    return lines;
+}
+
+/// What is wrong with the record in the document; of both charts only one can be meant.
+void checkChart(Reading& reading)
+{
+    const WallChart& chart = reading.wall.chart;
+    if (chart.record.document.isEmpty())
+        return;
+    const ChartRecordFile::Reading record = inlineRecord(chart.record);
+    const auto prefix = QStringLiteral("chart.record.");
+    reading.problems += prefixed(prefix, record.problems);
+    reading.unknown += prefixed(prefix, record.unknown);
+    if (!chart.path.empty())
+        reading.problems.append(
+            QStringLiteral("chart.path: \"%1\" stands beside chart.record; only one of them can be drawn")
+                .arg(recordvalues::elided(QString::fromStdString(chart.path))));
+}
+
+/// The record of the document as a record file has it: with every field.
+ChartRecordFile::Reading recordOf(const WallDocument& wall, const QString& folder, QString& file)
+{
+    if (!wall.chart.record.document.isEmpty())
+        return inlineRecord(wall.chart.record, folder);
+    if (wall.chart.path.empty())
+        return {};
+    file = QDir::cleanPath(QDir(folder).filePath(QString::fromStdString(wall.chart.path)));
+    return ChartRecordFile::read(file);
+}
+
+} // namespace
+
+bool isWall(const QByteArray& json)
+{
+    return recordJson(json).value(QStringLiteral("format")) == QJsonValue(QLatin1String(wallKind.format));
+}
+
+QByteArray toJson(const WallDocument& wall, const QJsonObject& original)
+{
+    fieldvisitors::DocumentWriter writer(withHead(original, wallKind));
+    visitWall(writer, wall);
+    return jsonText(writer.document, documentOrder());
+}
+
+Reading fromJson(const QByteArray& json)
+{
+    const ParsedDocument parsed = parsedDocument(json, wallKind);
+    if (!parsed.problems.isEmpty())
+        return {WallDocument(), parsed.problems, parsed.document, {}};
+    Reading reading = {WallDocument(), schemaProblems(parsed.document), parsed.document,
+                       unknownMembers(parsed.document, collectedNames().full)};
+    fieldvisitors::DocumentReader reader(parsed.document, reading.problems);
+    visitWall(reader, reading.wall);
+    reading.unknown += unknownInExceptions(reading.wall.exceptions);
+    checkChart(reading);
+    if (reading.problems.isEmpty())
+        reading.problems = placementProblems(reading.wall);
+    return reading;
+}
+
+Reading read(const QString& path)
+{
+    const DocumentBytes file = readDocument(path);
+    if (!file.problem.isEmpty())
+        return {WallDocument(), {file.problem}, {}, {}};
+    return fromJson(file.bytes);
+}
+
+QString write(const QString& path, const WallDocument& wall, const QJsonObject& original)
+{
+    const QByteArray json = toJson(wall, original);
+    const QStringList problems = fromJson(json).problems;
+    const QString problem =
+        problems.isEmpty() ? saveDocument(path, json) : problems.join(QLatin1String("; "));
+    return problem.isEmpty() ? QString() : path + QLatin1String(": ") + problem;
+}
+
+QByteArray schema()
+{
+    fieldvisitors::DocumentSchema writer;
+    const WallDocument wall;
+    visitWall(writer, wall);
+    const auto text = [](const char* words) { return QJsonValue(QLatin1String(words)); };
+    QJsonObject members = writer.groups;
+    members.insert(QStringLiteral("$schema"), QJsonObject{{QStringLiteral("type"), text("string")}});
+    members.insert(QStringLiteral("format"), QJsonObject{{QStringLiteral("const"), text(wallKind.format)}});
+    members.insert(QStringLiteral("version"), QJsonObject{{QStringLiteral("const"), wallKind.version}});
+    const QJsonObject root = {
+        {QStringLiteral("$schema"), text("https://json-schema.org/draft/2020-12/schema")},
+        {QStringLiteral("$id"), text(wallKind.schemaName)},
+        {QStringLiteral("title"), text("Wall of cabinets")},
+        {QStringLiteral("description"), text("An LED wall: cabinets, cables and chart. Members that are not "
+                                             "named here are kept, missing ones take their defaults.")},
+        {QStringLiteral("type"), text("object")},
+        {QStringLiteral("required"), QJsonArray{text("format"), text("version")}},
+        {QStringLiteral("properties"), members},
+        {QStringLiteral("$defs"), QJsonObject{{QStringLiteral("color"), recordvalues::colorSchema()}}}};
+    return jsonText(root, QStringList{QStringLiteral("$schema"), QStringLiteral("$id"),
+                                      QStringLiteral("title"), QStringLiteral("description"),
+                                      QStringLiteral("type"), QStringLiteral("required")} +
+                              collectedNames().order + exceptionMembers());
+}
+
+Chart chartOf(const WallDocument& wall, const QString& folder)
+{
+    Chart chart;
+    const ChartRecordFile::Reading reading = recordOf(wall, folder, chart.file);
+    const QString prefix = QLatin1String(chart.file.isEmpty() ? "chart.record." : "chart.path: ");
+    chart.record = reading.record;
+    chart.problems = prefixed(prefix, reading.problems);
+    chart.unknown = prefixed(prefix, reading.unknown);
+    PublicChartData& screen = chart.record.publicData;
+    screen.resolutionWidth = wall.columnWidths.total();
+    screen.resolutionHeight = wall.rowHeights.total();
+    screen.boxCol = wall.columnWidths.count();
+    screen.boxRow = wall.rowHeights.count();
+    return chart;
+}
+
+} // namespace vardeno::walls::WallFile
