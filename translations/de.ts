@@ -675,5 +675,201 @@
         <source>This chart goes beyond what can be edited here:</source>
         <translation>Dieses Testbild geht über das hinaus, was sich hier bearbeiten lässt:</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this chart.</source>
+        <translation>Für dieses Testbild reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>Next chart</source>
+        <translation>Nächstes Testbild</translation>
+    </message>
+    <message>
+        <source>Previous chart</source>
+        <translation>Voriges Testbild</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Colors in turn</source>
+        <translation>Farben der Reihe nach</translation>
+    </message>
+    <message>
+        <source>Grey steps</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Walk through the cabinets</source>
+        <translation>Cabinets abgehen</translation>
+    </message>
+    <message>
+        <source>Single cabinet</source>
+        <translation>Einzelnes Cabinet</translation>
+    </message>
+    <message>
+        <source>Single row</source>
+        <translation>Einzelne Zeile</translation>
+    </message>
+    <message>
+        <source>Single column</source>
+        <translation>Einzelne Spalte</translation>
+    </message>
+    <message>
+        <source>By rows or by columns</source>
+        <translation>Zeilen- oder spaltenweise</translation>
+    </message>
+    <message>
+        <source>Back and forth</source>
+        <translation>Hin und her</translation>
+    </message>
+    <message>
+        <source>Moving line</source>
+        <translation>Wandernde Linie</translation>
+    </message>
+    <message>
+        <source>Frame counter</source>
+        <translation>Bildzähler</translation>
+    </message>
+    <message>
+        <source>Run or pause</source>
+        <translation>Starten oder anhalten</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Schneller</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Langsamer</translation>
+    </message>
+    <message>
+        <source>This chart cannot be shown.</source>
+        <translation>Dieses Testbild kann nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Show on…</source>
+        <translation>Zeigen auf…</translation>
+    </message>
+    <message>
+        <source>Stop showing</source>
+        <translation>Nicht mehr zeigen</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Horizontal line at %1</source>
+        <translation>Waagerechte Linie bei %1</translation>
+    </message>
+    <message>
+        <source>Vertical line at %1</source>
+        <translation>Senkrechte Linie bei %1</translation>
+    </message>
+    <message>
+        <source>Diagonal line at %1</source>
+        <translation>Diagonale Linie bei %1</translation>
+    </message>
+    <message>
+        <source>Row %1 (%2 of %3)</source>
+        <translation>Zeile %1 (%2 von %3)</translation>
+    </message>
+    <message>
+        <source>Column %1 (%2 of %3)</source>
+        <translation>Spalte %1 (%2 von %3)</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 (%2 of %3)</source>
+        <translation>Cabinet %1 (%2 von %3)</translation>
+    </message>
+    <message>
+        <source>A chart is shown.</source>
+        <translation>Ein Testbild wird gezeigt.</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>ausgesteckt</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 links</translation>
+    </message>
+    <message>
+        <source>%1 above</source>
+        <translation>%1 oben</translation>
+    </message>
+    <message>
+        <source>%1 right</source>
+        <translation>%1 rechts</translation>
+    </message>
+    <message>
+        <source>%1 below</source>
+        <translation>%1 unten</translation>
+    </message>
+    <message>
+        <source>The chart has %1 pixels, the display %2.</source>
+        <translation>Das Testbild hat %1 Pixel, die Anzeige %2.</translation>
+    </message>
+    <message>
+        <source>Nothing of the chart is on the display.</source>
+        <translation>Vom Testbild liegt nichts auf der Anzeige.</translation>
+    </message>
+    <message>
+        <source>Pixels cut off: %1.</source>
+        <translation>Abgeschnittene Pixel: %1.</translation>
+    </message>
+    <message>
+        <source>Pixels that stay black: %1.</source>
+        <translation>Pixel, die schwarz bleiben: %1.</translation>
+    </message>
+    <message>
+        <source>Color %1, %2, %3</source>
+        <translation>Farbe %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
+        <translation>%1   %2   %3 x %4 Pixel, skaliert auf %5 %</translation>
+    </message>
+    <message>
+        <source>Pixels from the left of the display</source>
+        <translation>Pixel vom linken Rand der Anzeige</translation>
+    </message>
+    <message>
+        <source>Pixels from the top of the display</source>
+        <translation>Pixel vom oberen Rand der Anzeige</translation>
+    </message>
+    <message>
+        <source>The displays of this desktop</source>
+        <translation>Die Anzeigen dieses Arbeitsplatzes</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Number the displays</source>
+        <translation>Anzeigen nummerieren</translation>
+    </message>
+    <message>
+        <source>The chart fills the display exactly.</source>
+        <translation>Das Testbild füllt die Anzeige genau.</translation>
+    </message>
+    <message>
+        <source>%1 pixels a frame</source>
+        <translation>%1 Pixel je Bild</translation>
+    </message>
+    <message>
+        <source>%1 steps a minute</source>
+        <translation>%1 Schritte in der Minute</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Bild %1</translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,201 @@
         <source>This chart goes beyond what can be edited here:</source>
         <translation>This chart goes beyond what can be edited here:</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this chart.</source>
+        <translation>There is not enough memory for this chart.</translation>
+    </message>
+    <message>
+        <source>Next chart</source>
+        <translation>Next chart</translation>
+    </message>
+    <message>
+        <source>Previous chart</source>
+        <translation>Previous chart</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Black</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>Colors in turn</source>
+        <translation>Colors in turn</translation>
+    </message>
+    <message>
+        <source>Grey steps</source>
+        <translation>Grey steps</translation>
+    </message>
+    <message>
+        <source>Walk through the cabinets</source>
+        <translation>Walk through the cabinets</translation>
+    </message>
+    <message>
+        <source>Single cabinet</source>
+        <translation>Single cabinet</translation>
+    </message>
+    <message>
+        <source>Single row</source>
+        <translation>Single row</translation>
+    </message>
+    <message>
+        <source>Single column</source>
+        <translation>Single column</translation>
+    </message>
+    <message>
+        <source>By rows or by columns</source>
+        <translation>By rows or by columns</translation>
+    </message>
+    <message>
+        <source>Back and forth</source>
+        <translation>Back and forth</translation>
+    </message>
+    <message>
+        <source>Moving line</source>
+        <translation>Moving line</translation>
+    </message>
+    <message>
+        <source>Frame counter</source>
+        <translation>Frame counter</translation>
+    </message>
+    <message>
+        <source>Run or pause</source>
+        <translation>Run or pause</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Faster</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Slower</translation>
+    </message>
+    <message>
+        <source>This chart cannot be shown.</source>
+        <translation>This chart cannot be shown.</translation>
+    </message>
+    <message>
+        <source>Show on…</source>
+        <translation>Show on…</translation>
+    </message>
+    <message>
+        <source>Stop showing</source>
+        <translation>Stop showing</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>Horizontal line at %1</source>
+        <translation>Horizontal line at %1</translation>
+    </message>
+    <message>
+        <source>Vertical line at %1</source>
+        <translation>Vertical line at %1</translation>
+    </message>
+    <message>
+        <source>Diagonal line at %1</source>
+        <translation>Diagonal line at %1</translation>
+    </message>
+    <message>
+        <source>Row %1 (%2 of %3)</source>
+        <translation>Row %1 (%2 of %3)</translation>
+    </message>
+    <message>
+        <source>Column %1 (%2 of %3)</source>
+        <translation>Column %1 (%2 of %3)</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 (%2 of %3)</source>
+        <translation>Cabinet %1 (%2 of %3)</translation>
+    </message>
+    <message>
+        <source>A chart is shown.</source>
+        <translation>A chart is shown.</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>unplugged</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 left</translation>
+    </message>
+    <message>
+        <source>%1 above</source>
+        <translation>%1 above</translation>
+    </message>
+    <message>
+        <source>%1 right</source>
+        <translation>%1 right</translation>
+    </message>
+    <message>
+        <source>%1 below</source>
+        <translation>%1 below</translation>
+    </message>
+    <message>
+        <source>The chart has %1 pixels, the display %2.</source>
+        <translation>The chart has %1 pixels, the display %2.</translation>
+    </message>
+    <message>
+        <source>Nothing of the chart is on the display.</source>
+        <translation>Nothing of the chart is on the display.</translation>
+    </message>
+    <message>
+        <source>Pixels cut off: %1.</source>
+        <translation>Pixels cut off: %1.</translation>
+    </message>
+    <message>
+        <source>Pixels that stay black: %1.</source>
+        <translation>Pixels that stay black: %1.</translation>
+    </message>
+    <message>
+        <source>Color %1, %2, %3</source>
+        <translation>Color %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
+        <translation>%1   %2   %3 x %4 pixels, scaled to %5 %</translation>
+    </message>
+    <message>
+        <source>Pixels from the left of the display</source>
+        <translation>Pixels from the left of the display</translation>
+    </message>
+    <message>
+        <source>Pixels from the top of the display</source>
+        <translation>Pixels from the top of the display</translation>
+    </message>
+    <message>
+        <source>The displays of this desktop</source>
+        <translation>The displays of this desktop</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>Number the displays</source>
+        <translation>Number the displays</translation>
+    </message>
+    <message>
+        <source>The chart fills the display exactly.</source>
+        <translation>The chart fills the display exactly.</translation>
+    </message>
+    <message>
+        <source>%1 pixels a frame</source>
+        <translation>%1 pixels a frame</translation>
+    </message>
+    <message>
+        <source>%1 steps a minute</source>
+        <translation>%1 steps a minute</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Frame %1</translation>
+    </message>
 </context>
 </TS>

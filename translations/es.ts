@@ -675,5 +675,201 @@
         <source>This chart goes beyond what can be edited here:</source>
         <translation>Esta carta supera lo que se puede editar aquí:</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this chart.</source>
+        <translation>No hay memoria suficiente para esta carta.</translation>
+    </message>
+    <message>
+        <source>Next chart</source>
+        <translation>Carta siguiente</translation>
+    </message>
+    <message>
+        <source>Previous chart</source>
+        <translation>Carta anterior</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>Colors in turn</source>
+        <translation>Colores por turno</translation>
+    </message>
+    <message>
+        <source>Grey steps</source>
+        <translation>Escalones de gris</translation>
+    </message>
+    <message>
+        <source>Walk through the cabinets</source>
+        <translation>Recorrer los gabinetes</translation>
+    </message>
+    <message>
+        <source>Single cabinet</source>
+        <translation>Un solo gabinete</translation>
+    </message>
+    <message>
+        <source>Single row</source>
+        <translation>Una sola fila</translation>
+    </message>
+    <message>
+        <source>Single column</source>
+        <translation>Una sola columna</translation>
+    </message>
+    <message>
+        <source>By rows or by columns</source>
+        <translation>Por filas o por columnas</translation>
+    </message>
+    <message>
+        <source>Back and forth</source>
+        <translation>Ida y vuelta</translation>
+    </message>
+    <message>
+        <source>Moving line</source>
+        <translation>Línea en movimiento</translation>
+    </message>
+    <message>
+        <source>Frame counter</source>
+        <translation>Contador de cuadros</translation>
+    </message>
+    <message>
+        <source>Run or pause</source>
+        <translation>Iniciar o pausar</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Más rápido</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Más lento</translation>
+    </message>
+    <message>
+        <source>This chart cannot be shown.</source>
+        <translation>No se puede mostrar esta carta.</translation>
+    </message>
+    <message>
+        <source>Show on…</source>
+        <translation>Mostrar en…</translation>
+    </message>
+    <message>
+        <source>Stop showing</source>
+        <translation>Dejar de mostrar</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Horizontal line at %1</source>
+        <translation>Línea horizontal en %1</translation>
+    </message>
+    <message>
+        <source>Vertical line at %1</source>
+        <translation>Línea vertical en %1</translation>
+    </message>
+    <message>
+        <source>Diagonal line at %1</source>
+        <translation>Línea diagonal en %1</translation>
+    </message>
+    <message>
+        <source>Row %1 (%2 of %3)</source>
+        <translation>Fila %1 (%2 de %3)</translation>
+    </message>
+    <message>
+        <source>Column %1 (%2 of %3)</source>
+        <translation>Columna %1 (%2 de %3)</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 (%2 of %3)</source>
+        <translation>Gabinete %1 (%2 de %3)</translation>
+    </message>
+    <message>
+        <source>A chart is shown.</source>
+        <translation>Se muestra una carta.</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>desconectada</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 a la izquierda</translation>
+    </message>
+    <message>
+        <source>%1 above</source>
+        <translation>%1 arriba</translation>
+    </message>
+    <message>
+        <source>%1 right</source>
+        <translation>%1 a la derecha</translation>
+    </message>
+    <message>
+        <source>%1 below</source>
+        <translation>%1 abajo</translation>
+    </message>
+    <message>
+        <source>The chart has %1 pixels, the display %2.</source>
+        <translation>La carta tiene %1 píxeles; la pantalla, %2.</translation>
+    </message>
+    <message>
+        <source>Nothing of the chart is on the display.</source>
+        <translation>Nada de la carta queda en la pantalla.</translation>
+    </message>
+    <message>
+        <source>Pixels cut off: %1.</source>
+        <translation>Píxeles cortados: %1.</translation>
+    </message>
+    <message>
+        <source>Pixels that stay black: %1.</source>
+        <translation>Píxeles que quedan negros: %1.</translation>
+    </message>
+    <message>
+        <source>Color %1, %2, %3</source>
+        <translation>Color %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
+        <translation>%1   %2   %3 x %4 píxeles, escala %5 %</translation>
+    </message>
+    <message>
+        <source>Pixels from the left of the display</source>
+        <translation>Píxeles desde la izquierda de la pantalla</translation>
+    </message>
+    <message>
+        <source>Pixels from the top of the display</source>
+        <translation>Píxeles desde el borde superior de la pantalla</translation>
+    </message>
+    <message>
+        <source>The displays of this desktop</source>
+        <translation>Las pantallas de este escritorio</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Number the displays</source>
+        <translation>Numerar las pantallas</translation>
+    </message>
+    <message>
+        <source>The chart fills the display exactly.</source>
+        <translation>La carta llena la pantalla exactamente.</translation>
+    </message>
+    <message>
+        <source>%1 pixels a frame</source>
+        <translation>%1 píxeles por cuadro</translation>
+    </message>
+    <message>
+        <source>%1 steps a minute</source>
+        <translation>%1 pasos por minuto</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>Cuadro %1</translation>
+    </message>
 </context>
 </TS>

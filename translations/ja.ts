@@ -675,5 +675,201 @@
         <source>This chart goes beyond what can be edited here:</source>
         <translation>このテストパターンはここで編集できる範囲を超えています:</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this chart.</source>
+        <translation>このテストパターンにはメモリーが足りません。</translation>
+    </message>
+    <message>
+        <source>Next chart</source>
+        <translation>次のテストパターン</translation>
+    </message>
+    <message>
+        <source>Previous chart</source>
+        <translation>前のテストパターン</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黒</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>Colors in turn</source>
+        <translation>色を順に表示</translation>
+    </message>
+    <message>
+        <source>Grey steps</source>
+        <translation>グレーの段階</translation>
+    </message>
+    <message>
+        <source>Walk through the cabinets</source>
+        <translation>キャビネットを巡回</translation>
+    </message>
+    <message>
+        <source>Single cabinet</source>
+        <translation>キャビネット単独</translation>
+    </message>
+    <message>
+        <source>Single row</source>
+        <translation>1 行だけ</translation>
+    </message>
+    <message>
+        <source>Single column</source>
+        <translation>1 列だけ</translation>
+    </message>
+    <message>
+        <source>By rows or by columns</source>
+        <translation>行方向・列方向の切替</translation>
+    </message>
+    <message>
+        <source>Back and forth</source>
+        <translation>往復</translation>
+    </message>
+    <message>
+        <source>Moving line</source>
+        <translation>動く線</translation>
+    </message>
+    <message>
+        <source>Frame counter</source>
+        <translation>フレームカウンター</translation>
+    </message>
+    <message>
+        <source>Run or pause</source>
+        <translation>開始・一時停止</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>速く</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>遅く</translation>
+    </message>
+    <message>
+        <source>This chart cannot be shown.</source>
+        <translation>このテストパターンは表示できません。</translation>
+    </message>
+    <message>
+        <source>Show on…</source>
+        <translation>表示先…</translation>
+    </message>
+    <message>
+        <source>Stop showing</source>
+        <translation>表示を終了</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>出力</translation>
+    </message>
+    <message>
+        <source>Horizontal line at %1</source>
+        <translation>水平線 %1</translation>
+    </message>
+    <message>
+        <source>Vertical line at %1</source>
+        <translation>垂直線 %1</translation>
+    </message>
+    <message>
+        <source>Diagonal line at %1</source>
+        <translation>斜線 %1</translation>
+    </message>
+    <message>
+        <source>Row %1 (%2 of %3)</source>
+        <translation>行 %1（%2 / %3）</translation>
+    </message>
+    <message>
+        <source>Column %1 (%2 of %3)</source>
+        <translation>列 %1（%2 / %3）</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 (%2 of %3)</source>
+        <translation>キャビネット %1（%2 / %3）</translation>
+    </message>
+    <message>
+        <source>A chart is shown.</source>
+        <translation>テストパターンを表示中です。</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>左 %1</translation>
+    </message>
+    <message>
+        <source>%1 above</source>
+        <translation>上 %1</translation>
+    </message>
+    <message>
+        <source>%1 right</source>
+        <translation>右 %1</translation>
+    </message>
+    <message>
+        <source>%1 below</source>
+        <translation>下 %1</translation>
+    </message>
+    <message>
+        <source>The chart has %1 pixels, the display %2.</source>
+        <translation>テストパターンは %1 ピクセル、ディスプレイは %2 です。</translation>
+    </message>
+    <message>
+        <source>Nothing of the chart is on the display.</source>
+        <translation>テストパターンはディスプレイの外にあります。</translation>
+    </message>
+    <message>
+        <source>Pixels cut off: %1.</source>
+        <translation>切れるピクセル：%1。</translation>
+    </message>
+    <message>
+        <source>Pixels that stay black: %1.</source>
+        <translation>黒のまま残るピクセル：%1。</translation>
+    </message>
+    <message>
+        <source>Color %1, %2, %3</source>
+        <translation>色 %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
+        <translation>%1   %2   %3 x %4 ピクセル、拡大率 %5 %</translation>
+    </message>
+    <message>
+        <source>Pixels from the left of the display</source>
+        <translation>ディスプレイの左端からのピクセル数</translation>
+    </message>
+    <message>
+        <source>Pixels from the top of the display</source>
+        <translation>ディスプレイの上端からのピクセル数</translation>
+    </message>
+    <message>
+        <source>The displays of this desktop</source>
+        <translation>このデスクトップのディスプレイ</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Number the displays</source>
+        <translation>番号を表示</translation>
+    </message>
+    <message>
+        <source>The chart fills the display exactly.</source>
+        <translation>テストパターンはディスプレイにぴったり合います。</translation>
+    </message>
+    <message>
+        <source>%1 pixels a frame</source>
+        <translation>1 フレームに %1 ピクセル</translation>
+    </message>
+    <message>
+        <source>%1 steps a minute</source>
+        <translation>毎分 %1 ステップ</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>フレーム %1</translation>
+    </message>
 </context>
 </TS>

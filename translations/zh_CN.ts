@@ -675,5 +675,201 @@
         <source>This chart goes beyond what can be edited here:</source>
         <translation>此测试图超出了此处可编辑的范围：</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this chart.</source>
+        <translation>内存不足，无法处理此测试图。</translation>
+    </message>
+    <message>
+        <source>Next chart</source>
+        <translation>下一张测试图</translation>
+    </message>
+    <message>
+        <source>Previous chart</source>
+        <translation>上一张测试图</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黑</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>Colors in turn</source>
+        <translation>依次显示颜色</translation>
+    </message>
+    <message>
+        <source>Grey steps</source>
+        <translation>灰阶</translation>
+    </message>
+    <message>
+        <source>Walk through the cabinets</source>
+        <translation>逐个走查箱体</translation>
+    </message>
+    <message>
+        <source>Single cabinet</source>
+        <translation>单个箱体</translation>
+    </message>
+    <message>
+        <source>Single row</source>
+        <translation>单行</translation>
+    </message>
+    <message>
+        <source>Single column</source>
+        <translation>单列</translation>
+    </message>
+    <message>
+        <source>By rows or by columns</source>
+        <translation>按行或按列</translation>
+    </message>
+    <message>
+        <source>Back and forth</source>
+        <translation>往返</translation>
+    </message>
+    <message>
+        <source>Moving line</source>
+        <translation>移动线条</translation>
+    </message>
+    <message>
+        <source>Frame counter</source>
+        <translation>帧计数器</translation>
+    </message>
+    <message>
+        <source>Run or pause</source>
+        <translation>运行或暂停</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>加快</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>减慢</translation>
+    </message>
+    <message>
+        <source>This chart cannot be shown.</source>
+        <translation>无法显示此测试图。</translation>
+    </message>
+    <message>
+        <source>Show on…</source>
+        <translation>显示到…</translation>
+    </message>
+    <message>
+        <source>Stop showing</source>
+        <translation>停止显示</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>Horizontal line at %1</source>
+        <translation>水平线，位置 %1</translation>
+    </message>
+    <message>
+        <source>Vertical line at %1</source>
+        <translation>垂直线，位置 %1</translation>
+    </message>
+    <message>
+        <source>Diagonal line at %1</source>
+        <translation>斜线，位置 %1</translation>
+    </message>
+    <message>
+        <source>Row %1 (%2 of %3)</source>
+        <translation>行 %1（%2 / %3）</translation>
+    </message>
+    <message>
+        <source>Column %1 (%2 of %3)</source>
+        <translation>列 %1（%2 / %3）</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 (%2 of %3)</source>
+        <translation>箱体 %1（%2 / %3）</translation>
+    </message>
+    <message>
+        <source>A chart is shown.</source>
+        <translation>正在显示测试图。</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>已断开</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>左侧 %1</translation>
+    </message>
+    <message>
+        <source>%1 above</source>
+        <translation>上方 %1</translation>
+    </message>
+    <message>
+        <source>%1 right</source>
+        <translation>右侧 %1</translation>
+    </message>
+    <message>
+        <source>%1 below</source>
+        <translation>下方 %1</translation>
+    </message>
+    <message>
+        <source>The chart has %1 pixels, the display %2.</source>
+        <translation>测试图为 %1 像素，显示器为 %2。</translation>
+    </message>
+    <message>
+        <source>Nothing of the chart is on the display.</source>
+        <translation>测试图完全不在显示器上。</translation>
+    </message>
+    <message>
+        <source>Pixels cut off: %1.</source>
+        <translation>被裁掉的像素：%1。</translation>
+    </message>
+    <message>
+        <source>Pixels that stay black: %1.</source>
+        <translation>保持黑色的像素：%1。</translation>
+    </message>
+    <message>
+        <source>Color %1, %2, %3</source>
+        <translation>颜色 %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
+        <translation>%1   %2   %3 x %4 像素，缩放 %5 %</translation>
+    </message>
+    <message>
+        <source>Pixels from the left of the display</source>
+        <translation>距显示器左边的像素数</translation>
+    </message>
+    <message>
+        <source>Pixels from the top of the display</source>
+        <translation>距显示器上边的像素数</translation>
+    </message>
+    <message>
+        <source>The displays of this desktop</source>
+        <translation>此桌面的显示器</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Number the displays</source>
+        <translation>显示编号</translation>
+    </message>
+    <message>
+        <source>The chart fills the display exactly.</source>
+        <translation>测试图正好铺满显示器。</translation>
+    </message>
+    <message>
+        <source>%1 pixels a frame</source>
+        <translation>每帧 %1 像素</translation>
+    </message>
+    <message>
+        <source>%1 steps a minute</source>
+        <translation>每分钟 %1 步</translation>
+    </message>
+    <message>
+        <source>Frame %1</source>
+        <translation>第 %1 帧</translation>
+    </message>
 </context>
 </TS>

@@ -50,6 +50,14 @@ void ChartList::setDateLocale(const QLocale& locale)
         item(row)->setText(title(QFileInfo(item(row)->data(ImagePathRole).toString())));
 }
 
+QStringList ChartList::charts() const
+{
+    QStringList images;
+    for (int row = 0; row < count(); ++row)
+        images.append(item(row)->data(ImagePathRole).toString());
+    return images;
+}
+
 QString ChartList::selectedChart() const
 {
     const QListWidgetItem* selected = currentItem();

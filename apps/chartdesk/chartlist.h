@@ -29,6 +29,8 @@ public:
     void setFolder(const QString& folder);
     /// Of the dates in the titles.
     void setDateLocale(const QLocale& locale);
+    /// The images of all charts, as they are listed.
+    QStringList charts() const;
     /// The image of the selected chart, empty without one.
     QString selectedChart() const;
     /// Nothing happens without such a chart in the list.

@@ -1,66 +1,26 @@
 #include "chartfont.h"
+#include "deskoptions.h"
 #include "editsession.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "obstacle.h"
+#include "showcommand.h"
 #include "themepalette.h"
 
 #include <vdpatterndesign_version.h>
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QLoggingCategory>
-#include <QStandardPaths>
 #include <QTextStream>
 
 #include <algorithm>
-#include <cstdlib>
 #include <initializer_list>
+#include <string>
+#include <vector>
 
 namespace {
-
-struct Options
-{
-    QString folder;
-    QString language;
-    bool headless;
-};
-
-/// Ends the program as the command line parser does on an unknown option.
-[[noreturn]] void refuse(const QString& problem)
-{
-    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << problem << '\n';
-    std::exit(1);
-}
-
-Options parseCommandLine(const QCoreApplication& application)
-{
-    const QCommandLineOption folder(QStringLiteral("folder"), QStringLiteral("Where charts are saved."),
-                                    QStringLiteral("path"),
-                                    QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-    const QStringList codes = languageCodes();
-    const QCommandLineOption language(QStringLiteral("language"),
-                                      codes.join(QStringLiteral(", ")) + QLatin1Char('.'),
-                                      QStringLiteral("code"), languageFor(QLocale()));
-    const QCommandLineOption headless(
-        QStringLiteral("headless"),
-        QStringLiteral("Without a display: confirm one default chart, print the path of "
-                       "its image, and quit."));
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Designs test charts for LED screens."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({folder, language, headless});
-    parser.process(application);
-    const QString code = parser.value(language).replace(QLatin1Char('-'), QLatin1Char('_'));
-    if (!codes.contains(code))
-        refuse(
-            QStringLiteral("The language \"%1\" is none of %2.").arg(code, codes.join(QStringLiteral(", "))));
-    return {parser.value(folder), code, parser.isSet(headless)};
-}
 
 /// Confirms one default chart; the exit code tells whether it was written.
 int confirmDefaultChart(MainWindow& window, QApplication& application)
@@ -103,7 +63,7 @@ bool isAskedFor(int argc, char** argv, std::initializer_list<const char*> option
 bool hasDisplay(int argc, char** argv)
 {
 #ifdef Q_OS_UNIX
-    return isAskedFor(argc, argv, {"-platform", "--platform", "-display", "--display"}) ||
+    return isAskedFor(argc, argv, {"-platform", "--platform", "-display"}) ||
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY") ||
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 #else
@@ -111,9 +71,19 @@ bool hasDisplay(int argc, char** argv)
 #endif
 }
 
-} // namespace
+/// The arguments, with "--display" and what follows it as one: the toolkit would take them for an X server's.
+std::vector<std::string> joinedArguments(int argc, char** argv)
+{
+    std::vector<std::string> joined(argv, argv + argc);
+    const auto it = std::find(joined.begin(), joined.end(), "--display");
+    if (joined.end() - it > 1) {
+        *it += "=" + *(it + 1);
+        joined.erase(it + 1);
+    }
+    return joined;
+}
 
-int main(int argc, char** argv)
+int run(int& argc, char** argv)
 {
     const bool isHeadless =
         isAskedFor(argc, argv, {"--headless", "--help", "--help-all", "-h", "--version", "-v"});
@@ -132,9 +102,14 @@ int main(int argc, char** argv)
     QLoggingCategory::setFilterRules(
         QStringLiteral("default.debug=false\ndefault.warning=false\nvardeno.testcharttools*.debug=false"));
 
-    const Options options = parseCommandLine(application);
+    const DeskOptions options = deskOptions(application);
     if (!isShown && !options.headless)
         refuse(QStringLiteral("There is no display; --headless makes a chart without one."));
+    chooseLanguage(options.language);
+    if (options.listDisplays)
+        return listDisplays();
+    if (!options.shown.isEmpty())
+        return showOnDisplay(options.shown, options.display, options.at);
     MainWindow window(options.folder);
     QApplication::setPalette(themePalette());
     window.switchLanguage(options.language);
@@ -143,4 +118,17 @@ int main(int argc, char** argv)
     window.show();
     window.offerDrafts();
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::vector<std::string> arguments = joinedArguments(argc, argv);
+    std::vector<char*> pointers;
+    for (std::string& argument : arguments)
+        pointers.push_back(argument.data());
+    pointers.push_back(nullptr);
+    int count = int(arguments.size());
+    return run(count, pointers.data());
 }

@@ -3,6 +3,7 @@
 #include "chartlist.h"
 #include "chartviewer.h"
 #include "desklanguage.h"
+#include "deskoutput.h"
 #include "editorlook.h"
 #include "editsession.h"
 #include "hosttext.h"
@@ -69,6 +70,7 @@ MainWindow::MainWindow(const QString& folder)
     setCentralWidget(m_pages);
     statusBar()->setSizeGripEnabled(false); // made later, the bar would push the editor aside
     statusBar()->setContentsMargins(margin - 5, 0, margin, 0);
+    createOutput();
     createActions();
     loadLanguages();
 
@@ -78,6 +80,7 @@ MainWindow::MainWindow(const QString& folder)
     connect(m_list, &ChartList::itemActivated, this, &MainWindow::editSelectedChart);
     connect(m_list, &ChartList::itemSelectionChanged, this,
             [this] { m_edit->setEnabled(!m_list->selectedItems().isEmpty()); });
+    connect(m_list, &ChartList::itemSelectionChanged, m_output, &DeskOutput::update);
     connectSession();
 
     setFolder(folder);
@@ -104,6 +107,13 @@ void MainWindow::connectSession()
     connect(m_session, &EditSession::replacedChartKept, this, [this](const QString& image) {
         tell(hostText(QStringLiteral("Somebody changed this chart meanwhile; both are kept:")), image);
     });
+}
+
+void MainWindow::createOutput()
+{
+    const DeskOutput::Charts charts = {[this] { return m_list->charts(); },
+                                       [this] { return m_list->selectedChart(); }};
+    m_output = new DeskOutput(this, m_session, m_editor, charts);
 }
 
 void MainWindow::switchLanguage(const QString& language)
@@ -135,6 +145,7 @@ void MainWindow::createActions()
     charts->addActions({m_new, m_edit, m_choose, m_refresh});
     charts->addSeparator();
     charts->addAction(m_quit);
+    menuBar()->addMenu(m_output->menu());
     QMenu* menu = menuBar()->addMenu(QString());
     for (const Language& language : languages()) {
         QAction* choice = m_languages->addAction(language.name);
@@ -203,7 +214,8 @@ void MainWindow::retranslate()
     m_quit->setText(hostText(QStringLiteral("Quit")));
     const QList<QAction*> menus = menuBar()->actions();
     menus.at(0)->setText(hostText(QStringLiteral("Charts")));
-    menus.at(1)->setText(hostText(QStringLiteral("Language")));
+    m_output->retranslate();
+    menus.at(2)->setText(hostText(QStringLiteral("Language")));
     m_hint->setText(hostText(QStringLiteral("No charts here yet. Press “New chart” to make the first one.")));
     setWindowTitle(hostText(QStringLiteral("Test charts")) + QStringLiteral(" — ") + m_folder);
 }
@@ -257,6 +269,7 @@ void MainWindow::openEditor()
     m_pages->setCurrentIndex(EditorPage);
     for (QAction* action : {m_new, m_edit, m_choose})
         action->setEnabled(false);
+    m_output->update();
 }
 
 void MainWindow::chartSaved(const QString& imagePath)

@@ -10,6 +10,7 @@
 #include <vector>
 
 class ChartList;
+class DeskOutput;
 class EditSession;
 class QAction;
 class QActionGroup;
@@ -36,6 +37,7 @@ public:
     void offerDrafts();
     vardeno::testcharttools::VTestChartTools* editor() const { return m_editor; }
     EditSession* session() const { return m_session; }
+    DeskOutput* output() const { return m_output; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -47,6 +49,7 @@ private:
     QWidget* createListPage();
     QWidget* createEditorPage();
     void connectSession();
+    void createOutput();
     void fitToEditor();
     void retranslate();
 
@@ -76,6 +79,7 @@ private:
     QLabel* m_hint;
     vardeno::testcharttools::VTestChartTools* m_editor;
     EditSession* m_session;
+    DeskOutput* m_output = nullptr;
     QAction* m_new;
     QAction* m_edit;
     QAction* m_choose;

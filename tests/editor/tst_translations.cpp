@@ -137,11 +137,11 @@ QString ending(const QString& text)
 QStringList hostSources()
 {
     const QRegularExpression lookUp(
-        QStringLiteral("(?:hostText|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
-                       "QStringLiteral\\(((?:\\s*\"[^\"]*\")+)\\)\\)"));
+        QStringLiteral("(?:(?:hostText|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
+                       "QStringLiteral|hostSource)\\(((?:\\s*\"[^\"]*\")+)\\)"));
     QStringList found;
     QFileInfoList sources = {QFileInfo(sourcePath("vdpatterndesign/support/chartlanguages.cpp"))};
-    for (const char* folder : {"apps/chartdesk", "apps/common"})
+    for (const char* folder : {"apps/chartdesk", "apps/chartdesk/output", "apps/common"})
         sources += QDir(sourcePath(folder)).entryInfoList({QStringLiteral("*.cpp")}, QDir::Files);
     for (const QFileInfo& info : qAsConst(sources)) {
         QFile file(info.filePath());
