@@ -36,7 +36,8 @@ run_tests() {
 flaky=()
 unlisted=()
 step 'Set-up'
-packages=(mold python3-minimal xvfb xauth clang-format fonts-noto-cjk)
+packages=(mold python3-minimal xvfb xauth clang-format fonts-noto-cjk xserver-xorg-core xserver-xorg-video-dummy
+  x11-xserver-utils)
 [ -z "$sanitizers" ] || packages+=(clang libclang-rt-dev)
 [ -z "$all" ] || packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy)
 scripts/setup.sh "${packages[@]}"

@@ -871,5 +871,109 @@
         <source>Frame %1</source>
         <translation>Bild %1</translation>
     </message>
+    <message>
+        <source>New from…</source>
+        <translation>Neu aus…</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Umbenennen…</translation>
+    </message>
+    <message>
+        <source>Tags…</source>
+        <translation>Schlagwörter…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Copy image</source>
+        <translation>Bild kopieren</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Testbild</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>This chart could not be deleted.</source>
+        <translation>Dieses Testbild konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Tags, with commas between:</source>
+        <translation>Schlagwörter, mit Kommas getrennt:</translation>
+    </message>
+    <message>
+        <source>That could not be done.</source>
+        <translation>Das ist nicht gelungen.</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>The wall</source>
+        <translation>Die Wand</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>Was es zeigt</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a file.</source>
+        <translation>„%1“ kann kein Dateiname sein.</translation>
+    </message>
+    <message>
+        <source>There is a chart called “%1” already.</source>
+        <translation>Es gibt schon ein Testbild namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>Gelöscht: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Brings the chart back, within ten seconds</source>
+        <translation>Holt das Testbild zurück, zehn Sekunden lang</translation>
+    </message>
+    <message>
+        <source>Search name, date, size or tag</source>
+        <translation>Name, Datum, Größe oder Schlagwort suchen</translation>
+    </message>
+    <message>
+        <source>Newest first</source>
+        <translation>Neueste zuerst</translation>
+    </message>
+    <message>
+        <source>Oldest first</source>
+        <translation>Älteste zuerst</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>Nach Namen</translation>
+    </message>
+    <message>
+        <source>Order of the charts</source>
+        <translation>Reihenfolge der Testbilder</translation>
+    </message>
 </context>
 </TS>

@@ -871,5 +871,109 @@
         <source>Frame %1</source>
         <translation>Frame %1</translation>
     </message>
+    <message>
+        <source>New from…</source>
+        <translation>New from…</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicate</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Rename…</translation>
+    </message>
+    <message>
+        <source>Tags…</source>
+        <translation>Tags…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Export…</translation>
+    </message>
+    <message>
+        <source>Copy image</source>
+        <translation>Copy image</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Chart</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>This chart could not be deleted.</source>
+        <translation>This chart could not be deleted.</translation>
+    </message>
+    <message>
+        <source>Tags, with commas between:</source>
+        <translation>Tags, with commas between:</translation>
+    </message>
+    <message>
+        <source>That could not be done.</source>
+        <translation>That could not be done.</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>The wall</source>
+        <translation>The wall</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>What it shows</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a file.</source>
+        <translation>“%1” cannot be the name of a file.</translation>
+    </message>
+    <message>
+        <source>There is a chart called “%1” already.</source>
+        <translation>There is a chart called “%1” already.</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>Deleted: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Brings the chart back, within ten seconds</source>
+        <translation>Brings the chart back, within ten seconds</translation>
+    </message>
+    <message>
+        <source>Search name, date, size or tag</source>
+        <translation>Search name, date, size or tag</translation>
+    </message>
+    <message>
+        <source>Newest first</source>
+        <translation>Newest first</translation>
+    </message>
+    <message>
+        <source>Oldest first</source>
+        <translation>Oldest first</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>By name</translation>
+    </message>
+    <message>
+        <source>Order of the charts</source>
+        <translation>Order of the charts</translation>
+    </message>
 </context>
 </TS>

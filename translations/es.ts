@@ -871,5 +871,109 @@
         <source>Frame %1</source>
         <translation>Cuadro %1</translation>
     </message>
+    <message>
+        <source>New from…</source>
+        <translation>Nueva a partir de…</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>Cambiar nombre…</translation>
+    </message>
+    <message>
+        <source>Tags…</source>
+        <translation>Etiquetas…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Copy image</source>
+        <translation>Copiar imagen</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>This chart could not be deleted.</source>
+        <translation>No se pudo eliminar esta carta.</translation>
+    </message>
+    <message>
+        <source>Tags, with commas between:</source>
+        <translation>Etiquetas, separadas por comas:</translation>
+    </message>
+    <message>
+        <source>That could not be done.</source>
+        <translation>No se pudo hacer.</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Estándar</translation>
+    </message>
+    <message>
+        <source>The wall</source>
+        <translation>La pantalla LED</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>Lo que muestra</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a file.</source>
+        <translation>«%1» no puede ser el nombre de un archivo.</translation>
+    </message>
+    <message>
+        <source>There is a chart called “%1” already.</source>
+        <translation>Ya hay una carta llamada «%1».</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>Eliminada: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Brings the chart back, within ten seconds</source>
+        <translation>Recupera la carta, durante diez segundos</translation>
+    </message>
+    <message>
+        <source>Search name, date, size or tag</source>
+        <translation>Buscar nombre, fecha, tamaño o etiqueta</translation>
+    </message>
+    <message>
+        <source>Newest first</source>
+        <translation>Primero las más nuevas</translation>
+    </message>
+    <message>
+        <source>Oldest first</source>
+        <translation>Primero las más antiguas</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>Por nombre</translation>
+    </message>
+    <message>
+        <source>Order of the charts</source>
+        <translation>Orden de las cartas</translation>
+    </message>
 </context>
 </TS>

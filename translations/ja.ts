@@ -871,5 +871,109 @@
         <source>Frame %1</source>
         <translation>フレーム %1</translation>
     </message>
+    <message>
+        <source>New from…</source>
+        <translation>テンプレートから作成…</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>名前を変更…</translation>
+    </message>
+    <message>
+        <source>Tags…</source>
+        <translation>タグ…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出し…</translation>
+    </message>
+    <message>
+        <source>Copy image</source>
+        <translation>画像をコピー</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>テストパターン</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名前：</translation>
+    </message>
+    <message>
+        <source>This chart could not be deleted.</source>
+        <translation>このテストパターンを削除できませんでした。</translation>
+    </message>
+    <message>
+        <source>Tags, with commas between:</source>
+        <translation>タグ（コンマ区切り）：</translation>
+    </message>
+    <message>
+        <source>That could not be done.</source>
+        <translation>実行できませんでした。</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>The wall</source>
+        <translation>LED ウォール</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>表示する内容</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a file.</source>
+        <translation>“%1” はファイル名にできません。</translation>
+    </message>
+    <message>
+        <source>There is a chart called “%1” already.</source>
+        <translation>“%1” という名前のテストパターンがすでにあります。</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>削除しました：%1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Brings the chart back, within ten seconds</source>
+        <translation>10 秒以内なら元に戻せます</translation>
+    </message>
+    <message>
+        <source>Search name, date, size or tag</source>
+        <translation>名前・日付・サイズ・タグを検索</translation>
+    </message>
+    <message>
+        <source>Newest first</source>
+        <translation>新しい順</translation>
+    </message>
+    <message>
+        <source>Oldest first</source>
+        <translation>古い順</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>名前順</translation>
+    </message>
+    <message>
+        <source>Order of the charts</source>
+        <translation>テストパターンの並び順</translation>
+    </message>
 </context>
 </TS>

@@ -871,5 +871,109 @@
         <source>Frame %1</source>
         <translation>第 %1 帧</translation>
     </message>
+    <message>
+        <source>New from…</source>
+        <translation>从预设新建…</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制一份</translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation>重命名…</translation>
+    </message>
+    <message>
+        <source>Tags…</source>
+        <translation>标签…</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Copy image</source>
+        <translation>复制图像</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>测试图</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称：</translation>
+    </message>
+    <message>
+        <source>This chart could not be deleted.</source>
+        <translation>无法删除此测试图。</translation>
+    </message>
+    <message>
+        <source>Tags, with commas between:</source>
+        <translation>标签（用逗号分隔）：</translation>
+    </message>
+    <message>
+        <source>That could not be done.</source>
+        <translation>操作未能完成。</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>The wall</source>
+        <translation>LED 屏</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>显示内容</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be the name of a file.</source>
+        <translation>“%1”不能用作文件名。</translation>
+    </message>
+    <message>
+        <source>There is a chart called “%1” already.</source>
+        <translation>已有名为“%1”的测试图。</translation>
+    </message>
+    <message>
+        <source>Deleted: %1</source>
+        <translation>已删除：%1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Brings the chart back, within ten seconds</source>
+        <translation>十秒内可恢复此测试图</translation>
+    </message>
+    <message>
+        <source>Search name, date, size or tag</source>
+        <translation>搜索名称、日期、尺寸或标签</translation>
+    </message>
+    <message>
+        <source>Newest first</source>
+        <translation>最新在前</translation>
+    </message>
+    <message>
+        <source>Oldest first</source>
+        <translation>最早在前</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>按名称</translation>
+    </message>
+    <message>
+        <source>Order of the charts</source>
+        <translation>测试图的排序</translation>
+    </message>
 </context>
 </TS>

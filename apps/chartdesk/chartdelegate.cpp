@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int frameGap = 4; ///< around a chart's frame
-constexpr int padding = 8;  ///< inside it
-constexpr int titleLines = 2;
+constexpr int frameGap = 4;   ///< around a chart's frame
+constexpr int padding = 8;    ///< inside it
+constexpr int titleLines = 4; ///< name, date, size and cabinets, tags
 
 /// The frame that tells a selected chart, and one under the pointer.
 void drawFrame(QPainter* painter, const QStyleOptionViewItem& option, const QRect& frame)
@@ -20,6 +20,17 @@ void drawFrame(QPainter* painter, const QStyleOptionViewItem& option, const QRec
     painter->setPen(selected ? QPen(option.palette.highlight(), 2) : QPen(Qt::NoPen));
     painter->setBrush(selected ? option.palette.button() : option.palette.window());
     painter->drawRoundedRect(frame, 4, 4);
+}
+
+/// Its lines, each as long as there is room.
+QString titleText(const QModelIndex& index, const QFontMetrics& metrics, int room)
+{
+    QStringList lines = index.data().toString().split(QLatin1Char('\n'));
+    lines.append(index.data(ChartList::DetailsRole).toString());
+    lines.append(index.data(ChartList::TagsRole).toStringList().join(QStringLiteral(", ")));
+    for (QString& line : lines)
+        line = metrics.elidedText(line, Qt::ElideMiddle, room);
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace
@@ -42,7 +53,8 @@ void ChartDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     else
         painter->drawPixmap(place.topLeft(), picture);
     painter->setPen(option.palette.color(QPalette::Text));
-    painter->drawText(title, Qt::AlignHCenter | Qt::AlignTop, index.data().toString());
+    painter->drawText(title, Qt::AlignHCenter | Qt::AlignTop,
+                      titleText(index, option.fontMetrics, title.width()));
     painter->restore();
 }
 

@@ -21,7 +21,17 @@ public:
     {
         ImagePathRole = Qt::UserRole,
         ThumbnailRole, ///< a QPixmap, null before it is read
-        StampRole      ///< what tells whether the file has changed
+        StampRole,     ///< what tells whether the file has changed
+        DetailsRole,   ///< its size and its cabinets, in words; empty before they are read
+        TagsRole       ///< a QStringList
+    };
+
+    /// What comes first.
+    enum class Order
+    {
+        Newest,
+        Oldest,
+        Name
     };
 
     explicit ChartList(QWidget* parent = nullptr);
@@ -29,7 +39,11 @@ public:
     void setFolder(const QString& folder);
     /// Of the dates in the titles.
     void setDateLocale(const QLocale& locale);
-    /// The images of all charts, as they are listed.
+    void setOrder(Order order);
+    /// Shows only the charts that have every word of `words` in name, date, size, cabinets or tags.
+    void setSearch(const QString& words);
+
+    /// The images of the charts that are shown, as they are listed.
     QStringList charts() const;
     /// The image of the selected chart, empty without one.
     QString selectedChart() const;
@@ -42,13 +56,26 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void refreshed();
+    /// Somebody has dropped these files onto the list.
+    void filesDropped(const QStringList& files);
+
+protected:
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QList<QListWidgetItem*> items) const override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void removeMissing(const QFileInfoList& charts);
     void placeChart(int row, const QFileInfo& chart);
-    QListWidgetItem* takeChart(const QString& imagePath, int from);
+    QListWidgetItem* takeChart(const QString& imagePath);
     void showChart(QListWidgetItem* shown, const QFileInfo& chart);
+    QFileInfoList inOrder(QFileInfoList charts) const;
     void showThumbnail(int ticket, const QImage& picture);
+    void showDetails(int ticket, const ChartDetails& details);
+    void showTags(QListWidgetItem* shown, const QString& imagePath);
+    void filter(QListWidgetItem* shown);
     void watch();
     QString title(const QFileInfo& chart) const;
 
@@ -57,6 +84,9 @@ private:
     QFileSystemWatcher m_watcher;
     QTimer m_settle;
     ThumbnailLoader m_thumbnails;
-    QHash<int, QString> m_tickets; ///< of pictures that are being read, and the files
+    QHash<int, QListWidgetItem*> m_tickets; ///< of pictures that are being read
+    QHash<QString, QListWidgetItem*> m_items;
+    Order m_order = Order::Newest;
+    QStringList m_words;
     int m_nextTicket = 0;
 };

@@ -1,6 +1,7 @@
 #include "chartstore.h"
 
 #include "chartfolderlist.h"
+#include "charttags.h"
 
 #include <chartrecordfile.h>
 
@@ -177,9 +178,17 @@ ChartStore::Published ChartStore::publish(const QString& stagedImage, TestChartT
         logo.insert(QLatin1String("picturePath"), picture); // it is stored as the document has it
         document.insert(QLatin1String("logoData"), logo);
     }
-    QString problem = ChartRecordFile::write(ChartFolderList::recordPath(stagedImage), record, document);
+    const QString problem =
+        ChartRecordFile::write(ChartFolderList::recordPath(stagedImage), record, document);
     if (!problem.isEmpty())
         return {{}, problem};
+    return join(stagedImage);
+}
+
+ChartStore::Published ChartStore::join(const QString& stagedImage)
+{
+    const QFileInfo image(stagedImage);
+    QString problem;
     const QString folder = giveFreeName(image.path(), QFileInfo(finalPath(stagedImage)).path(), problem);
     if (folder.isEmpty())
         return {{}, problem};
@@ -209,6 +218,8 @@ void removeChartFiles(const QString& imagePath)
         if (isOwn && QFile::remove(picture))
             removeEmptyFolders(QFileInfo(picture).path(), folder);
     }
+    if (ChartFolderList::imagesIn(folder).isEmpty())
+        QFile::remove(folder + QLatin1Char('/') + ChartTags::fileName());
     QDir().rmdir(folder);
 }
 

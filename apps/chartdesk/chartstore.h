@@ -37,6 +37,9 @@ public:
     Published publish(const QString& stagedImage, vardeno::testcharttools::TestChartToolsData record,
                       QJsonObject document, const QString& picture);
 
+    /// Lets it join the others as it is, without a record of its own.
+    Published join(const QString& stagedImage);
+
 private:
     QString m_folder;
     QString m_staging;

@@ -1,6 +1,7 @@
 #include "editsession.h"
 
 #include "chartfolderlist.h"
+#include "charttags.h"
 #include "editorlimits.h"
 #include "hosttext.h"
 #include "newchart.h"
@@ -100,12 +101,25 @@ void EditSession::add(const QString& folder)
 {
     m_editor->setShowForAdd(true); // with the colour bar of a new chart
     m_editor->applyRecord(newChart());
+    openNew(folder);
+    m_fresh = m_editor->getTestChartToolsData();
+}
+
+void EditSession::add(const QString& folder, const TestChartToolsData& record)
+{
+    m_editor->setShowForAdd(false);
+    m_editor->applyRecord(record);
+    openNew(folder);
+}
+
+/// With what the editor shows.
+void EditSession::openNew(const QString& folder)
+{
     Draft draft;
     draft.folder = folder;
     draft.record = m_editor->getTestChartToolsData();
     open(draft, DraftFolder::create(draftsRoot()));
     m_unchanged = current();
-    m_fresh = m_editor->getTestChartToolsData();
 }
 
 /// While nothing but the wall was chosen, the new chart is the one for that wall.
@@ -314,6 +328,7 @@ void EditSession::accept(const Save& save, const QString& image)
 {
     const QString replaced = m_edited.editedImage;
     if (!pathWithin(m_store.folder(), replaced).isEmpty()) {
+        ChartTags::set(image, ChartTags::of(replaced));
         if (recordDigest(replaced) == m_edited.editedDigest)
             removeChartFiles(replaced);
         else if (QFileInfo::exists(replaced))

@@ -22,6 +22,8 @@ public:
 
     /// Opens a new chart, to be saved in `folder`.
     void add(const QString& folder);
+    /// Opens `record` as a new chart.
+    void add(const QString& folder, const vardeno::testcharttools::TestChartToolsData& record);
     /// Opens the chart `imagePath` of `folder`; what is wrong with its record, and nothing is opened then.
     /// Nor is one that `notEditable` tells of.
     QStringList edit(const QString& folder, const QString& imagePath);
@@ -70,6 +72,7 @@ private:
     };
 
     void giveUp();
+    void openNew(const QString& folder);
     void connectEditor();
     void connectChanges();
     void open(const Draft& draft, std::unique_ptr<DraftFolder> folder);

@@ -3,14 +3,17 @@
 #include "chartlist.h"
 #include "chartviewer.h"
 #include "desklanguage.h"
+#include "desklibrary.h"
 #include "deskoutput.h"
 #include "editorlook.h"
 #include "editsession.h"
 #include "hosttext.h"
 #include "languages.h"
+#include "listbar.h"
 #include "logorefusal.h"
 #include "messagebox.h"
 #include "obstacle.h"
+#include "undobar.h"
 
 #include <translatemanager1.h>
 
@@ -71,6 +74,7 @@ MainWindow::MainWindow(const QString& folder)
     statusBar()->setSizeGripEnabled(false); // made later, the bar would push the editor aside
     statusBar()->setContentsMargins(margin - 5, 0, margin, 0);
     createOutput();
+    createLibrary();
     createActions();
     loadLanguages();
 
@@ -78,9 +82,7 @@ MainWindow::MainWindow(const QString& folder)
             &MainWindow::retranslate);
     connect(m_list, &ChartList::refreshed, this, &MainWindow::showCount);
     connect(m_list, &ChartList::itemActivated, this, &MainWindow::editSelectedChart);
-    connect(m_list, &ChartList::itemSelectionChanged, this,
-            [this] { m_edit->setEnabled(!m_list->selectedItems().isEmpty()); });
-    connect(m_list, &ChartList::itemSelectionChanged, m_output, &DeskOutput::update);
+    connect(m_list, &ChartList::itemSelectionChanged, this, &MainWindow::updateActions);
     connectSession();
 
     setFolder(folder);
@@ -116,6 +118,32 @@ void MainWindow::createOutput()
     m_output = new DeskOutput(this, m_session, m_editor, charts);
 }
 
+void MainWindow::createLibrary()
+{
+    auto* undo = new UndoBar;
+    statusBar()->addWidget(undo);
+    m_library = new DeskLibrary(m_list, undo, this);
+    connect(m_library, &DeskLibrary::newWanted, this, &MainWindow::addChartFrom);
+    connect(m_library, &DeskLibrary::failed, this, &MainWindow::tell);
+}
+
+/// What can be done with a chart goes by the selection, and by whether one is being edited.
+void MainWindow::updateActions()
+{
+    const bool isEditing = m_session->isOpen();
+    m_new->setEnabled(!isEditing);
+    m_choose->setEnabled(!isEditing);
+    m_edit->setEnabled(!isEditing && !m_list->selectedChart().isEmpty());
+    m_library->update(isEditing);
+    m_output->update();
+}
+
+void MainWindow::addChartFrom(const TestChartToolsData& record)
+{
+    m_session->add(m_folder, record);
+    openEditor();
+}
+
 void MainWindow::switchLanguage(const QString& language)
 {
     m_language = language;
@@ -145,6 +173,7 @@ void MainWindow::createActions()
     charts->addActions({m_new, m_edit, m_choose, m_refresh});
     charts->addSeparator();
     charts->addAction(m_quit);
+    menuBar()->addMenu(m_library->menu());
     menuBar()->addMenu(m_output->menu());
     QMenu* menu = menuBar()->addMenu(QString());
     for (const Language& language : languages()) {
@@ -172,6 +201,8 @@ QWidget* MainWindow::createListPage()
     auto* bar = new QToolBar;
     bar->addActions({m_new, m_edit, m_choose});
     layout->addWidget(bar);
+    m_listBar = new ListBar(m_list);
+    layout->addWidget(m_listBar);
     m_hint->setAlignment(Qt::AlignCenter);
     layout->addWidget(m_hint, 1);
     layout->addWidget(m_list, 1);
@@ -214,8 +245,10 @@ void MainWindow::retranslate()
     m_quit->setText(hostText(QStringLiteral("Quit")));
     const QList<QAction*> menus = menuBar()->actions();
     menus.at(0)->setText(hostText(QStringLiteral("Charts")));
+    m_library->retranslate();
     m_output->retranslate();
-    menus.at(2)->setText(hostText(QStringLiteral("Language")));
+    menus.at(3)->setText(hostText(QStringLiteral("Language")));
+    m_listBar->retranslate();
     m_hint->setText(hostText(QStringLiteral("No charts here yet. Press “New chart” to make the first one.")));
     setWindowTitle(hostText(QStringLiteral("Test charts")) + QStringLiteral(" — ") + m_folder);
 }
@@ -223,6 +256,7 @@ void MainWindow::retranslate()
 void MainWindow::setFolder(const QString& folder)
 {
     m_folder = folder;
+    m_library->setFolder(folder);
     m_list->setFolder(folder);
     retranslate();
 }
@@ -242,8 +276,10 @@ void MainWindow::refresh()
 
 void MainWindow::showCount()
 {
-    m_hint->setVisible(m_list->count() == 0);
-    m_list->setVisible(m_list->count() > 0);
+    const bool isEmpty = m_list->count() == 0;
+    m_hint->setVisible(isEmpty);
+    m_listBar->setVisible(!isEmpty);
+    m_list->setVisible(!isEmpty);
 }
 
 void MainWindow::addChart()
@@ -267,9 +303,7 @@ void MainWindow::editSelectedChart()
 void MainWindow::openEditor()
 {
     m_pages->setCurrentIndex(EditorPage);
-    for (QAction* action : {m_new, m_edit, m_choose})
-        action->setEnabled(false);
-    m_output->update();
+    updateActions();
 }
 
 void MainWindow::chartSaved(const QString& imagePath)
@@ -284,9 +318,7 @@ void MainWindow::chartSaved(const QString& imagePath)
 void MainWindow::editEnded(const QString& imagePath)
 {
     m_pages->setCurrentIndex(ListPage);
-    m_new->setEnabled(true);
-    m_choose->setEnabled(true);
-    m_edit->setEnabled(!m_list->selectedItems().isEmpty());
+    updateActions();
     m_list->refresh();
     m_list->setFocus();
     m_list->selectChart(imagePath);

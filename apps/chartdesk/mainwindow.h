@@ -10,8 +10,10 @@
 #include <vector>
 
 class ChartList;
+class DeskLibrary;
 class DeskOutput;
 class EditSession;
+class ListBar;
 class QAction;
 class QActionGroup;
 class QLabel;
@@ -38,6 +40,7 @@ public:
     vardeno::testcharttools::VTestChartTools* editor() const { return m_editor; }
     EditSession* session() const { return m_session; }
     DeskOutput* output() const { return m_output; }
+    DeskLibrary* library() const { return m_library; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -50,6 +53,9 @@ private:
     QWidget* createEditorPage();
     void connectSession();
     void createOutput();
+    void createLibrary();
+    void updateActions();
+    void addChartFrom(const vardeno::testcharttools::TestChartToolsData& record);
     void fitToEditor();
     void retranslate();
 
@@ -80,6 +86,8 @@ private:
     vardeno::testcharttools::VTestChartTools* m_editor;
     EditSession* m_session;
     DeskOutput* m_output = nullptr;
+    DeskLibrary* m_library = nullptr;
+    ListBar* m_listBar = nullptr;
     QAction* m_new;
     QAction* m_edit;
     QAction* m_choose;

@@ -2,9 +2,12 @@
 
 #include "chartfolderlist.h"
 #include "samplechart.h"
+#include "thumbnailcache.h"
 
 #include <chartrecordfile.h>
 
+#include <QBuffer>
+#include <QFile>
 #include <QImageReader>
 #include <QPainter>
 #include <QRunnable>
@@ -15,6 +18,8 @@
 
 namespace {
 
+constexpr int mostKept = 5000;                  ///< pictures, some 20 MiB
+constexpr qint64 longestRead = 256 << 20;       ///< bytes of a chart that is told by its content
 constexpr qint64 mostPixels = 64 * 1024 * 1024; ///< of a picture that is read whole
 
 /// Null where there is no record that tells what the picture shows.
@@ -25,18 +30,36 @@ QImage drawnFromRecord(const QString& imagePath, const QSize& size)
     return reading.problems.isEmpty() ? sampledChart(reading.record, size) : QImage();
 }
 
-QImage thumbnail(const QString& path, const QSize& size)
+/// The picture in `file`, which lies at `path`, in the middle of black.
+QImage scaled(QIODevice* file, const QString& path, const QSize& size)
 {
     QImage canvas(size, QImage::Format_RGB32);
     canvas.fill(Qt::black);
-    QImageReader reader(path);
-    const QSize scaled = reader.size().scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-    const bool isLarge = qint64(reader.size().width()) * reader.size().height() > mostPixels;
-    reader.setScaledSize(scaled);
+    QImageReader reader(file);
+    const QSize whole = reader.size();
+    const QSize fitted = whole.scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    const bool isLarge = qint64(whole.width()) * whole.height() > mostPixels;
+    reader.setScaledSize(fitted);
     QPainter painter(&canvas);
-    painter.drawImage((size.width() - scaled.width()) / 2, (size.height() - scaled.height()) / 2,
-                      isLarge ? drawnFromRecord(path, scaled) : reader.read());
+    painter.drawImage((size.width() - fitted.width()) / 2, (size.height() - fitted.height()) / 2,
+                      isLarge ? drawnFromRecord(path, fitted) : reader.read());
     return canvas;
+}
+
+QImage thumbnail(const QString& path, const QSize& size)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > longestRead)
+        return scaled(&file, path, size);
+    const ThumbnailCache cache(ThumbnailCache::usersFolder());
+    QByteArray bytes = file.readAll();
+    QImage picture = cache.find(bytes, size);
+    if (picture.isNull()) {
+        QBuffer buffer(&bytes);
+        picture = scaled(&buffer, path, size);
+        cache.insert(bytes, picture);
+    }
+    return picture;
 }
 
 class Job : public QRunnable
@@ -63,6 +86,7 @@ ThumbnailLoader::ThumbnailLoader(QObject* parent)
     : QObject(parent)
 {
     m_pool.setMaxThreadCount(std::max(1, QThread::idealThreadCount() - 1));
+    m_pool.start(new Job([] { ThumbnailCache(ThumbnailCache::usersFolder()).prune(mostKept); }));
 }
 
 ThumbnailLoader::~ThumbnailLoader()
@@ -74,6 +98,12 @@ ThumbnailLoader::~ThumbnailLoader()
 void ThumbnailLoader::load(const QString& path, const QSize& size, int ticket)
 {
     m_pool.start(new Job([this, path, size, ticket, round = m_round] {
+        const ChartDetails details = ChartDetails::read(path);
+        const auto tellDetails = [this, details, ticket, round] {
+            if (round == m_round)
+                Q_EMIT detailed(ticket, details);
+        };
+        QMetaObject::invokeMethod(this, tellDetails, Qt::QueuedConnection);
         const QImage picture = thumbnail(path, size);
         const auto tell = [this, picture, ticket, round] {
             if (round == m_round)

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "chartdetails.h"
+
 #include <QImage>
 #include <QObject>
 #include <QThreadPool>
 
-/// Reads pictures in a small size, on threads of its own, in the order in which they are asked for.
+/// Reads pictures in a small size, on threads of its own, in the order in which they are asked for. It keeps
+/// them on the disk, by the content of the chart.
 class ThumbnailLoader : public QObject
 {
     Q_OBJECT
@@ -21,6 +24,8 @@ public:
 
 Q_SIGNALS:
     void loaded(int ticket, const QImage& picture);
+    /// What else the chart tells, before its picture.
+    void detailed(int ticket, const ChartDetails& details);
 
 private:
     QThreadPool m_pool;

@@ -1,6 +1,8 @@
 #include "display.h"
 #include "testcase.h"
 
+#include <QScreen>
+
 /// Displays as values, and those of the desktop.
 class TestDisplay : public TestCase
 {

@@ -141,7 +141,8 @@ QStringList hostSources()
                        "QStringLiteral|hostSource)\\(((?:\\s*\"[^\"]*\")+)\\)"));
     QStringList found;
     QFileInfoList sources = {QFileInfo(sourcePath("vdpatterndesign/support/chartlanguages.cpp"))};
-    for (const char* folder : {"apps/chartdesk", "apps/chartdesk/output", "apps/common"})
+    for (const char* folder :
+         {"apps/chartdesk", "apps/chartdesk/library", "apps/chartdesk/output", "apps/common"})
         sources += QDir(sourcePath(folder)).entryInfoList({QStringLiteral("*.cpp")}, QDir::Files);
     for (const QFileInfo& info : qAsConst(sources)) {
         QFile file(info.filePath());

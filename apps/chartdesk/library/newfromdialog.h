@@ -1,0 +1,32 @@
+#pragma once
+
+#include <testcharttoolsdata.h>
+
+#include <QDialog>
+#include <QThreadPool>
+
+class QComboBox;
+class QListWidget;
+
+/// Offers the presets of the command line: a wall, and a picture for it, each drawn.
+class NewFromDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit NewFromDialog(QWidget* parent);
+    ~NewFromDialog() override;
+
+    /// What is chosen, as a record.
+    vardeno::testcharttools::TestChartToolsData record() const;
+
+private:
+    void createLayout();
+    void drawPictures();
+    vardeno::testcharttools::TestChartToolsData recordOf(int picture) const;
+
+    QComboBox* m_walls;
+    QListWidget* m_pictures;
+    QThreadPool m_pool;
+    int m_round = 0; ///< of drawing
+};
