@@ -832,8 +832,8 @@
         <translation>Color %1, %2, %3</translation>
     </message>
     <message>
-        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
-        <translation>%1   %2   %3 x %4 pixels, scaled to %5 %</translation>
+        <source>%1 x %2 pixels, scaled to %3 %</source>
+        <translation>%1 x %2 pixels, scaled to %3 %</translation>
     </message>
     <message>
         <source>Pixels from the left of the display</source>

@@ -713,11 +713,11 @@
     </message>
     <message>
         <source>Single row</source>
-        <translation>1 行だけ</translation>
+        <translation>単一の行</translation>
     </message>
     <message>
         <source>Single column</source>
-        <translation>1 列だけ</translation>
+        <translation>単一の列</translation>
     </message>
     <message>
         <source>By rows or by columns</source>
@@ -832,8 +832,8 @@
         <translation>色 %1, %2, %3</translation>
     </message>
     <message>
-        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
-        <translation>%1   %2   %3 x %4 ピクセル、拡大率 %5 %</translation>
+        <source>%1 x %2 pixels, scaled to %3 %</source>
+        <translation>%1 x %2 ピクセル、拡大率 %3 %</translation>
     </message>
     <message>
         <source>Pixels from the left of the display</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>%1 pixels a frame</source>
-        <translation>1 フレームに %1 ピクセル</translation>
+        <translation>フレームごとに %1 ピクセル</translation>
     </message>
     <message>
         <source>%1 steps a minute</source>
@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>Brings the chart back, within ten seconds</source>
-        <translation>10 秒以内なら元に戻せます</translation>
+        <translation>十秒以内なら元に戻せます</translation>
     </message>
     <message>
         <source>Search name, date, size or tag</source>

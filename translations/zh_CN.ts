@@ -832,8 +832,8 @@
         <translation>颜色 %1, %2, %3</translation>
     </message>
     <message>
-        <source>%1   %2   %3 x %4 pixels, scaled to %5 %</source>
-        <translation>%1   %2   %3 x %4 像素，缩放 %5 %</translation>
+        <source>%1 x %2 pixels, scaled to %3 %</source>
+        <translation>%1 x %2 像素，缩放 %3 %</translation>
     </message>
     <message>
         <source>Pixels from the left of the display</source>

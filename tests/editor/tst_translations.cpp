@@ -138,7 +138,8 @@ QStringList hostSources()
 {
     const QRegularExpression lookUp(
         QStringLiteral("(?:(?:hostText|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
-                       "QStringLiteral|hostSource)\\(((?:\\s*\"[^\"]*\")+)\\)"));
+                       "QStringLiteral(?=\\((?:\\s*\"[^\"]*\")+\\)\\))|hostSource)"
+                       "\\(((?:\\s*\"[^\"]*\")+)\\)"));
     QStringList found;
     QFileInfoList sources = {QFileInfo(sourcePath("vdpatterndesign/support/chartlanguages.cpp"))};
     for (const char* folder :

@@ -6,14 +6,27 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+/// The toolkit's own order is another one after a display was unplugged and is back.
+bool isBefore(const QScreen* a, const QScreen* b)
+{
+    const QPoint first = a->geometry().topLeft();
+    const QPoint second = b->geometry().topLeft();
+    return first.x() != second.x() ? first.x() < second.x() : first.y() < second.y();
+}
+
+} // namespace
+
 QVector<Display> displays()
 {
     QVector<Display> found;
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
+    QList<QScreen*> screens = QGuiApplication::screens();
+    std::stable_sort(screens.begin(), screens.end(), isBefore);
+    for (const QScreen* screen : qAsConst(screens)) {
         const qreal scale = screen->devicePixelRatio();
         const QSize size = screen->size();
-        found.append({found.size() + 1, screen->name(),
+        found.append({int(found.size()) + 1, screen->name(),
                       QSize(physicalLength(size.width(), scale), physicalLength(size.height(), scale)),
                       scale});
     }

@@ -9,7 +9,7 @@ class QScreen;
 /// A display of the desktop, as it stands now. A plain value.
 struct Display
 {
-    int number = 0; ///< from 1, in the order of the desktop
+    int number = 0; ///< from 1, from left to right
     QString name;   ///< of its connector: "HDMI-1"
     QSize pixels;   ///< physical
     qreal scale = 1;

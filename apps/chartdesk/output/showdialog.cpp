@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QSpinBox>
 
 namespace {
@@ -29,12 +30,12 @@ QSpinBox* createPlace(const QString& name, const QString& tip)
 
 QString listText(const Display& display)
 {
-    return hostText(QStringLiteral("%1   %2   %3 x %4 pixels, scaled to %5 %"))
-        .arg(display.number)
-        .arg(display.name)
-        .arg(display.pixels.width())
-        .arg(display.pixels.height())
-        .arg(qRound(display.scale * 100));
+    const QString size = hostText(QStringLiteral("%1 x %2 pixels, scaled to %3 %"))
+                             .arg(display.pixels.width())
+                             .arg(display.pixels.height())
+                             .arg(qRound(display.scale * 100));
+    return QString::number(display.number) + QLatin1String("   ") + display.name + QLatin1String("   ") +
+           size;
 }
 
 } // namespace

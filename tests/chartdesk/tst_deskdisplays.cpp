@@ -62,7 +62,7 @@ QString difference(int number, const QImage& expected)
 } // namespace
 
 /// A technician's day on several displays: the second one shows the charts.
-class TestDisplays : public TestCase
+class TestDeskDisplays : public TestCase
 {
     Q_OBJECT
 
@@ -231,7 +231,7 @@ int main(int argc, char** argv)
     argv[1] = argv[0];
     QApplication application(--argc, ++argv);
     prepareTestApplication();
-    TestDisplays test;
+    TestDeskDisplays test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "tst_displays.moc"
+#include "tst_deskdisplays.moc"
