@@ -171,7 +171,8 @@ private Q_SLOTS:
     {
         const QTemporaryDir elsewhere;
         const QString record = elsewhere.filePath(QStringLiteral("show.json"));
-        QVERIFY(writeFile(record, R"({"publicData": {"resolutionWidth": 64, "resolutionHeight": 36}})"));
+        const QByteArray size = R"("publicData": {"resolutionWidth": 64, "resolutionHeight": 36})";
+        QVERIFY(writeFile(record, R"({"format": "testchart", "version": 1, )" + size + "}"));
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(record)});
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -179,7 +180,21 @@ private Q_SLOTS:
         QVERIFY(enter.isAccepted());
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(m_list->viewport(), &drop);
-        QTRY_VERIFY_WITH_TIMEOUT(names().contains(QStringLiteral("show")), 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(names().contains(QStringLiteral("show")) || message(*m_window), 30000);
+        QVERIFY(!message(*m_window));
+        QCOMPARE(QImage(m_list->selectedChart()).size(), QSize(64, 36));
+    }
+
+    void aRecordThatCannotBeReadIsTold()
+    {
+        const QTemporaryDir elsewhere;
+        const QString record = elsewhere.filePath(QStringLiteral("broken.json"));
+        QVERIFY(writeFile(record, "{}"));
+        m_window->library()->take({record});
+        QTRY_VERIFY(message(*m_window));
+        QVERIFY(message(*m_window)->informativeText().contains(QStringLiteral("broken.json: format")));
+        QVERIFY(answer(*m_window, QStringLiteral("OK")));
+        QCOMPARE(m_list->count(), 3);
     }
 
     void aChartIsDraggedOutAsAFile()

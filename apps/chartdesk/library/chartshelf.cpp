@@ -77,7 +77,8 @@ ChartShelf::Outcome takeRecord(ChartStore& store, const QString& file, const Cha
 {
     const auto reading = ChartRecordFile::read(file);
     if (!reading.problems.isEmpty())
-        return {{}, reading.problems.join(QLatin1Char('\n'))};
+        return {{},
+                QFileInfo(file).fileName() + QLatin1String(": ") + reading.problems.join(QLatin1Char('\n'))};
     const QString staged = stagedPath(store, QFileInfo(file).completeBaseName() + QLatin1String(".png"));
     if (!ChartPicture(reading.record, captions).image().save(staged))
         return {{}, staged};
