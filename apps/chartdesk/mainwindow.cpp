@@ -5,6 +5,7 @@
 #include "desklanguage.h"
 #include "desklibrary.h"
 #include "deskoutput.h"
+#include "draftoffer.h"
 #include "editorlook.h"
 #include "editsession.h"
 #include "hosttext.h"
@@ -12,14 +13,13 @@
 #include "listbar.h"
 #include "logorefusal.h"
 #include "messagebox.h"
-#include "obstacle.h"
+#include "savequestions.h"
 #include "undobar.h"
 
 #include <translatemanager1.h>
 
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QDir>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenuBar>
@@ -61,6 +61,7 @@ MainWindow::MainWindow(const QString& folder)
     , m_hint(new QLabel)
     , m_editor(nullptr)
     , m_session(nullptr)
+    , m_drafts(new DraftOffer(this))
     , m_new(createAction(QKeySequence::New, &MainWindow::addChart))
     , m_edit(createAction(Qt::CTRL + Qt::Key_E, &MainWindow::editSelectedChart))
     , m_choose(createAction(QKeySequence::Open, &MainWindow::chooseFolder))
@@ -83,6 +84,7 @@ MainWindow::MainWindow(const QString& folder)
     connect(m_list, &ChartList::refreshed, this, &MainWindow::showCount);
     connect(m_list, &ChartList::itemActivated, this, &MainWindow::editSelectedChart);
     connect(m_list, &ChartList::itemSelectionChanged, this, &MainWindow::updateActions);
+    connect(m_drafts, &DraftOffer::wanted, this, &MainWindow::resumeDraft);
     connectSession();
 
     setFolder(folder);
@@ -96,8 +98,9 @@ void MainWindow::connectSession()
 {
     connect(m_session, &EditSession::saved, this, &MainWindow::chartSaved);
     connect(m_session, &EditSession::ended, this, &MainWindow::editEnded);
-    connect(m_session, &EditSession::cancelled, this, &MainWindow::askBeforeEnd);
-    connect(m_session, &EditSession::failed, this, &MainWindow::saveFailed);
+    m_questions = new SaveQuestions(m_session, this);
+    connect(m_questions, &SaveQuestions::discarded, this, &MainWindow::endEdit);
+    connect(m_questions, &SaveQuestions::goesOn, this, [this] { m_isClosing = false; });
     connect(
         m_session, &EditSession::notEditable, this, [this](const QString& image, const QStringList& fields) {
             const QString why = hostText(QStringLiteral("This chart goes beyond what can be edited here:"));
@@ -146,8 +149,8 @@ void MainWindow::addChartFrom(const TestChartToolsData& record)
 
 void MainWindow::switchLanguage(const QString& language)
 {
-    m_language = language;
     m_toolkitTexts->switchLanguage(language);
+    m_drafts->setDateLocale(localeOf(language));
     m_list->setDateLocale(localeOf(language));
     m_editor->switchLanguage(language);
     const QList<QAction*> choices = m_languages->actions();
@@ -323,23 +326,7 @@ void MainWindow::editEnded(const QString& imagePath)
     m_list->setFocus();
     m_list->selectChart(imagePath);
     if (!m_isClosing)
-        offerNextDraft();
-}
-
-void MainWindow::askBeforeEnd()
-{
-    QMessageBox* box = messageBox(this, MessageKind::Question,
-                                  hostText(QStringLiteral("This chart has changes that are not saved.")), {});
-    QPushButton* save = box->addButton(hostText(QStringLiteral("Save")), QMessageBox::AcceptRole);
-    QPushButton* discard =
-        box->addButton(hostText(QStringLiteral("Discard changes")), QMessageBox::DestructiveRole);
-    QPushButton* stay = box->addButton(hostText(QStringLiteral("Continue editing")), QMessageBox::RejectRole);
-    box->setDefaultButton(save);
-    box->setEscapeButton(stay);
-    connect(save, &QPushButton::clicked, m_session, &EditSession::confirm);
-    connect(discard, &QPushButton::clicked, this, &MainWindow::endEdit);
-    connect(stay, &QPushButton::clicked, this, [this] { m_isClosing = false; });
-    box->open();
+        m_drafts->offerNext();
 }
 
 void MainWindow::endEdit()
@@ -356,86 +343,22 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore(); // what becomes of it is told
     } else if (m_session->isChanged()) {
         event->ignore();
-        askBeforeEnd();
+        m_questions->askBeforeEnd();
     } else if (m_session->isOpen()) {
         m_session->end();
     }
 }
 
-void MainWindow::saveFailed(const QString& imagePath, const QString& reason)
-{
-    m_isClosing = false;
-    QString why = obstacleText(obstacleIn(m_session->folder()), m_session->folder());
-    if (why.isEmpty())
-        why = reason;
-    const QString what = hostText(QStringLiteral("This chart could not be saved.")) + QLatin1Char(' ') + why;
-    QMessageBox* box = messageBox(this, MessageKind::Warning, what.trimmed(), imagePath);
-    QPushButton* again = box->addButton(hostText(QStringLiteral("Try again")), QMessageBox::AcceptRole);
-    QPushButton* elsewhere =
-        box->addButton(hostText(QStringLiteral("Save elsewhere…")), QMessageBox::ActionRole);
-    box->setEscapeButton(
-        box->addButton(hostText(QStringLiteral("Continue editing")), QMessageBox::RejectRole));
-    box->setDefaultButton(again);
-    connect(again, &QPushButton::clicked, this, [this] { m_session->retry(m_session->folder()); });
-    connect(elsewhere, &QPushButton::clicked, this, &MainWindow::saveElsewhere);
-    box->open();
-}
-
-void MainWindow::saveElsewhere()
-{
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, hostText(QStringLiteral("Choose the folder of the charts")), QDir::homePath());
-    if (!folder.isEmpty())
-        m_session->retry(folder);
-}
-
 void MainWindow::offerDrafts()
 {
-    m_abandoned = DraftFolder::takeAbandoned(draftsRoot());
-    offerNextDraft();
-}
-
-void MainWindow::offerNextDraft()
-{
-    if (m_abandoned.empty())
-        return;
-    bool isValid = false;
-    const Draft draft = m_abandoned.front()->read(&isValid);
-    if (!isValid) {
-        m_abandoned.erase(m_abandoned.begin()); // it stays where it is, for who can read it
-        offerNextDraft();
-        return;
-    }
-    const QString name = draft.editedImage.isEmpty() ? hostText(QStringLiteral("New chart"))
-                                                     : QFileInfo(draft.editedImage).fileName();
-    const QString when = localeOf(m_language).toString(draft.changed, QLocale::ShortFormat);
-    QMessageBox* box = messageBox(
-        this, MessageKind::Question, hostText(QStringLiteral("An edit was not finished. Continue with it?")),
-        hostText(QStringLiteral("%1, last changed %2")).arg(name, when) + QLatin1Char('\n') + draft.folder);
-    QPushButton* resume =
-        box->addButton(hostText(QStringLiteral("Continue editing")), QMessageBox::AcceptRole);
-    QPushButton* discard =
-        box->addButton(hostText(QStringLiteral("Discard changes")), QMessageBox::DestructiveRole);
-    QPushButton* later = box->addButton(hostText(QStringLiteral("Later")), QMessageBox::RejectRole);
-    box->setDefaultButton(resume);
-    box->setEscapeButton(later);
-    connect(resume, &QPushButton::clicked, this, [this, draft] { resumeDraft(draft); });
-    connect(discard, &QPushButton::clicked, this, [this] {
-        m_abandoned.front()->remove();
-        m_abandoned.erase(m_abandoned.begin());
-        offerNextDraft();
-    });
-    connect(later, &QPushButton::clicked, this, [this] { m_abandoned.clear(); });
-    box->open();
+    m_drafts->offerAll();
 }
 
 void MainWindow::resumeDraft(const Draft& draft)
 {
-    auto folder = std::move(m_abandoned.front());
-    m_abandoned.erase(m_abandoned.begin());
     if (draft.folder != m_folder)
         setFolder(draft.folder);
-    m_session->resume(std::move(folder), draft);
+    m_session->resume(m_drafts->take(), draft);
     openEditor();
 }
 

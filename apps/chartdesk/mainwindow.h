@@ -1,17 +1,13 @@
 #pragma once
 
-#include "draftkeeper.h"
-
 #include <vtestcharttools.h>
 
 #include <QMainWindow>
 
-#include <memory>
-#include <vector>
-
 class ChartList;
 class DeskLibrary;
 class DeskOutput;
+class DraftOffer;
 class EditSession;
 class ListBar;
 class QAction;
@@ -19,7 +15,9 @@ class QActionGroup;
 class QLabel;
 class QMessageBox;
 class QStackedWidget;
+class SaveQuestions;
 class ToolkitTexts;
+struct Draft;
 
 /// The reference host: a list of the saved charts, and the editor for a new chart or for one of them.
 class MainWindow : public QMainWindow
@@ -67,27 +65,23 @@ private:
     void openEditor();
     void chartSaved(const QString& imagePath);
     void editEnded(const QString& imagePath);
-    void askBeforeEnd();
     void endEdit();
-    void saveFailed(const QString& imagePath, const QString& reason);
-    void saveElsewhere();
-    void offerNextDraft();
     void resumeDraft(const Draft& draft);
     QMessageBox* tell(const QString& what, const QString& details);
 
     QString m_folder;
-    QString m_language;
     bool m_isClosing = false; ///< as soon as the edit has ended
-    std::vector<std::unique_ptr<DraftFolder>> m_abandoned;
     ToolkitTexts* m_toolkitTexts;
     QStackedWidget* m_pages;
     ChartList* m_list;
     QLabel* m_hint;
     vardeno::testcharttools::VTestChartTools* m_editor;
     EditSession* m_session;
+    SaveQuestions* m_questions = nullptr;
     DeskOutput* m_output = nullptr;
     DeskLibrary* m_library = nullptr;
     ListBar* m_listBar = nullptr;
+    DraftOffer* m_drafts;
     QAction* m_new;
     QAction* m_edit;
     QAction* m_choose;
