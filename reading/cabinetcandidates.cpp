@@ -1,5 +1,7 @@
 #include "cabinetcandidates.h"
 
+#include "products.h"
+
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
@@ -76,8 +78,7 @@ std::vector<std::vector<Content>> nearestContents(const std::vector<cv::Mat>& se
     cv::Mat rows(int(seen.size()), shown.cols, CV_32F);
     for (int i = 0; i < rows.rows; ++i)
         setRow(rows, i, seen[std::size_t(i)], side);
-    cv::Mat products;
-    cv::gemm(rows, shown, 1, {}, 0, products, cv::GEMM_2_T);
+    const cv::Mat products = productsOf(rows, shown);
 
     std::vector<double> squares;
     for (int i = 0; i < contents; ++i)

@@ -22,6 +22,9 @@ constexpr double calming = 0.7;
 /// In pixels of the view, on top of 0.6 that the chart has already.
 constexpr std::array<double, 6> blurs = {0.3, 0.7, 1.1, 1.6, 2.2, 3.0};
 
+/// Two blurs that differ by less can be mixed.
+constexpr double blurStep = 0.25;
+
 constexpr double displayGamma = 2.2;
 
 cv::Mat asFloats(const cv::Mat& rgb)
@@ -79,7 +82,7 @@ cv::Mat blurredByPlace(const cv::Mat& light, double sigma, const cv::Mat& relati
     double least = 0;
     double most = 0;
     cv::minMaxLoc(relative, &least, &most);
-    constexpr int levels = 5;
+    const int levels = std::clamp(2 + int((most - least) / blurStep), 2, 5);
     const double step = std::max(1e-3, (most - least) / (levels - 1));
     cv::Mat result;
     for (int level = 0; level < levels; ++level) {
@@ -111,25 +114,34 @@ cv::Mat reachOfPixels(const Lens& lens, const ChartView& view)
     return result;
 }
 
-cv::Mat slopes(const cv::Mat& image, int across, int down)
+cv::Mat greyOfFloats(const cv::Mat& rgb)
 {
     cv::Mat grey;
-    cv::cvtColor(image, grey, cv::COLOR_RGB2GRAY);
-    cv::Mat result;
-    cv::Sobel(grey, result, CV_32F, across, down);
-    return result;
+    cv::cvtColor(rgb, grey, cv::COLOR_RGB2GRAY);
+    return grey;
+}
+
+struct Slopes
+{
+    cv::Mat across;
+    cv::Mat down;
+    double square = 0;
+};
+
+Slopes slopesOf(const cv::Mat& grey)
+{
+    Slopes slopes;
+    cv::Sobel(grey, slopes.across, CV_32F, 1, 0);
+    cv::Sobel(grey, slopes.down, CV_32F, 0, 1);
+    slopes.square = slopes.across.dot(slopes.across) + slopes.down.dot(slopes.down);
+    return slopes;
 }
 
 /// How alike the slopes of both are, 1 at most: the most where both are equally sharp.
-double alikeSlopes(const cv::Mat& seen, const cv::Mat& shown)
+double alikeSlopes(const Slopes& seen, const Slopes& shown)
 {
-    const cv::Mat seenX = slopes(seen, 1, 0);
-    const cv::Mat seenY = slopes(seen, 0, 1);
-    const cv::Mat shownX = slopes(shown, 1, 0);
-    const cv::Mat shownY = slopes(shown, 0, 1);
-    const double own = seenX.dot(seenX) + seenY.dot(seenY);
-    const double other = shownX.dot(shownX) + shownY.dot(shownY);
-    return (seenX.dot(shownX) + seenY.dot(shownY)) / std::sqrt(own * other + 1e-6);
+    return (seen.across.dot(shown.across) + seen.down.dot(shown.down)) /
+           std::sqrt(seen.square * shown.square + 1e-6);
 }
 
 cv::Mat withoutGain(const cv::Mat& seen, const cv::Mat& gain)
@@ -145,11 +157,12 @@ double blurOf(const cv::Mat& chartLight, const cv::Mat& seen, const cv::Mat& ins
     const Light light = lightOf(blurredValues(chartLight, 0.6), seen, inside);
     if (!light.isKnown)
         return 1;
-    const cv::Mat even = withoutGain(seen, light.gain);
+    const Slopes even = slopesOf(greyOfFloats(seen) / light.gain);
+    const cv::Mat shown = greyOfFloats(light.toned);
     double best = 1;
     double most = -1;
     for (const double sigma : blurs) {
-        const double alike = alikeSlopes(even, blurred(light.toned, sigma));
+        const double alike = alikeSlopes(even, slopesOf(blurred(shown, sigma)));
         if (alike > most) {
             most = alike;
             best = sigma;
@@ -203,8 +216,13 @@ cv::Rect inner(const cv::Size& size, int margin)
 /// What a camera's black is off by a little light from beside: much where the tone curve is steep.
 float strayError(float value)
 {
-    const float part = std::max(value / 255, 0.08F);
-    return Thresholds::strayLight * 116 * std::pow(part, -1.2F);
+    static const std::array<float, 256> errors = [] {
+        std::array<float, 256> all = {};
+        for (std::size_t i = 0; i < all.size(); ++i)
+            all[i] = Thresholds::strayLight * 116 * std::pow(std::max(float(i) / 255, 0.08F), -1.2F);
+        return all;
+    }();
+    return errors[std::size_t(std::clamp(value, 0.0F, 255.0F))];
 }
 
 struct Correction

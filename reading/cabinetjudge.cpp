@@ -52,6 +52,7 @@ public:
     {
         lookAtOwn();
         explainAll();
+        findShifts();
         findCovered();
         for (std::size_t i = 0; i < m_grid.cabinets.size(); ++i)
             say(i);
@@ -112,12 +113,19 @@ private:
         });
     }
 
-    std::optional<Explanation> shiftOf(std::size_t cabinet) const
+    /// Only of cabinets that do not show their own picture: it takes long.
+    void findShifts()
     {
-        if (m_explanations[cabinet].empty())
-            return std::nullopt;
-        const auto shift = WallReading::shiftOf(m_evidence, cabinet);
-        return shift && usual(shift->cost) < explainedCost ? shift : std::nullopt;
+        m_shifts.resize(m_explanations.size());
+        cv::parallel_for_({0, int(m_shifts.size())}, [&](const cv::Range& range) {
+            for (auto i = std::size_t(range.start); i < std::size_t(range.end); ++i) {
+                if (m_explanations[i].empty() || usual(m_explanations[i].front().cost) <= explainedCost)
+                    continue;
+                m_shifts[i] = shiftOf(m_evidence, i);
+                if (m_shifts[i] && usual(m_shifts[i]->cost) >= explainedCost)
+                    m_shifts[i].reset();
+            }
+        });
     }
 
     double usual(double cost) const { return cost / m_usual; }
@@ -208,7 +216,7 @@ private:
         std::vector<std::size_t> open;
         for (std::size_t i = 0; i < m_covered.size(); ++i) {
             const double share = m_blocks.share(i);
-            m_covered[i] = !isExplained(i) && share > 0 && share < nearlyAllBlocks && !shiftOf(i);
+            m_covered[i] = !isExplained(i) && share > 0 && share < nearlyAllBlocks && !m_shifts[i];
             if (m_covered[i])
                 open.push_back(i);
         }
@@ -278,8 +286,8 @@ private:
     void sayUnexplained(std::size_t cabinet)
     {
         const Explanation& own = m_explanations[cabinet].front();
-        if (const std::optional<Explanation> shift = shiftOf(cabinet)) {
-            accuse(cabinet, *shift);
+        if (m_shifts[cabinet]) {
+            accuse(cabinet, *m_shifts[cabinet]);
             return;
         }
         const double share = m_blocks.share(cabinet);
@@ -296,6 +304,7 @@ private:
     Blocks m_blocks;
     double m_usual = 1;
     std::vector<bool> m_covered;
+    std::vector<std::optional<Explanation>> m_shifts;
     std::vector<std::vector<Explanation>> m_explanations;
 };
 

@@ -1,5 +1,7 @@
 #include "placefeatures.h"
 
+#include "products.h"
+
 #include <opencv2/calib3d.hpp>
 #include <opencv2/features2d.hpp>
 #include <opencv2/imgproc.hpp>
@@ -77,9 +79,7 @@ std::vector<FeatureMatch> matched(const Features& chart, const Features& picture
     constexpr int rowsAtOnce = 512;
     for (int from = 0; from < picture.descriptors.rows; from += rowsAtOnce) {
         const int to = std::min(from + rowsAtOnce, picture.descriptors.rows);
-        cv::Mat alikeness;
-        cv::gemm(picture.descriptors.rowRange(from, to), chart.descriptors, 1, {}, 0, alikeness,
-                 cv::GEMM_2_T);
+        const cv::Mat alikeness = productsOf(picture.descriptors.rowRange(from, to), chart.descriptors);
         for (int row = from; row < to; ++row)
             addMatches(matches, chart, picture, row, alikeness.row(row - from));
     }

@@ -79,9 +79,9 @@ Refinement refined(const ChartView& view, const cv::Mat& picture, const Lens& st
 {
     Refinement result;
     result.lens = start;
+    const std::vector<cv::Point2f> blocks = blocksOf(view, blockReach + std::max(2, search) + 1);
     for (int round = 0; round < rounds; ++round) {
         const int reach = std::max(2, search >> round);
-        const std::vector<cv::Point2f> blocks = blocksOf(view, blockReach + reach + 1);
         cv::Mat inside;
         const cv::Mat seen = rectified(picture, result.lens, cv::Size2d(view.chart), view.size(), &inside);
         std::vector<Match> matches;

@@ -15,9 +15,15 @@ namespace WallReading {
 
 namespace {
 
-constexpr int chartFeatureSide = 1400;
-constexpr int pictureFeatureSide = 1800;
-constexpr int mostFeatures = 4000;
+/// How large chart and picture are when features are looked for, and how many of these are taken.
+struct FeatureSizes
+{
+    int chart;
+    int picture;
+    int most;
+};
+constexpr FeatureSizes quick = {1000, 1200, 2500};
+constexpr FeatureSizes thorough = {1400, 1800, 4000};
 
 /// The mean correlation of a place that is surely the chart's, so that no other is looked for.
 constexpr double surelyThere = 0.6;
@@ -57,11 +63,13 @@ public:
     {
         proposeCaptures();
         if (!isSure())
-            proposeFeatures(false);
+            proposeFeatures(quick, false);
+        if (!isSure() && !m_deadline.isOver())
+            proposeFeatures(thorough, false);
         if (!isSure() && !m_deadline.isOver())
             proposeOutlines();
         if (!isSure() && !m_deadline.isOver())
-            proposeFeatures(true);
+            proposeFeatures(thorough, true);
         return result();
     }
 
@@ -142,18 +150,18 @@ private:
         }
     }
 
-    void proposeFeatures(bool isMirrored)
+    void proposeFeatures(const FeatureSizes& sizes, bool isMirrored)
     {
-        const double chartScale =
-            std::min(1.0, double(chartFeatureSide) / std::max(m_chart.cols, m_chart.rows));
+        const double chartScale = std::min(1.0, double(sizes.chart) / std::max(m_chart.cols, m_chart.rows));
         cv::Mat chart = reduced(greyOf(m_chart), chartScale);
         if (isMirrored)
             cv::flip(chart, chart, 1);
         const double pictureScale =
-            std::min(1.0, double(pictureFeatureSide) / std::max(m_picture.cols, m_picture.rows));
-        if (m_pictureFeatures.points.empty())
-            m_pictureFeatures = featuresOf(reduced(m_picture, pictureScale), mostFeatures);
-        const Features features = featuresOf(chart, mostFeatures);
+            std::min(1.0, double(sizes.picture) / std::max(m_picture.cols, m_picture.rows));
+        if (m_featureSide != sizes.picture)
+            m_pictureFeatures = featuresOf(reduced(m_picture, pictureScale), sizes.most);
+        m_featureSide = sizes.picture;
+        const Features features = featuresOf(chart, sizes.most);
         const std::vector<Lens> lenses = proposedByFeatures(features, m_pictureFeatures, chartScale,
                                                             pictureScale, m_chart.size(), m_picture.size());
         for (const Lens& lens : lenses) {
@@ -161,8 +169,10 @@ private:
                 proposeMirrored(lens);
             else
                 propose(lens, 6);
+            if (isSure())
+                break;
         }
-        if (!isMirrored)
+        if (!isMirrored && !isSure())
             climb();
     }
 
@@ -170,7 +180,7 @@ private:
     void proposeMirrored(const Lens& lens)
     {
         Candidate candidate;
-        candidate.lens = after(lens, {-1, 0, double(m_chart.cols), 0, 1, 0, 0, 0, 1});
+        candidate.lens = after(lens, mirroring());
         candidate.lens = refine(m_coarse, candidate.lens, 6, 3);
         candidate.score = score(candidate.lens);
         candidate.isMirrored = true;
@@ -189,6 +199,8 @@ private:
         climb();
     }
 
+    cv::Matx33d mirroring() const { return {-1, 0, double(m_chart.cols), 0, 1, 0, 0, 0, 1}; }
+
     cv::Matx33d halfTurn() const
     {
         return {-1, 0, double(m_chart.cols), 0, -1, double(m_chart.rows), 0, 0, 1};
@@ -201,33 +213,56 @@ private:
         return {1, 0, columns * width, 0, 1, rows * height, 0, 0, 1};
     }
 
-    /// Where the best place is off by whole cabinets, its neighbours are better.
-    void climb()
+    /// A place that is easily taken for another one.
+    struct Alternative
     {
+        Candidate candidate;
+        Place by; ///< 0 where it is turned or mirrored
+    };
+
+    /// The place moved by whole cabinets, turned by half, and mirrored.
+    std::vector<Alternative> alternativesTo(const Candidate& place)
+    {
+        std::vector<Alternative> all;
+        const auto add = [&](const cv::Matx33d& change, const Place& by, bool isMirrored) {
+            Alternative other{place, by};
+            other.candidate.lens = after(place.lens, change);
+            other.candidate.isMirrored = place.isMirrored != isMirrored;
+            other.candidate.score = score(other.candidate.lens);
+            all.push_back(other);
+        };
+        for (int rows = -2; rows <= 2; ++rows) {
+            for (int columns = -2; columns <= 2; ++columns) {
+                if (rows != 0 || columns != 0)
+                    add(movedBy(rows, columns), {rows, columns}, false);
+            }
+        }
+        add(halfTurn(), {}, false);
+        add(mirroring(), {}, true);
+        add(mirroring() * halfTurn(), {}, true);
+        return all;
+    }
+
+    /// Takes the best of the place's alternatives as long as one is better, and returns those to the last
+    /// one.
+    std::vector<Alternative> climb()
+    {
+        std::vector<Alternative> all;
         for (int round = 0; round < 4 && m_best.score.mean > 0.1; ++round) {
-            const Candidate start = m_best;
-            forNeighbours([this, &start](const cv::Matx33d& change, const Place&) {
-                Candidate moved = start;
-                moved.lens = after(start.lens, change);
-                moved.score = score(moved.lens);
-                take(moved);
-            });
-            if (m_best.score.mean <= start.score.mean)
+            const double before = m_best.score.mean;
+            all = alternativesTo(m_best);
+            for (const Alternative& other : all) {
+                // Mirrored only where labels say so, not where noise does.
+                const bool isLikely = other.candidate.isMirrored == m_best.isMirrored;
+                if (isLikely || betterBy(other.candidate.score, m_best.score) > leastLead)
+                    take(other.candidate);
+            }
+            if (m_best.score.mean <= before)
                 break;
             m_best.lens = refine(m_coarse, m_best.lens, 4, 2);
             m_best.score = score(m_best.lens);
         }
-    }
-
-    template <typename Each>
-    void forNeighbours(Each each)
-    {
-        for (int rows = -2; rows <= 2; ++rows) {
-            for (int columns = -2; columns <= 2; ++columns) {
-                if (rows != 0 || columns != 0)
-                    each(movedBy(rows, columns), Place{rows, columns});
-            }
-        }
+        return all;
     }
 
     FoundPlace result()
@@ -235,6 +270,7 @@ private:
         FoundPlace found;
         if (m_best.score.mean < leastThere)
             return found;
+        const std::vector<Alternative> alternatives = climb();
         m_best.lens = refine(viewOf(m_chart, 1920), m_best.lens, 4, 3);
         m_best.score = score(m_best.lens);
         found.lens = m_best.lens;
@@ -246,21 +282,20 @@ private:
         if (!found.isFound)
             found.doubt = Doubt::NotFound;
         else
-            compareWithNeighbours(found);
+            compareWith(alternatives, found);
         return found;
     }
 
-    void compareWithNeighbours(FoundPlace& found)
+    void compareWith(const std::vector<Alternative>& alternatives, FoundPlace& found) const
     {
-        const auto compare = [&](const cv::Matx33d& change, const Place& by) {
-            const double lead = betterBy(m_best.score, score(after(m_best.lens, change)));
-            if (lead < leastLead && found.doubt == Doubt::None) {
+        for (const Alternative& other : alternatives) {
+            const bool isLikely = other.candidate.isMirrored == m_best.isMirrored;
+            if (isLikely && betterBy(m_best.score, other.candidate.score) < leastLead) {
                 found.doubt = Doubt::AlikeWhenMoved;
-                found.alike = by;
+                found.alike = other.by;
+                return;
             }
-        };
-        forNeighbours(compare);
-        compare(halfTurn(), {});
+        }
     }
 
     const cv::Mat& m_chart;
@@ -272,6 +307,7 @@ private:
     cv::Mat m_reduced;
     double m_reducedBy = 0;
     Features m_pictureFeatures;
+    int m_featureSide = 0; ///< of the picture that they are of
     Candidate m_best;
 };
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the project and runs every functional test once. With --sanitizers also: the tests under AddressSanitizer and
-# UndefinedBehaviorSanitizer, and each fuzz target for half a minute. With --all also: everything with Qt 6, an optimised
-# build with the benchmarks (which scripts/bench.sh runs), hosts with the sources in their tree, and clang-tidy over the
-# libraries and programs.
+# UndefinedBehaviorSanitizer, each fuzz target for half a minute, and the reading of photographs, which needs OpenCV.
+# With --all also: everything with Qt 6, an optimised build with the benchmarks (which scripts/bench.sh runs), hosts with
+# the sources in their tree, and clang-tidy over the libraries and programs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -38,7 +38,8 @@ unlisted=()
 step 'Set-up'
 packages=(mold python3-minimal xvfb xauth clang-format fonts-noto-cjk xserver-xorg-core xserver-xorg-video-dummy
   x11-xserver-utils)
-[ -z "$sanitizers" ] || packages+=(clang libclang-rt-dev)
+[ -z "$sanitizers" ] || packages+=(clang libclang-rt-dev
+  libopencv-core-dev libopencv-imgproc-dev libopencv-features2d-dev libopencv-calib3d-dev)
 [ -z "$all" ] || packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy)
 scripts/setup.sh "${packages[@]}"
 scripts/format.sh --check

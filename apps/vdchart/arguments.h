@@ -8,11 +8,12 @@
 /// What the command line asks for. Each command uses a part of it.
 struct Arguments
 {
-    std::vector<std::string> records; ///< paths, "-" for the standard input
+    std::vector<std::string> records; ///< paths, of a reading also the pictures';  "-" for the standard input
     std::string record;
     std::string image;
     std::string output;
     std::string difference;
+    std::string page; ///< of HTML
     std::string folder;
     std::string walls;
     std::vector<std::string> presets;

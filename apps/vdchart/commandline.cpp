@@ -19,7 +19,7 @@ constexpr char description[] =
     "Test charts for LED screens from the command line: the same pixels as in the chart editor.";
 
 constexpr char footer[] =
-    "Exit codes: 0 good, 1 check or verify found something, 2 wrong usage, 3 unreadable input, "
+    "Exit codes: 0 good, 1 check, verify or read found something, 2 wrong usage, 3 unreadable input, "
     "4 not written, 130 interrupted.";
 
 /// An empty path comes from a script whose variable is not set: it is not the same as none.
@@ -85,6 +85,7 @@ CommandLine::CommandLine()
     addRender();
     addBatch();
     addVerify();
+    addRead();
 }
 
 ExitCode CommandLine::run(int argc, const char* const* argv)
@@ -217,6 +218,30 @@ void CommandLine::addVerify()
         ->type_name("RECORD");
     addReport(command);
     command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
+        ->type_name("FILE")
+        ->check(problemOfPath);
+    addChanges(command);
+    addLanguage(command);
+}
+
+void CommandLine::addRead()
+{
+    CLI::App* command = addCommand(
+        "read", "Tell from photographs or captures of the wall which cabinets are wrong", &runRead);
+    command
+        ->add_option(
+            "file", m_arguments.records,
+            "The pictures of one wall, and behind them the record; without it the one that the first "
+            "picture carries")
+        ->type_name("PICTURE")
+        ->required();
+    addReport(command);
+    command
+        ->add_option("-d,--diff", m_arguments.difference,
+                     "Write the straightened picture with what is wrong marked")
+        ->type_name("FILE")
+        ->check(problemOfPath);
+    command->add_option("--report", m_arguments.page, "Write a page of HTML with the plan and the cut-outs")
         ->type_name("FILE")
         ->check(problemOfPath);
     addChanges(command);

@@ -27,6 +27,7 @@ private:
     void addRender();
     void addBatch();
     void addVerify();
+    void addRead();
     void addChanges(CLI::App* command);
     void addReport(CLI::App* command);
     void takeFormats(const std::vector<std::string>& formats);

@@ -12,3 +12,4 @@ ExitCode runCheck(const Arguments& arguments);
 ExitCode runRender(const Arguments& arguments);
 ExitCode runBatch(const Arguments& arguments);
 ExitCode runVerify(const Arguments& arguments);
+ExitCode runRead(const Arguments& arguments);

@@ -6,7 +6,7 @@
 enum class ExitCode
 {
     Good = 0,
-    Found = 1,      ///< check or verify found something
+    Found = 1,      ///< check, verify or read found something
     Usage = 2,      ///< the command line is wrong
     Unreadable = 3, ///< a record, a list of walls or a picture cannot be read
     NotWritten = 4, ///< a file or the standard output cannot be written

@@ -1,23 +1,18 @@
 #include "arguments.h"
 #include "cabinetgrid.h"
-#include "carriedrecord.h"
 #include "chartcomparison.h"
 #include "chartrenderer.h"
 #include "commands.h"
 #include "fileclaims.h"
 #include "findingjson.h"
 #include "imageoutput.h"
-#include "languages.h"
 #include "outputfile.h"
 #include "recordinput.h"
 #include "verifyfolder.h"
+#include "wantedchart.h"
 
-#include <chartcabinets.h>
-
-#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -29,28 +24,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr qint64 fileLimit = 512LL * 1024 * 1024; ///< bytes
 constexpr qint64 pixelLimit = 64LL * 1024 * 1024; ///< more than three of the largest charts
-
-/// Looks at the size before the picture takes its memory.
-QImage readPicture(const QString& path)
-{
-    QByteArray bytes = readInput(path, fileLimit);
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (qint64(size.width()) * size.height() > pixelLimit)
-        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: %2 x %3 pixels are too many")
-                                                .arg(inputName(path), QString::number(size.width()),
-                                                     QString::number(size.height()))};
-    const QImage image = reader.read();
-    if (image.isNull())
-        throw Failure{ExitCode::Unreadable,
-                      QStringLiteral("%1: %2").arg(inputName(path), reader.errorString())};
-    return image;
-}
 
 /// A screen shows something else there, whatever color the pixel has.
 qint64 translucentPixels(const QImage& picture)
@@ -75,44 +49,6 @@ void requireDistinct(const Arguments& arguments)
     if (arguments.difference == "-")
         throw Failure{ExitCode::Usage, QStringLiteral("--diff: a file is needed, for the standard output "
                                                       "gets what was found")};
-}
-
-/// What a picture is to show.
-struct Wanted
-{
-    TestChartToolsData record;
-    QString language;
-};
-
-QString carriedLanguage(const QImage& picture, const QString& path)
-{
-    const QString language = CarriedRecord::language(picture);
-    if (language.isEmpty() || languageCodes().contains(language))
-        return language;
-    throw Failure{ExitCode::Unreadable,
-                  QStringLiteral("%1: its record is for the language \"%2\", which is not known")
-                      .arg(inputName(path), language)};
-}
-
-Wanted wantedFrom(const QImage& picture, const QString& path, const Arguments& arguments)
-{
-    const QByteArray json = CarriedRecord::json(picture);
-    if (json.isEmpty())
-        throw Failure{ExitCode::Unreadable,
-                      QStringLiteral("%1: it carries no record; name one behind it").arg(inputName(path))};
-    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
-    const QString language = arguments.isLanguageGiven ? QString() : carriedLanguage(picture, path);
-    return {requireRecord(json, inputName(path), folder, arguments.changes),
-            language.isEmpty() ? QString::fromStdString(arguments.language) : language};
-}
-
-/// From its file, or where none is named from the picture itself.
-Wanted wantedChart(const QImage& picture, const QString& path, const Arguments& arguments)
-{
-    if (arguments.record.empty())
-        return wantedFrom(picture, path, arguments);
-    return {requireRecord(QString::fromStdString(arguments.record), arguments.changes),
-            QString::fromStdString(arguments.language)};
 }
 
 /// What was found in the picture at `path`.
@@ -179,8 +115,8 @@ ExitCode runVerify(const Arguments& arguments)
     if (!arguments.record.empty())
         claims.reads(QString::fromStdString(arguments.record), QStringLiteral("the record of the chart"));
     claims.protect(difference);
-    const QImage picture = readPicture(path);
-    const Wanted wanted = wantedChart(picture, path, arguments);
+    const QImage picture = readPicture(path, pixelLimit);
+    const Wanted wanted = wantedChart(picture, path, arguments.record, arguments);
     claims.readsLogo(wanted.record.logoData);
     claims.protect(difference);
     const QImage expected = ChartRenderer(wanted.language).render(wanted.record);

@@ -30,18 +30,10 @@ const std::vector<std::string>& chartKinds()
 
 namespace {
 
-struct Grid
+WallSize randomSize(Random& random)
 {
-    int width;
-    int height;
-    int columns;
-    int rows;
-};
-
-Grid randomGrid(Random& random)
-{
-    static const std::vector<Grid> grids = {{1920, 1080, 16, 9}, {1920, 1152, 15, 9}, {2016, 1176, 12, 7},
-                                            {1920, 1152, 10, 6}, {1920, 1080, 16, 9}, {1536, 1024, 8, 4}};
+    static const std::vector<WallSize> grids = {{1920, 1080, 16, 9}, {1920, 1152, 15, 9}, {2016, 1176, 12, 7},
+                                                {1920, 1152, 10, 6}, {1920, 1080, 16, 9}, {1536, 1024, 8, 4}};
     return grids[random() % grids.size()];
 }
 
@@ -61,7 +53,7 @@ void label(InLineChartData& data, const RgbaColor& color, int size)
     data.serialSize = size;
 }
 
-TestChartToolsData recordOf(const std::string& kind, const Grid& grid)
+TestChartToolsData recordOf(const std::string& kind, const WallSize& grid)
 {
     TestChartToolsData record;
     record.publicData.resolutionWidth = grid.width;
@@ -277,14 +269,20 @@ private:
 
 } // namespace
 
-Wall simulatedWall(const std::string& kind, int faults, Random& random)
+Wall rightWall(const std::string& kind, const WallSize& size)
 {
     Wall wall;
     wall.chartKind = kind;
-    wall.record = recordOf(kind, randomGrid(random));
+    wall.record = recordOf(kind, size);
     wall.cabinets = cabinetsOf(wall.record);
     wall.chart = ChartPicture(wall.record).image();
     wall.shown = wall.chart;
+    return wall;
+}
+
+Wall simulatedWall(const std::string& kind, int faults, Random& random)
+{
+    Wall wall = rightWall(kind, randomSize(random));
     FaultMaker(wall, random).make(faults);
     return wall;
 }

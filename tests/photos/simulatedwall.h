@@ -46,6 +46,18 @@ struct Wall
 const std::vector<std::string>& chartKinds();
 
 /// `faults`: how many cabinets are wrong; a swap or a ring counts each of its cabinets.
+/// How large a chart is, and how many cabinets it has.
+struct WallSize
+{
+    int width;
+    int height;
+    int columns;
+    int rows;
+};
+
+/// A wall of that kind that shows its chart.
+Wall rightWall(const std::string& kind, const WallSize& size);
+
 Wall simulatedWall(const std::string& kind, int faults, Random& random);
 
 } // namespace Photos

@@ -1,0 +1,107 @@
+#include "arguments.h"
+#include "cabinetgrid.h"
+#include "chartrenderer.h"
+#include "commands.h"
+#include "fileclaims.h"
+#include "imageoutput.h"
+#include "outputfile.h"
+#include "readingjson.h"
+#include "readingpicture.h"
+#include "readingreport.h"
+#include "recordinput.h"
+#include "wantedchart.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <iostream>
+
+namespace {
+
+constexpr qint64 pixelLimit = 100LL * 1000 * 1000;
+
+/// What stands on the command line: pictures, and behind them perhaps the record.
+struct Inputs
+{
+    std::vector<std::string> pictures;
+    std::string record;
+};
+
+bool isRecord(const std::string& path)
+{
+    QFile file(QString::fromStdString(path));
+    if (!file.open(QIODevice::ReadOnly))
+        return QFileInfo(file.fileName()).suffix() == QLatin1String("json");
+    return file.read(64).trimmed().startsWith('{');
+}
+
+Inputs inputsOf(const std::vector<std::string>& files)
+{
+    Inputs inputs{files, {}};
+    if (files.size() > 1 && (files.back() == "-" || isRecord(files.back()))) {
+        inputs.record = files.back();
+        inputs.pictures.pop_back();
+    }
+    return inputs;
+}
+
+/// The outputs must not take the place of what is read.
+void protectInputs(const Inputs& inputs, const Arguments& arguments)
+{
+    FileClaims claims;
+    for (const std::string& picture : inputs.pictures)
+        claims.reads(QString::fromStdString(picture), QStringLiteral("a picture that is looked at"));
+    if (!inputs.record.empty())
+        claims.reads(QString::fromStdString(inputs.record), QStringLiteral("the record of the chart"));
+    for (const std::string& output : {arguments.difference, arguments.page}) {
+        if (output == "-")
+            throw Failure{ExitCode::Usage, QStringLiteral("a file is needed for --diff and --report, for the "
+                                                          "standard output gets what was found")};
+        claims.protect(QString::fromStdString(output));
+    }
+}
+
+void print(const WallReading::Reading& reading, const QString& name, const Arguments& arguments)
+{
+    if (arguments.report == "json") {
+        std::cout << QJsonDocument(readingJson(reading)).toJson().toStdString();
+        return;
+    }
+    for (const QString& sentence : reading.sentences())
+        std::cout << name.toStdString() << ": " << sentence.toStdString() << '\n';
+}
+
+ExitCode codeOf(const WallReading::Reading& reading)
+{
+    if (!reading.isLocated)
+        return ExitCode::Unreadable;
+    return reading.isGood() ? ExitCode::Good : ExitCode::Found;
+}
+
+} // namespace
+
+ExitCode runRead(const Arguments& arguments)
+{
+    const Inputs inputs = inputsOf(arguments.records);
+    protectInputs(inputs, arguments);
+    const QString difference = QString::fromStdString(arguments.difference);
+    const QString format = difference.isEmpty() ? QString() : imageFormat(difference);
+    std::vector<QImage> pictures;
+    for (const std::string& picture : inputs.pictures)
+        pictures.push_back(readPicture(QString::fromStdString(picture), pixelLimit));
+    const QString first = QString::fromStdString(inputs.pictures.front());
+    const Wanted wanted = wantedChart(pictures.front(), first, inputs.record, arguments);
+    const WallReading::Chart chart{ChartRenderer(wanted.language).render(wanted.record),
+                                   cabinetsOf(wanted.record)};
+    std::vector<WallReading::Reading> readings;
+    for (const QImage& picture : pictures)
+        readings.push_back(WallReading::read(picture, chart));
+    const WallReading::Reading reading = WallReading::combined(readings, chart);
+    print(reading, pictures.size() == 1 ? inputName(first) : QStringLiteral("the wall"), arguments);
+    if (!difference.isEmpty() && reading.isLocated)
+        writeOutput(difference, encodeImage(markedPicture(reading, chart), format));
+    if (!arguments.page.empty())
+        writeOutput(QString::fromStdString(arguments.page), readingReport(reading, chart, first));
+    return codeOf(reading);
+}

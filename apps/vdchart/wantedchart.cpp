@@ -1,0 +1,70 @@
+#include "wantedchart.h"
+
+#include "arguments.h"
+#include "carriedrecord.h"
+#include "exitcode.h"
+#include "languages.h"
+#include "recordinput.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QImageReader>
+
+using namespace vardeno::testcharttools;
+
+namespace {
+
+constexpr qint64 fileLimit = 512LL * 1024 * 1024; ///< bytes
+
+QString carriedLanguage(const QImage& picture, const QString& path)
+{
+    const QString language = CarriedRecord::language(picture);
+    if (language.isEmpty() || languageCodes().contains(language))
+        return language;
+    throw Failure{ExitCode::Unreadable,
+                  QStringLiteral("%1: its record is for the language \"%2\", which is not known")
+                      .arg(inputName(path), language)};
+}
+
+Wanted wantedFrom(const QImage& picture, const QString& path, const Arguments& arguments)
+{
+    const QByteArray json = CarriedRecord::json(picture);
+    if (json.isEmpty())
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: it carries no record; name one behind it").arg(inputName(path))};
+    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
+    const QString language = arguments.isLanguageGiven ? QString() : carriedLanguage(picture, path);
+    return {requireRecord(json, inputName(path), folder, arguments.changes),
+            language.isEmpty() ? QString::fromStdString(arguments.language) : language};
+}
+
+} // namespace
+
+QImage readPicture(const QString& path, qint64 pixelLimit)
+{
+    QByteArray bytes = readInput(path, fileLimit);
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (qint64(size.width()) * size.height() > pixelLimit)
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: %2 x %3 pixels are too many")
+                                                .arg(inputName(path), QString::number(size.width()),
+                                                     QString::number(size.height()))};
+    const QImage image = reader.read();
+    if (image.isNull())
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: %2").arg(inputName(path), reader.errorString())};
+    return image;
+}
+
+Wanted wantedChart(const QImage& picture, const QString& path, const std::string& record,
+                   const Arguments& arguments)
+{
+    if (record.empty())
+        return wantedFrom(picture, path, arguments);
+    return {requireRecord(QString::fromStdString(record), arguments.changes),
+            QString::fromStdString(arguments.language)};
+}

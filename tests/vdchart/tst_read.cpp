@@ -1,0 +1,135 @@
+#include "programtest.h"
+
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPainter>
+
+/// What `vdchart read` prints, writes and ends with.
+class TestRead : public ProgramTest
+{
+    Q_OBJECT
+
+private:
+    static constexpr int cabinetSide = 120; ///< chart pixels
+
+    /// The chart with a black cabinet, and two that are swapped.
+    void saveWithFaults(const QString& name) const
+    {
+        const QImage chart(path(QStringLiteral("wall.png")));
+        QImage shown(chart.size(), QImage::Format_RGB32); // a copy would carry the record
+        QPainter painter(&shown);
+        painter.drawImage(0, 0, chart);
+        const QRect one(cabinetSide, 0, cabinetSide, cabinetSide);
+        const QRect other(3 * cabinetSide, 2 * cabinetSide, cabinetSide, cabinetSide);
+        painter.drawImage(one.topLeft(), chart.copy(other));
+        painter.drawImage(other.topLeft(), chart.copy(one));
+        painter.fillRect(2 * cabinetSide, cabinetSide, cabinetSide, cabinetSide, Qt::black);
+        painter.end();
+        QVERIFY(shown.save(path(name), nullptr, 85));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        write(QStringLiteral("wall.json"),
+              run({"new", "-p", "numbering-top-left", "-s", "width=720", "-s", "height=480", "--grid", "6x4"})
+                  .output);
+        QCOMPARE(run({"render", "wall.json", "-o", "wall.png"}).code, 0);
+        saveWithFaults(QStringLiteral("bad.jpg"));
+        QImage grey(300, 200, QImage::Format_RGB32);
+        grey.fill(Qt::gray);
+        QVERIFY(grey.save(path(QStringLiteral("grey.png"))));
+        write(QStringLiteral("empty.png"), "");
+        write(QStringLiteral("text.jpg"), "This is no picture.");
+        // Portable grey map: a head that promises more than is there.
+        write(QStringLiteral("huge.pgm"), "P5 20000 20000 255\n");
+        write(QStringLiteral("cut.png"), read(QStringLiteral("wall.png")).left(400));
+    }
+
+    void codes_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("errors");
+        QTest::newRow("its own chart") << QStringList{"wall.png", "wall.json"} << 0 << QString();
+        QTest::newRow("with the carried record") << QStringList{"wall.png"} << 0 << QString();
+        QTest::newRow("with faults") << QStringList{"bad.jpg", "wall.json"} << 1 << QString();
+        QTest::newRow("twice") << QStringList{"bad.jpg", "bad.jpg", "wall.json"} << 1 << QString();
+        QTest::newRow("another picture") << QStringList{"grey.png", "wall.json"} << 3 << QString();
+        QTest::newRow("no record") << QStringList{"bad.jpg"} << 3 << "it carries no record";
+        QTest::newRow("no picture") << QStringList{"text.jpg", "wall.json"} << 3 << "text.jpg: ";
+        QTest::newRow("an empty picture") << QStringList{"empty.png", "wall.json"} << 3 << "empty.png: ";
+        QTest::newRow("half a picture") << QStringList{"cut.png", "wall.json"} << 3 << "cut.png: ";
+        QTest::newRow("too large") << QStringList{"huge.pgm", "wall.json"} << 3
+                                   << "20000 x 20000 pixels are too many";
+        QTest::newRow("not there") << QStringList{"none.jpg", "wall.json"} << 3 << "none.jpg: ";
+        QTest::newRow("page over the picture")
+            << QStringList{"bad.jpg", "wall.json", "--report", "bad.jpg"} << 2 << "bad.jpg";
+        QTest::newRow("page on the output")
+            << QStringList{"bad.jpg", "wall.json", "--report", "-"} << 2 << "--report";
+    }
+
+    void codes()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, errors);
+        const Outcome outcome = run(QStringList{QStringLiteral("read")} + arguments);
+        QTEST(outcome.code, "code");
+        QVERIFY2(outcome.errors.contains(errors), qPrintable(outcome.errors));
+    }
+
+    void saysItInSentences()
+    {
+        const QByteArray text = run({"read", "bad.jpg", "wall.json"}).output;
+        QVERIFY2(text.contains("bad.jpg: 1-2 and 3-4 are swapped\n"), text);
+        QVERIFY2(text.contains("bad.jpg: 2-3 is dark\n"), text);
+        QCOMPARE(run({"read", "wall.png"}).output, QByteArray("wall.png: nothing wrong was seen\n"));
+    }
+
+    void saysItForPrograms()
+    {
+        const QJsonObject object =
+            QJsonDocument::fromJson(run({"read", "bad.jpg", "wall.json", "-f", "json"}).output).object();
+        QVERIFY(object.value(QLatin1String("located")).toBool());
+        QCOMPARE(object.value(QLatin1String("corners")).toArray().size(), 4);
+        QCOMPARE(object.value(QLatin1String("edges")).toArray().size(), 0);
+        const QJsonArray findings = object.value(QLatin1String("findings")).toArray();
+        QCOMPARE(findings.size(), 3);
+        for (const QJsonValue& value : findings) {
+            const QJsonObject finding = value.toObject();
+            QVERIFY(finding.value(QLatin1String("confidence")).toDouble() > 0.5);
+            QVERIFY(!finding.contains(QLatin1String("turn")));
+            QVERIFY(!finding.contains(QLatin1String("shift")));
+            const bool isSwapped = finding.value(QLatin1String("kind")) == QLatin1String("swapped");
+            QCOMPARE(finding.contains(QLatin1String("shows")), isSwapped);
+        }
+    }
+
+    void saysThatItIsNotThere()
+    {
+        const QJsonObject object =
+            QJsonDocument::fromJson(run({"read", "grey.png", "wall.json", "-f", "json"}).output).object();
+        QCOMPARE(object.value(QLatin1String("located")), QJsonValue(false));
+        QVERIFY(!object.contains(QLatin1String("corners")));
+    }
+
+    void writesAPageOfItsOwn()
+    {
+        QCOMPARE(run({"read", "bad.jpg", "wall.json", "--report", "page.html", "--diff", "marked.png"}).code,
+                 1);
+        const QByteArray page = read(QStringLiteral("page.html"));
+        QVERIFY(page.contains("1-2 and 3-4 are swapped"));
+        QCOMPARE(page.count("class=\"bad\""), 3);
+        QCOMPARE(page.count("class=\"pair\""), 3);
+        QCOMPARE(page.count("<img"), page.count("src=\"data:image/jpeg;base64,"));
+        QVERIFY(!page.contains("http"));
+        const QImage marked(path(QStringLiteral("marked.png")));
+        QCOMPARE(marked.size(), QSize(720, 480));
+        QCOMPARE(marked.pixelColor(2 * cabinetSide + 2, cabinetSide + cabinetSide / 2), QColor(255, 32, 32));
+    }
+};
+
+VD_TEST_MAIN(TestRead)
+#include "tst_read.moc"
