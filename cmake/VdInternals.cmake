@@ -7,4 +7,4 @@ target_include_directories(internals INTERFACE
 target_compile_definitions(internals INTERFACE
   $<TARGET_PROPERTY:vdchartcore,INTERFACE_COMPILE_DEFINITIONS>
   $<TARGET_PROPERTY:vdpatterndesign,INTERFACE_COMPILE_DEFINITIONS>)
-target_link_libraries(internals INTERFACE vardeno::vdtranslate vardeno::vdwidget Qt${VD_QT_MAJOR}::Widgets)
+target_link_libraries(internals INTERFACE $<TARGET_PROPERTY:vdchartcore,LINK_LIBRARIES> vardeno::vdtranslate vardeno::vdwidget Qt${VD_QT_MAJOR}::Widgets)

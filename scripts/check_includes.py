@@ -9,12 +9,13 @@ import pathlib
 import re
 import sys
 
-SUPPORT, RECORDS, GEOMETRY, LAYERS = "support", "records", "geometry", "layers"
-CORE = [SUPPORT, RECORDS, GEOMETRY, LAYERS]
+SUPPORT, PICTURES, RECORDS, GEOMETRY, LAYERS = "support", "pictures", "records", "geometry", "layers"
+CORE = [SUPPORT, PICTURES, RECORDS, GEOMETRY, LAYERS]
 
 # Room: what it may include besides itself. Downwards only.
 ROOMS = {
     SUPPORT: [],
+    PICTURES: [SUPPORT],
     RECORDS: [SUPPORT],
     GEOMETRY: [SUPPORT, RECORDS],
     LAYERS: [SUPPORT, RECORDS, GEOMETRY],

@@ -14,6 +14,8 @@
 #include <new>
 #include <system_error>
 
+using namespace vardeno::testcharttools;
+
 namespace {
 
 constexpr qint64 mostMemory = 1024LL * 1024 * 1024;     ///< bytes, of pictures that are made at the same time

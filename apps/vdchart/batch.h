@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batchplan.h"
-#include "picturerows.h"
+#include <picturerows.h>
 
 #include <atomic>
 #include <deque>
@@ -32,8 +32,9 @@ private:
     void make(PlannedPicture& planned, const ChartRenderer& renderer);
     void draw(PlannedPicture& planned, const ChartRenderer& renderer);
     void waitForWorkers(int count);
-    void finish(PlannedPicture& planned, const PictureRows& picture);
-    void write(const QString& path, const std::function<void(const ByteSink& sink)>& encode);
+    void finish(PlannedPicture& planned, const vardeno::testcharttools::PictureRows& picture);
+    void write(const QString& path,
+               const std::function<void(const vardeno::testcharttools::ByteSink& sink)>& encode);
 
     const Arguments& m_arguments;
     std::vector<PlannedPicture> m_plan;

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QtEndian>
 
+using namespace vardeno::testcharttools;
+
 namespace {
 
 constexpr quint32 headerBytes = 54;

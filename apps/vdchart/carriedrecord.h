@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pngencoder.h"
+#include <pngencoder.h>
 
 #include <testcharttoolsdata.h>
 
@@ -11,8 +11,8 @@
 namespace CarriedRecord {
 
 /// The texts for a picture that is to be written to `output`. A logo's path is relative to its folder.
-std::vector<PngText> texts(const vardeno::testcharttools::TestChartToolsData& record, const QString& language,
-                           const QString& output);
+std::vector<vardeno::testcharttools::PngText> texts(const vardeno::testcharttools::TestChartToolsData& record,
+                                                    const QString& language, const QString& output);
 
 /// What a picture carries; empty where it carries none.
 QByteArray json(const QImage& picture);

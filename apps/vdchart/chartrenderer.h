@@ -1,7 +1,7 @@
 #pragma once
 
 #include "chartapplication.h"
-#include "picturerows.h"
+#include <picturerows.h>
 
 #include <chartpicture.h>
 
@@ -22,7 +22,8 @@ public:
     /// The chart in its resolution; a large one is drawn strip by strip when its rows are asked for. Throws
     /// Failure where the picture of its logo cannot be drawn: without it, it would be another chart. For any
     /// thread.
-    PictureRows rows(const vardeno::testcharttools::TestChartToolsData& record) const;
+    vardeno::testcharttools::PictureRows
+    rows(const vardeno::testcharttools::TestChartToolsData& record) const;
     /// The same as one image.
     QImage render(const vardeno::testcharttools::TestChartToolsData& record) const;
 

@@ -8,6 +8,8 @@
 
 #include <new>
 
+using namespace vardeno::testcharttools;
+
 QString imageFormat(const QString& path)
 {
     if (path == QLatin1String("-"))

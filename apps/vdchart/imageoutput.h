@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pngencoder.h"
+#include <pngencoder.h>
 
 #include <QByteArray>
 #include <QImage>
@@ -12,8 +12,10 @@ QString imageFormat(const QString& path);
 
 /// Writes a picture as a file of `format` to `sink`, part by part. `options` are those of PNG; JPEG has
 /// quality 100. Throws Failure where there is not enough memory. For any thread.
-void encodePicture(const PictureRows& picture, const QString& format, const PngOptions& options,
-                   const ByteSink& sink);
+void encodePicture(const vardeno::testcharttools::PictureRows& picture, const QString& format,
+                   const vardeno::testcharttools::PngOptions& options,
+                   const vardeno::testcharttools::ByteSink& sink);
 
 /// The same of an image that is there, as the bytes of the file.
-QByteArray encodeImage(const QImage& image, const QString& format, const PngOptions& options = {});
+QByteArray encodeImage(const QImage& image, const QString& format,
+                       const vardeno::testcharttools::PngOptions& options = {});

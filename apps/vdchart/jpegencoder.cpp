@@ -8,6 +8,8 @@
 
 #include <jpeglib.h>
 
+using namespace vardeno::testcharttools;
+
 namespace {
 
 constexpr int quality = 100;

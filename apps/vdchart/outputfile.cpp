@@ -12,6 +12,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+using namespace vardeno::testcharttools;
+
 namespace {
 
 Failure notWritten(const QString& name, const QString& reason)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "picturerows.h"
+#include <picturerows.h>
 
 #include <QByteArray>
 #include <QString>
@@ -10,7 +10,8 @@
 void writeOutput(const QString& path, const QByteArray& bytes);
 
 /// The same of what `produce` hands to its sink, part by part. Where it throws, the file stays as it was.
-void writeOutput(const QString& path, const std::function<void(const ByteSink& sink)>& produce);
+void writeOutput(const QString& path,
+                 const std::function<void(const vardeno::testcharttools::ByteSink& sink)>& produce);
 
 /// What the system says of its error number `error`, in words for what is written.
 QString writeProblem(int error);

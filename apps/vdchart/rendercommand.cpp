@@ -9,6 +9,8 @@
 
 #include <QThread>
 
+using namespace vardeno::testcharttools;
+
 ExitCode runRender(const Arguments& arguments)
 {
     const QString path = QString::fromStdString(arguments.output);

@@ -86,7 +86,7 @@ private Q_SLOTS:
         QFETCH(QImage::Format, format);
         const QImage image = picture(size, format);
         for (int compression = 0; compression <= 9; ++compression) {
-            const QImage read = QImage::fromData(encodePng(image, compression), "PNG");
+            const QImage read = QImage::fromData(encodePng(image, {compression}), "PNG");
             VD_COMPARE_IMAGES(read.convertToFormat(QImage::Format_RGB32),
                               image.convertToFormat(QImage::Format_RGB32));
         }
@@ -105,7 +105,7 @@ private Q_SLOTS:
     {
         QFETCH(int, count);
         const QImage image = noise({301, 203}, count, 5);
-        const QByteArray file = encodePng(image, 1);
+        const QByteArray file = encodePng(image, {1});
         constexpr int colorType =
             25; // behind the signature, the header's length and name, two sizes and the depth
         QTEST(int(file.at(colorType)), "colorType");
@@ -119,8 +119,8 @@ private Q_SLOTS:
     {
         QImage image = noise({64, 64}, 256, 1);
         image.setPixel(63, 63, qRgb(1, 2, 3));
-        VD_COMPARE_IMAGES(decoded(encodePng(image, 1)), image);
-        QCOMPARE(int(encodePng(image, 1).at(25)), 2);
+        VD_COMPARE_IMAGES(decoded(encodePng(image, {1})), image);
+        QCOMPARE(int(encodePng(image, {1}).at(25)), 2);
     }
 
     void randomPictures()
@@ -129,13 +129,13 @@ private Q_SLOTS:
         for (int i = 0; i < 60; ++i) {
             const QSize size(1 + int(random() % 700), 1 + int(random() % 300));
             const QImage image = noise(size, 1 + int(random() % 400), 1 + int(random() % 40));
-            VD_COMPARE_IMAGES(decoded(encodePng(image, int(random() % 10))), image);
+            VD_COMPARE_IMAGES(decoded(encodePng(image, {int(random() % 10)})), image);
         }
     }
 
     void itSaysItsColorSpaceAndResolution()
     {
-        const QByteArray file = encodePng(noise({3, 2}, 2, 1), 1);
+        const QByteArray file = encodePng(noise({3, 2}, 2, 1), {1});
         QVERIFY(file.contains(QByteArray("\0\0\0\1sRGB\0", 9)));
         QCOMPARE(QImage::fromData(file).dotsPerMeterX(), 3780);
         QCOMPARE(QImage::fromData(file).dotsPerMeterY(), 3780);
@@ -259,13 +259,15 @@ private Q_SLOTS:
     void compression()
     {
         const QImage image = picture({640, 480}, QImage::Format_RGB32);
-        QVERIFY(encodePng(image, 0).size() > 640 * 480 * 3);
-        QVERIFY(encodePng(image, 1).size() < encodePng(image, 0).size());
-        QVERIFY(encodePng(image, 9).size() <= encodePng(image, 1).size());
+        QVERIFY(encodePng(image, {0}).size() > 640 * 480 * 3);
+        QVERIFY(encodePng(image, {1}).size() < encodePng(image, {0}).size());
+        QVERIFY(encodePng(image, {9}).size() <= encodePng(image, {1}).size());
     }
 
-    void nothing() { QCOMPARE(encodePng(QImage(), 1), QByteArray()); }
+    void nothing() { QCOMPARE(encodePng(QImage(), {1}), QByteArray()); }
 };
 
 VD_TEST_MAIN(TestPngEncoder)
 #include "tst_pngencoder.moc"
+
+using namespace vardeno::testcharttools;

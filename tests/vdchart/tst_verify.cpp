@@ -204,3 +204,5 @@ private Q_SLOTS:
 
 VD_TEST_MAIN(TestVerify)
 #include "tst_verify.moc"
+
+using namespace vardeno::testcharttools;

@@ -1,6 +1,6 @@
-#include "pngblock.h"
+#include "pictures/pngblock.h"
 
-#include "colortable.h"
+#include "pictures/colortable.h"
 
 #include <zlib.h>
 
@@ -8,6 +8,8 @@
 #include <cstring>
 #include <new>
 #include <vector>
+
+namespace vardeno::testcharttools {
 
 namespace {
 
@@ -166,3 +168,5 @@ PngBlock::Deflated PngBlock::deflated() const
     return {deflateRaw(bytes, compression, runs ? Z_RLE : Z_DEFAULT_STRATEGY, isLast), isLast,
             quint32(adler32(1, bytes.data(), uInt(bytes.size()))), qint64(bytes.size())};
 }
+
+} // namespace vardeno::testcharttools

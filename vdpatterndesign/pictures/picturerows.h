@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace vardeno::testcharttools {
+
 /// A picture by its rows: one that is drawn while it is encoded never stands in memory as a whole.
 struct PictureRows
 {
@@ -33,3 +35,5 @@ using ByteSink = std::function<void(const char* bytes, qint64 count)>;
 /// pictures by size. A wall has none.
 constexpr int dotsPerInch = 96;
 constexpr int dotsPerMeter = 3780;
+
+} // namespace vardeno::testcharttools

@@ -1,6 +1,8 @@
-#include "colortable.h"
+#include "pictures/colortable.h"
 
 #include <cstring>
+
+namespace vardeno::testcharttools {
 
 namespace {
 
@@ -55,3 +57,5 @@ bool ColorTable::add(const QImage& image)
     }
     return true;
 }
+
+} // namespace vardeno::testcharttools

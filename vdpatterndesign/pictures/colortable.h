@@ -5,6 +5,8 @@
 #include <array>
 #include <vector>
 
+namespace vardeno::testcharttools {
+
 /// The colours of a picture, as long as there are at most 256 of them.
 class ColorTable
 {
@@ -28,3 +30,5 @@ private:
     std::array<int, slotCount> m_indices;          ///< -1: free
     std::vector<QRgb> m_colors;
 };
+
+} // namespace vardeno::testcharttools

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QImage>
 
+namespace vardeno::testcharttools {
+
 class ColorTable;
 
 /// Some rows of a PNG file's picture, compressed by themselves: blocks of one picture can be compressed at
@@ -29,3 +31,5 @@ struct PngBlock
     /// `std::bad_alloc`.
     Deflated deflated() const;
 };
+
+} // namespace vardeno::testcharttools

@@ -1,7 +1,7 @@
 #include "pngencoder.h"
 
-#include "colortable.h"
-#include "pngblock.h"
+#include "pictures/colortable.h"
+#include "pictures/pngblock.h"
 
 #include <QtEndian>
 
@@ -10,6 +10,8 @@
 #include <deque>
 #include <future>
 #include <system_error>
+
+namespace vardeno::testcharttools {
 
 namespace {
 
@@ -187,14 +189,14 @@ void encodePng(const PictureRows& picture, const PngOptions& options, const Byte
     PngFile(picture, options, sink).write();
 }
 
-QByteArray encodePng(const QImage& image, int compression)
+QByteArray encodePng(const QImage& image, const PngOptions& options)
 {
     QByteArray file;
     if (image.isNull())
         return file;
-    PngOptions options;
-    options.compression = compression;
     encodePng(rowsOf(image), options,
               [&file](const char* bytes, qint64 count) { file.append(bytes, int(count)); });
     return file;
 }
+
+} // namespace vardeno::testcharttools
