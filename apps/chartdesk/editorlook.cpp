@@ -40,6 +40,7 @@ EditorLook::EditorLook(VTestChartTools* editor)
     editor->setLiveSliders(true);
     editor->setCalmLock(true);
     editor->setTypingGoesOn(true);
+    editor->setSmallPng(true);
     editor->setUndoKeys(true);
     editor->setFollowsHost(true);
     editor->setZoomablePreview(true);

@@ -365,6 +365,20 @@ private Q_SLOTS:
         QFAIL("no two saves within one second");
     }
 
+    void smallFiles()
+    {
+        QVERIFY(!m_tool->smallPng());
+        m_tool->setLastSavePath(oldChart());
+        replace(oldChart());
+        const QFileInfo chart(m_host->last().path); // perhaps the same file twice, within a second
+        const qint64 large = chart.size();
+        m_tool->setSmallPng(true);
+        replace(chart.filePath());
+        const QString small = m_host->last().path;
+        QVERIFY(QFileInfo(small).size() * 2 < large);
+        VD_COMPARE_IMAGES(QImage(small).convertToFormat(QImage::Format_RGB32), m_tool->chartImage());
+    }
+
     void addIsLogged()
     {
         m_tool->slotAddConfirmButtonClicked();

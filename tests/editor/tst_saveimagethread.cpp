@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QPainter>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -194,6 +195,43 @@ private Q_SLOTS:
         QVERIFY(saves(m_image, at("chart.png")));
         QVERIFY(QFileInfo(at("chart.png")).isSymLink());
         QCOMPARE(contents(at("target.png")), encoded(m_image, "PNG"));
+    }
+
+    void smallPngHasTheSamePixels()
+    {
+        QImage image(1000, 1500, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        QPainter(&image).drawImage(100, 100, noise({200, 300}));
+        QVERIFY(saves(image, at("large.png")));
+        SaveImageThread thread(image, at("chart.png"));
+        thread.setSmallPng(true);
+        QVERIFY(reports(thread));
+        QCOMPARE(thread.failedReason(), QString());
+        QVERIFY(contents(at("chart.png")).size() * 4 < contents(at("large.png")).size());
+        VD_COMPARE_IMAGES(QImage(at("chart.png")).convertToFormat(QImage::Format_RGB32), image);
+    }
+
+    void smallPngIsOfPngFilesOnly()
+    {
+        SaveImageThread thread(m_image, at("chart.bmp"));
+        thread.setSmallPng(true);
+        QVERIFY(reports(thread));
+        QCOMPARE(contents(at("chart.bmp")), encoded(m_image, "bmp"));
+    }
+
+    void smallPngThatCannotBeWritten()
+    {
+        SaveImageThread nowhere(m_image, at("none/chart.png"));
+        nowhere.setSmallPng(true);
+        QVERIFY(!reports(nowhere));
+        SaveImageThread unwritten(m_image, at("none/chart.png"));
+        QVERIFY(!reports(unwritten));
+        QCOMPARE(nowhere.failedReason(), unwritten.failedReason());
+        SaveImageThread nothing(QImage(), at("chart.png"));
+        nothing.setSmallPng(true);
+        QVERIFY(!reports(nothing));
+        QVERIFY(!nothing.failedReason().isEmpty());
+        QCOMPARE(files(), QStringList());
     }
 
     void imageIsTheOneOfTheConstruction()

@@ -73,6 +73,7 @@ void ChartSaver::write(const QImage& image, const QString& path, const std::func
 {
     m_buttons->beginWriting();
     auto* thread = new SaveImageThread(image, path, m_tool);
+    thread->setSmallPng(smallPng);
     connect(
         thread, &SaveImageThread::saveFinished, this,
         [this, thread, path, written](bool success) {

@@ -31,6 +31,7 @@ public:
     QString currentEditName = QStringLiteral(" ");
     QString lastSavePath = QStringLiteral(" ");
     int testImageNumber = 0;
+    bool smallPng = false;
 
     /// Starts to write the image that `compose` gives into a new folder, and returns its full path. Without a
     /// name it gets that of a new chart.

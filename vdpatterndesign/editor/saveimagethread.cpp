@@ -1,6 +1,10 @@
 #include "saveimagethread.h"
 
+#include "pngencoder.h"
 #include "support/imagefile.h"
+
+#include <cstring>
+#include <new>
 
 namespace vardeno::testcharttools {
 
@@ -43,7 +47,24 @@ void SaveImageThread::run()
 {
     const char* const format = formatOf(m_path);
     *m_fault = {};
-    Q_EMIT saveFinished(!format || writeImageWhole(m_image, m_path, format, quality, m_fault.get()));
+    Q_EMIT saveFinished(!format || write(format));
+}
+
+bool SaveImageThread::write(const char* format)
+{
+    if (!m_smallPng || std::strcmp(format, "PNG") != 0)
+        return writeImageWhole(m_image, m_path, format, quality, m_fault.get());
+    try {
+        PngOptions options;
+        options.threads = idealThreadCount();
+        const QByteArray file = encodePng(m_image, options);
+        if (!file.isEmpty())
+            return writeBytesWhole(file, m_path, m_fault.get());
+    } catch (const std::bad_alloc&) {
+        // told like a picture that cannot be encoded
+    }
+    *m_fault = {WriteFault::NotEncodable, QString()};
+    return false;
 }
 
 QString SaveImageThread::failedReason() const

@@ -25,6 +25,11 @@ public:
     SaveImageThread(const QImage& image, const QString& path, QObject* parent = nullptr);
     ~SaveImageThread() override;
 
+    /// Whether a PNG file is written small, which all cores take part in, rather than as `QImage` does it
+    /// with quality 100, about as large as the pixels in memory. The pixels are the same. Before the thread
+    /// is started; off at first.
+    void setSmallPng(bool small) { m_smallPng = small; }
+
     /// What the thread does. Called directly it writes, and reports, in the caller's thread before it
     /// returns.
     void run() override;
@@ -38,8 +43,11 @@ Q_SIGNALS:
     void saveFinished(bool success);
 
 private:
+    bool write(const char* format);
+
     QImage m_image;
     QString m_path;
+    bool m_smallPng = false;
     class Fault;
     std::unique_ptr<Fault> m_fault;
 };

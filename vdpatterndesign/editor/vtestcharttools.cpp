@@ -198,6 +198,16 @@ void VTestChartTools::setTypingGoesOn(bool goesOn)
     d->cycle.input().setTypingGoesOn(goesOn);
 }
 
+bool VTestChartTools::smallPng() const
+{
+    return d->saver->smallPng;
+}
+
+void VTestChartTools::setSmallPng(bool small)
+{
+    d->saver->smallPng = small;
+}
+
 bool VTestChartTools::followsHost() const
 {
     return d->followsHost();

@@ -31,6 +31,7 @@ class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
     Q_PROPERTY(bool liveSliders READ liveSliders WRITE setLiveSliders)
     Q_PROPERTY(bool typingGoesOn READ typingGoesOn WRITE setTypingGoesOn)
     Q_PROPERTY(bool calmLock READ calmLock WRITE setCalmLock)
+    Q_PROPERTY(bool smallPng READ smallPng WRITE setSmallPng)
     Q_PROPERTY(bool followsHost READ followsHost WRITE setFollowsHost)
     Q_PROPERTY(bool zoomablePreview READ zoomablePreview WRITE setZoomablePreview)
     Q_PROPERTY(bool undoKeys READ undoKeys WRITE setUndoKeys)
@@ -114,6 +115,10 @@ public:
     /// with the others, and the keys that arrive meanwhile are its at the end.
     bool typingGoesOn() const;
     void setTypingGoesOn(bool goesOn);
+    /// Whether charts are saved as small PNG files, on all cores: see `SaveImageThread::setSmallPng`. Off at
+    /// first.
+    bool smallPng() const;
+    void setSmallPng(bool small);
     /// Whether the tool takes the size that its host gives it, from 660 x 300 pixels on: the chart has the
     /// room that the settings leave, and no caption or value of theirs is cut in whatever font. Off, at
     /// first, it has its one size.

@@ -22,6 +22,11 @@ bool writeImageWhole(const QImage& image, const QString& path, const char* forma
             *fault = {WriteFault::NotEncodable, QString()};
         return false;
     }
+    return writeBytesWhole(bytes, path, fault);
+}
+
+bool writeBytesWhole(const QByteArray& bytes, const QString& path, WriteFault* fault)
+{
     QSaveFile file(path);
     errno = 0;
     const bool written =

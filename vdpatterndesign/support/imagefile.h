@@ -3,6 +3,7 @@
 #include "support/writefault.h"
 #include "vdchartcore_export.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QImage>
 #include <QString>
@@ -13,6 +14,10 @@ namespace vardeno::testcharttools {
 /// `quality` as for `QImage::save`. A write that fails tells `fault`, where there is one, why.
 VDCHARTCORE_EXPORT bool writeImageWhole(const QImage& image, const QString& path, const char* format,
                                         int quality = -1, WriteFault* fault = nullptr);
+
+/// The same with a file's bytes.
+VDCHARTCORE_EXPORT bool writeBytesWhole(const QByteArray& bytes, const QString& path,
+                                        WriteFault* fault = nullptr);
 
 /// The longest side of a picture that is read, in pixels.
 constexpr int largestPicture = 3840;
