@@ -975,5 +975,117 @@
         <source>Order of the charts</source>
         <translation>Reihenfolge der Testbilder</translation>
     </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Jump to a chart on the output</source>
+        <translation>Auf der Ausgabe zu einem Testbild springen</translation>
+    </message>
+    <message>
+        <source>Leave the output</source>
+        <translation>Ausgabe verlassen</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>Copy diagnostics</source>
+        <translation>Diagnosedaten kopieren</translation>
+    </message>
+    <message>
+        <source>The next start has this theme.</source>
+        <translation>Dieses Farbschema gilt ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Recent folders</source>
+        <translation>Zuletzt benutzte Ordner</translation>
+    </message>
+    <message>
+        <source>Two clicks edit a chart</source>
+        <translation>Ein Doppelklick bearbeitet ein Testbild</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>8 greys</source>
+        <translation>8 Graustufen</translation>
+    </message>
+    <message>
+        <source>16 greys</source>
+        <translation>16 Graustufen</translation>
+    </message>
+    <message>
+        <source>Grey ramp</source>
+        <translation>Grauverlauf</translation>
+    </message>
+    <message>
+        <source>Color bars</source>
+        <translation>Farbbalken</translation>
+    </message>
+    <message>
+        <source>Chessboard</source>
+        <translation>Schachbrett</translation>
+    </message>
+    <message>
+        <source>Numbers from top left</source>
+        <translation>Nummern von oben links</translation>
+    </message>
+    <message>
+        <source>Numbers from top right</source>
+        <translation>Nummern von oben rechts</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom left</source>
+        <translation>Nummern von unten links</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom right</source>
+        <translation>Nummern von unten rechts</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 x %4 cabinets</source>
+        <translation>%1 x %2 Pixel, %3 x %4 Cabinets</translation>
+    </message>
 </context>
 </TS>

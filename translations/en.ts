@@ -975,5 +975,117 @@
         <source>Order of the charts</source>
         <translation>Order of the charts</translation>
     </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Keyboard shortcuts</translation>
+    </message>
+    <message>
+        <source>Jump to a chart on the output</source>
+        <translation>Jump to a chart on the output</translation>
+    </message>
+    <message>
+        <source>Leave the output</source>
+        <translation>Leave the output</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Copy diagnostics</source>
+        <translation>Copy diagnostics</translation>
+    </message>
+    <message>
+        <source>The next start has this theme.</source>
+        <translation>The next start has this theme.</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Recent folders</source>
+        <translation>Recent folders</translation>
+    </message>
+    <message>
+        <source>Two clicks edit a chart</source>
+        <translation>Two clicks edit a chart</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grey</translation>
+    </message>
+    <message>
+        <source>8 greys</source>
+        <translation>8 greys</translation>
+    </message>
+    <message>
+        <source>16 greys</source>
+        <translation>16 greys</translation>
+    </message>
+    <message>
+        <source>Grey ramp</source>
+        <translation>Grey ramp</translation>
+    </message>
+    <message>
+        <source>Color bars</source>
+        <translation>Color bars</translation>
+    </message>
+    <message>
+        <source>Chessboard</source>
+        <translation>Chessboard</translation>
+    </message>
+    <message>
+        <source>Numbers from top left</source>
+        <translation>Numbers from top left</translation>
+    </message>
+    <message>
+        <source>Numbers from top right</source>
+        <translation>Numbers from top right</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom left</source>
+        <translation>Numbers from bottom left</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom right</source>
+        <translation>Numbers from bottom right</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 x %4 cabinets</source>
+        <translation>%1 x %2 pixels, %3 x %4 cabinets</translation>
+    </message>
 </context>
 </TS>

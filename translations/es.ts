@@ -975,5 +975,117 @@
         <source>Order of the charts</source>
         <translation>Orden de las cartas</translation>
     </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Jump to a chart on the output</source>
+        <translation>Ir a una carta en la salida</translation>
+    </message>
+    <message>
+        <source>Leave the output</source>
+        <translation>Salir de la salida</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Copy diagnostics</source>
+        <translation>Copiar diagnóstico</translation>
+    </message>
+    <message>
+        <source>The next start has this theme.</source>
+        <translation>Este tema se usará en el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Recent folders</source>
+        <translation>Carpetas recientes</translation>
+    </message>
+    <message>
+        <source>Two clicks edit a chart</source>
+        <translation>Doble clic para editar una carta</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>8 greys</source>
+        <translation>8 grises</translation>
+    </message>
+    <message>
+        <source>16 greys</source>
+        <translation>16 grises</translation>
+    </message>
+    <message>
+        <source>Grey ramp</source>
+        <translation>Degradado de gris</translation>
+    </message>
+    <message>
+        <source>Color bars</source>
+        <translation>Barras de color</translation>
+    </message>
+    <message>
+        <source>Chessboard</source>
+        <translation>Tablero de ajedrez</translation>
+    </message>
+    <message>
+        <source>Numbers from top left</source>
+        <translation>Números desde arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Numbers from top right</source>
+        <translation>Números desde arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom left</source>
+        <translation>Números desde abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom right</source>
+        <translation>Números desde abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 x %4 cabinets</source>
+        <translation>%1 x %2 píxeles, %3 x %4 gabinetes</translation>
+    </message>
 </context>
 </TS>

@@ -975,5 +975,117 @@
         <source>Order of the charts</source>
         <translation>テストパターンの並び順</translation>
     </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Jump to a chart on the output</source>
+        <translation>出力でテストパターンへ移動</translation>
+    </message>
+    <message>
+        <source>Leave the output</source>
+        <translation>出力を終了</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>マニュアル</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>このプログラムについて</translation>
+    </message>
+    <message>
+        <source>Copy diagnostics</source>
+        <translation>診断情報をコピー</translation>
+    </message>
+    <message>
+        <source>The next start has this theme.</source>
+        <translation>このテーマは次回の起動から有効です。</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>テーマ</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Recent folders</source>
+        <translation>最近使ったフォルダー</translation>
+    </message>
+    <message>
+        <source>Two clicks edit a chart</source>
+        <translation>ダブルクリックで編集します</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>グレー</translation>
+    </message>
+    <message>
+        <source>8 greys</source>
+        <translation>グレー 8 段階</translation>
+    </message>
+    <message>
+        <source>16 greys</source>
+        <translation>グレー 16 段階</translation>
+    </message>
+    <message>
+        <source>Grey ramp</source>
+        <translation>グレーのグラデーション</translation>
+    </message>
+    <message>
+        <source>Color bars</source>
+        <translation>カラーバー</translation>
+    </message>
+    <message>
+        <source>Chessboard</source>
+        <translation>市松模様</translation>
+    </message>
+    <message>
+        <source>Numbers from top left</source>
+        <translation>左上からの番号</translation>
+    </message>
+    <message>
+        <source>Numbers from top right</source>
+        <translation>右上からの番号</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom left</source>
+        <translation>左下からの番号</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom right</source>
+        <translation>右下からの番号</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 x %4 cabinets</source>
+        <translation>%1 x %2 ピクセル、%3 x %4 キャビネット</translation>
+    </message>
 </context>
 </TS>

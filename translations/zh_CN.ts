@@ -975,5 +975,117 @@
         <source>Order of the charts</source>
         <translation>测试图的排序</translation>
     </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Jump to a chart on the output</source>
+        <translation>在输出上跳到某张测试图</translation>
+    </message>
+    <message>
+        <source>Leave the output</source>
+        <translation>退出输出</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手册</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Copy diagnostics</source>
+        <translation>复制诊断信息</translation>
+    </message>
+    <message>
+        <source>The next start has this theme.</source>
+        <translation>此主题将在下次启动时生效。</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Recent folders</source>
+        <translation>最近的文件夹</translation>
+    </message>
+    <message>
+        <source>Two clicks edit a chart</source>
+        <translation>双击可编辑测试图</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>灰色</translation>
+    </message>
+    <message>
+        <source>8 greys</source>
+        <translation>8 级灰度</translation>
+    </message>
+    <message>
+        <source>16 greys</source>
+        <translation>16 级灰度</translation>
+    </message>
+    <message>
+        <source>Grey ramp</source>
+        <translation>灰度渐变</translation>
+    </message>
+    <message>
+        <source>Color bars</source>
+        <translation>彩条</translation>
+    </message>
+    <message>
+        <source>Chessboard</source>
+        <translation>棋盘格</translation>
+    </message>
+    <message>
+        <source>Numbers from top left</source>
+        <translation>从左上起编号</translation>
+    </message>
+    <message>
+        <source>Numbers from top right</source>
+        <translation>从右上起编号</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom left</source>
+        <translation>从左下起编号</translation>
+    </message>
+    <message>
+        <source>Numbers from bottom right</source>
+        <translation>从右下起编号</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 x %4 cabinets</source>
+        <translation>%1 x %2 像素，%3 x %4 箱体</translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "deskoptions.h"
 
+#include "deskmemory.h"
 #include "languages.h"
 #include "outputplacement.h"
 
@@ -19,7 +20,7 @@ struct Parser : QCommandLineParser
                                     QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)};
     const QCommandLineOption language{QStringLiteral("language"),
                                       languageCodes().join(QStringLiteral(", ")) + QLatin1Char('.'),
-                                      QStringLiteral("code"), languageFor(QLocale())};
+                                      QStringLiteral("code"), DeskMemory::language(languageFor(QLocale()))};
     const QCommandLineOption headless{
         QStringLiteral("headless"), QStringLiteral("Without a display: confirm one default chart, print the "
                                                    "path of its image, and quit.")};

@@ -30,6 +30,11 @@ QString hostText(const QString& source)
                                      QStringLiteral("MainWindow"), source);
 }
 
+QString hostTitle(const QString& source)
+{
+    return hostText(source).remove(QChar(0x2026));
+}
+
 QStringList chartNames()
 {
     static const QStringList names = readChartNames();

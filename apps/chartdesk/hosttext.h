@@ -5,6 +5,9 @@
 /// The host's own texts, translated by the same translator as the editor's.
 QString hostText(const QString& source);
 
+/// The same without what tells that more is asked: a window is called by what it is about.
+QString hostTitle(const QString& source);
+
 /// Marks a text of a table that `hostText` is asked for later.
 constexpr const char* hostSource(const char* source)
 {

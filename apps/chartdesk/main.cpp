@@ -1,5 +1,8 @@
 #include "chartfont.h"
+#include "deskmemory.h"
 #include "deskoptions.h"
+#include "deskstyle.h"
+#include "desktheme.h"
 #include "editsession.h"
 #include "languages.h"
 #include "mainwindow.h"
@@ -94,7 +97,7 @@ int run(int& argc, char** argv)
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("chartdesk"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VDPATTERNDESIGN_VERSION));
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new DeskStyle);
     QApplication::setFont(chartFont());
 
     // The log is for developers, who get the editor's with QT_LOGGING_RULES="vardeno.testcharttools=true" and
@@ -110,11 +113,13 @@ int run(int& argc, char** argv)
         return listDisplays();
     if (!options.shown.isEmpty())
         return showOnDisplay(options.shown, options.display, options.at);
+    DeskTheme::apply();
     MainWindow window(options.folder);
     QApplication::setPalette(themePalette());
     window.switchLanguage(options.language);
     if (options.headless)
         return confirmDefaultChart(window, application);
+    const DeskMemory memory(&window);
     window.show();
     window.offerDrafts();
     return QApplication::exec();

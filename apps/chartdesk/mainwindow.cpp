@@ -8,17 +8,20 @@
 #include "draftoffer.h"
 #include "editorlook.h"
 #include "editsession.h"
+#include "helpmenu.h"
 #include "hosttext.h"
+#include "languagemenu.h"
 #include "languages.h"
 #include "listbar.h"
 #include "logorefusal.h"
 #include "messagebox.h"
+#include "recentfolders.h"
 #include "savequestions.h"
+#include "thememenu.h"
 #include "undobar.h"
 
 #include <translatemanager1.h>
 
-#include <QActionGroup>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QLabel>
@@ -31,6 +34,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace vardeno::testcharttools;
@@ -67,7 +71,10 @@ MainWindow::MainWindow(const QString& folder)
     , m_choose(createAction(QKeySequence::Open, &MainWindow::chooseFolder))
     , m_refresh(createAction(Qt::Key_F5, &MainWindow::refresh))
     , m_quit(createAction(QKeySequence::Quit, nullptr))
-    , m_languages(new QActionGroup(this))
+    , m_languages(new LanguageMenu(this))
+    , m_themes(new ThemeMenu(this))
+    , m_recent(new RecentFolders(this))
+    , m_help(new HelpMenu(menuBar(), this))
 {
     m_pages->addWidget(createListPage());
     m_pages->addWidget(createEditorPage());
@@ -76,12 +83,13 @@ MainWindow::MainWindow(const QString& folder)
     statusBar()->setContentsMargins(margin - 5, 0, margin, 0);
     createOutput();
     createLibrary();
-    createActions();
+    createMenus();
     loadLanguages();
 
     connect(&TranslateManager1::instance(), &TranslateManager1::languageChanged, this,
             &MainWindow::retranslate);
     connect(m_list, &ChartList::refreshed, this, &MainWindow::showCount);
+    connect(m_list, &ChartList::refreshed, this, &MainWindow::updateActions);
     connect(m_list, &ChartList::itemActivated, this, &MainWindow::editSelectedChart);
     connect(m_list, &ChartList::itemSelectionChanged, this, &MainWindow::updateActions);
     connect(m_drafts, &DraftOffer::wanted, this, &MainWindow::resumeDraft);
@@ -90,6 +98,7 @@ MainWindow::MainWindow(const QString& folder)
     setFolder(folder);
     retranslate();
     fitToEditor();
+    m_list->setFocus();
 }
 
 MainWindow::~MainWindow() = default;
@@ -153,9 +162,7 @@ void MainWindow::switchLanguage(const QString& language)
     m_drafts->setDateLocale(localeOf(language));
     m_list->setDateLocale(localeOf(language));
     m_editor->switchLanguage(language);
-    const QList<QAction*> choices = m_languages->actions();
-    for (QAction* choice : choices)
-        choice->setChecked(choice->data() == language);
+    m_languages->setCurrent(language);
 }
 
 QAction* MainWindow::createAction(const QKeySequence& shortcut, void (MainWindow::*slot)())
@@ -169,24 +176,25 @@ QAction* MainWindow::createAction(const QKeySequence& shortcut, void (MainWindow
     return action;
 }
 
-void MainWindow::createActions()
+void MainWindow::createMenus()
 {
-    m_edit->setEnabled(false);
     QMenu* charts = menuBar()->addMenu(QString());
-    charts->addActions({m_new, m_edit, m_choose, m_refresh});
+    charts->addActions({m_new, m_edit, m_choose});
+    charts->addMenu(m_recent);
+    charts->addAction(m_refresh);
     charts->addSeparator();
     charts->addAction(m_quit);
-    menuBar()->addMenu(m_library->menu());
-    menuBar()->addMenu(m_output->menu());
-    QMenu* menu = menuBar()->addMenu(QString());
-    for (const Language& language : languages()) {
-        QAction* choice = m_languages->addAction(language.name);
-        choice->setCheckable(true);
-        choice->setData(language.code);
-        menu->addAction(choice);
-    }
-    connect(m_languages, &QActionGroup::triggered, this,
-            [this](const QAction* choice) { switchLanguage(choice->data().toString()); });
+    for (QMenu* menu : {m_library->menu(), m_output->menu(), static_cast<QMenu*>(m_languages),
+                        static_cast<QMenu*>(m_themes), static_cast<QMenu*>(m_help)})
+        menuBar()->addMenu(menu);
+    connect(m_recent, &RecentFolders::chosen, this, &MainWindow::openFolder);
+    connect(m_languages, &LanguageMenu::chosen, this, [this](const QString& code) {
+        switchLanguage(code);
+        Q_EMIT languageSwitched(code);
+    });
+    connect(m_themes, &ThemeMenu::chosen, this, [this] {
+        statusBar()->showMessage(hostText(QStringLiteral("The next start has this theme.")), 10000);
+    });
 }
 
 void MainWindow::loadLanguages()
@@ -203,6 +211,9 @@ QWidget* MainWindow::createListPage()
     auto* layout = new QVBoxLayout(page);
     auto* bar = new QToolBar;
     bar->addActions({m_new, m_edit, m_choose});
+    const auto buttons = bar->findChildren<QToolButton*>();
+    for (QToolButton* button : buttons)
+        button->setFocusPolicy(Qt::TabFocus);
     layout->addWidget(bar);
     m_listBar = new ListBar(m_list);
     layout->addWidget(m_listBar);
@@ -246,12 +257,16 @@ void MainWindow::retranslate()
     m_choose->setText(hostText(QStringLiteral("Choose folder…")));
     m_refresh->setText(hostText(QStringLiteral("Refresh")));
     m_quit->setText(hostText(QStringLiteral("Quit")));
-    const QList<QAction*> menus = menuBar()->actions();
-    menus.at(0)->setText(hostText(QStringLiteral("Charts")));
+    menuBar()->actions().first()->setText(hostText(QStringLiteral("Charts")));
+    m_recent->setTitle(hostText(QStringLiteral("Recent folders")));
     m_library->retranslate();
     m_output->retranslate();
-    menus.at(3)->setText(hostText(QStringLiteral("Language")));
+    m_languages->retranslate();
+    m_themes->retranslate();
+    m_help->retranslate();
     m_listBar->retranslate();
+    m_list->setAccessibleName(hostText(QStringLiteral("Charts")));
+    m_list->setToolTip(hostText(QStringLiteral("Two clicks edit a chart")));
     m_hint->setText(hostText(QStringLiteral("No charts here yet. Press “New chart” to make the first one.")));
     setWindowTitle(hostText(QStringLiteral("Test charts")) + QStringLiteral(" — ") + m_folder);
 }
@@ -269,7 +284,13 @@ void MainWindow::chooseFolder()
     const QString folder = QFileDialog::getExistingDirectory(
         this, hostText(QStringLiteral("Choose the folder of the charts")), m_folder);
     if (!folder.isEmpty())
-        setFolder(folder);
+        openFolder(folder);
+}
+
+void MainWindow::openFolder(const QString& folder)
+{
+    setFolder(folder);
+    m_recent->add(folder);
 }
 
 void MainWindow::refresh()

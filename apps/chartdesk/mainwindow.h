@@ -9,13 +9,16 @@ class DeskLibrary;
 class DeskOutput;
 class DraftOffer;
 class EditSession;
+class HelpMenu;
+class LanguageMenu;
 class ListBar;
 class QAction;
-class QActionGroup;
 class QLabel;
 class QMessageBox;
 class QStackedWidget;
+class RecentFolders;
 class SaveQuestions;
+class ThemeMenu;
 class ToolkitTexts;
 struct Draft;
 
@@ -40,11 +43,15 @@ public:
     DeskOutput* output() const { return m_output; }
     DeskLibrary* library() const { return m_library; }
 
+Q_SIGNALS:
+    /// Somebody has chosen this language.
+    void languageSwitched(const QString& code);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createActions();
+    void createMenus();
     QAction* createAction(const QKeySequence& shortcut, void (MainWindow::*slot)());
     void loadLanguages();
     QWidget* createListPage();
@@ -59,6 +66,7 @@ private:
 
     void setFolder(const QString& folder);
     void chooseFolder();
+    void openFolder(const QString& folder);
     void refresh();
     void showCount();
     void editSelectedChart();
@@ -87,5 +95,8 @@ private:
     QAction* m_choose;
     QAction* m_refresh;
     QAction* m_quit;
-    QActionGroup* m_languages;
+    LanguageMenu* m_languages;
+    ThemeMenu* m_themes;
+    RecentFolders* m_recent;
+    HelpMenu* m_help;
 };

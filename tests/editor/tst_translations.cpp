@@ -136,14 +136,14 @@ QString ending(const QString& text)
 /// The texts that the chart desk looks up, some of which only a broken disk would show.
 QStringList hostSources()
 {
-    const QRegularExpression lookUp(
-        QStringLiteral("(?:(?:hostText|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
-                       "QStringLiteral(?=\\((?:\\s*\"[^\"]*\")+\\)\\))|hostSource)"
-                       "\\(((?:\\s*\"[^\"]*\")+)\\)"));
+    const QRegularExpression lookUp(QStringLiteral(
+        "(?:(?:hostText|hostTitle|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
+        "QStringLiteral(?=\\((?:\\s*\"[^\"]*\")+\\)\\))|hostSource)"
+        "\\(((?:\\s*\"[^\"]*\")+)\\)"));
     QStringList found;
     QFileInfoList sources = {QFileInfo(sourcePath("vdpatterndesign/support/chartlanguages.cpp"))};
-    for (const char* folder :
-         {"apps/chartdesk", "apps/chartdesk/library", "apps/chartdesk/output", "apps/common"})
+    for (const char* folder : {"apps/chartdesk", "apps/chartdesk/home", "apps/chartdesk/library",
+                               "apps/chartdesk/output", "apps/common"})
         sources += QDir(sourcePath(folder)).entryInfoList({QStringLiteral("*.cpp")}, QDir::Files);
     for (const QFileInfo& info : qAsConst(sources)) {
         QFile file(info.filePath());

@@ -1,5 +1,6 @@
 #include "deskoutput.h"
 
+#include "desksettings.h"
 #include "editsession.h"
 #include "hosttext.h"
 #include "messagebox.h"
@@ -12,7 +13,6 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
-#include <QSettings>
 #include <QStatusBar>
 
 using namespace vardeno::testcharttools;
@@ -109,7 +109,7 @@ QAction* DeskOutput::addKey(const char* text, int key)
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
         m_output.press(&event);
     });
-    action->setProperty(outputKey, QKeySequence(key).toString(QKeySequence::NativeText));
+    action->setProperty(outputKey, key);
     m_whileOn.append(action);
     return action;
 }
@@ -133,8 +133,10 @@ void DeskOutput::retranslate()
     const QList<QAction*> actions = m_menu->actions();
     for (QAction* action : actions) {
         const QString text = hostText(action->property(outputSource).toString());
-        const QString key = action->property(outputKey).toString();
-        action->setText(key.isEmpty() ? text : text + QLatin1Char('\t') + key);
+        const int key = action->property(outputKey).toInt();
+        action->setText(key == 0 ? text
+                                 : text + QLatin1Char('\t') +
+                                       QKeySequence(key).toString(QKeySequence::NativeText));
     }
     showState();
 }
@@ -152,12 +154,19 @@ void DeskOutput::update()
     showState();
 }
 
+/// The selected one; the place of the shown one can be changed without.
+QString DeskOutput::chosenChart() const
+{
+    const QString selected = m_charts.selected();
+    return selected.isEmpty() ? m_output.charts().value(m_output.current()) : selected;
+}
+
 void DeskOutput::askPlace()
 {
-    const QString chart = m_charts.selected();
+    const QString chart = chosenChart();
     const QSize size = m_session->isOpen() ? m_live.current().picture.size() : QImageReader(chart).size();
     auto* dialog = new ShowDialog(size, m_window);
-    const QSettings settings;
+    const QSettings settings = deskSettings();
     dialog->setPlace(m_output.isOn() ? m_output.display()
                                      : settings.value(QStringLiteral("output/display")).toString(),
                      settings.value(QStringLiteral("output/place")).toPoint());
@@ -167,11 +176,11 @@ void DeskOutput::askPlace()
 
 void DeskOutput::start(const QString& display, const QPoint& at)
 {
-    QSettings settings;
+    QSettings settings = deskSettings();
     settings.setValue(QStringLiteral("output/display"), display);
     settings.setValue(QStringLiteral("output/place"), at);
     m_output.setCharts(m_charts.all());
-    m_output.start(display, at, m_charts.selected());
+    m_output.start(display, at, chosenChart());
     update();
 }
 

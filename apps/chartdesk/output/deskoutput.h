@@ -43,6 +43,7 @@ private:
     QAction* addKey(const char* text, int key);
     void createMenu();
     void askPlace();
+    QString chosenChart() const;
     void start(const QString& display, const QPoint& at);
     void showState();
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+
+class MainWindow;
+
+/// Gives a desk back what it was when it was closed: its place and its language.
+class DeskMemory : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DeskMemory(MainWindow* window);
+
+    /// The language that was chosen, `otherwise` before one was.
+    static QString language(const QString& otherwise);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void restorePlace();
+    void store() const;
+
+    MainWindow* m_window;
+};

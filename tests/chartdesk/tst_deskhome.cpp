@@ -1,0 +1,250 @@
+#include "deskmemory.h"
+#include "deskoutput.h"
+#include "desksettings.h"
+#include "desktheme.h"
+#include "deskwindow.h"
+#include "diagnostics.h"
+#include "languages.h"
+#include "recentfolders.h"
+#include "testcase.h"
+
+#include <vdpatterndesign_version.h>
+
+#include <QAbstractSpinBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+
+using namespace deskwindow;
+
+/// What makes the desk a program that one keeps: keys, help, memory, names for everything.
+class TestDeskHome : public TestCase
+{
+    Q_OBJECT
+
+private:
+    QScopedPointer<QTemporaryDir> m_folder;
+    QScopedPointer<MainWindow> m_window;
+
+    static bool takesInput(const QWidget* widget)
+    {
+        return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+               qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
+               qobject_cast<const QAbstractItemView*>(widget) || qobject_cast<const QAbstractSlider*>(widget);
+    }
+
+    /// Parts of other controls have no name of their own.
+    static bool isPart(const QWidget* widget)
+    {
+        const QWidget* parent = widget->parentWidget();
+        return !parent || qobject_cast<const QComboBox*>(parent) ||
+               qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QLineEdit*>(parent) ||
+               qobject_cast<const QScrollBar*>(widget) || widget->inherits("QHeaderView") ||
+               widget->inherits("QToolBarExtension") || widget->inherits("QMenuBarExtension") ||
+               parent->inherits("QHeaderView") ||
+               widget->objectName() == QLatin1String("qt_menubar_ext_button") ||
+               widget->objectName() == QLatin1String("qt_toolbar_ext_button");
+    }
+
+    static QString nameOf(const QWidget* widget)
+    {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        return widget->accessibleName().isEmpty() && button ? button->text() : widget->accessibleName();
+    }
+
+    static QString described(const QWidget* widget)
+    {
+        return QStringLiteral("%1 \"%2\" in \"%3\"")
+            .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(),
+                 widget->parentWidget()->objectName());
+    }
+
+    /// What of the window nobody can reach or name.
+    static QStringList shortcomings(const QWidget& window)
+    {
+        QStringList found;
+        for (const QWidget* widget : window.findChildren<QWidget*>()) {
+            if (!takesInput(widget) || isPart(widget) || !widget->isVisible() || !widget->isEnabled())
+                continue;
+            if (nameOf(widget).isEmpty())
+                found.append(described(widget) + QStringLiteral(" has no name"));
+            if (widget->toolTip().isEmpty())
+                found.append(described(widget) + QStringLiteral(" has no tool tip"));
+            if (!(widget->focusPolicy() & Qt::TabFocus))
+                found.append(described(widget) + QStringLiteral(" cannot be reached by Tab"));
+        }
+        return found;
+    }
+
+    template <typename Widget>
+    Widget* shown(const char* name) const
+    {
+        auto* widget = m_window->findChild<Widget*>(QLatin1String(name));
+        return widget && QTest::qWaitFor([&] { return widget->isVisible(); }) ? widget : nullptr;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        // Nobody else's settings: another test may run beside this one.
+        QCoreApplication::setApplicationName(QStringLiteral("deskhome-%1").arg(qApp->applicationPid()));
+        m_folder.reset(new QTemporaryDir);
+        m_window.reset(new MainWindow(m_folder->path()));
+        m_window->switchLanguage(QStringLiteral("en"));
+        m_window->show();
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        QDir(QFileInfo(deskSettings().fileName()).path()).removeRecursively();
+        TranslateManager1::instance().switchLanguage(QString());
+        TestCase::cleanup();
+    }
+
+    void everyControlOfTheListHasAName()
+    {
+        QVERIFY(trigger(*m_window, QStringLiteral("New chart")));
+        QVERIFY(settle(*m_window));
+        QVERIFY(click(*m_window->editor(), QStringLiteral("Confirm")));
+        QTRY_VERIFY_WITH_TIMEOUT(isListShown(*m_window), 30000);
+        QCOMPARE(shortcomings(*m_window), QStringList());
+    }
+
+    void everyShortcutIsOneActions()
+    {
+        QHash<QString, QString> taken;
+        for (const QAction* action : m_window->findChildren<QAction*>()) {
+            const QString key = action->shortcut().toString();
+            if (key.isEmpty())
+                continue;
+            QVERIFY2(!taken.contains(key), qPrintable(key + ": " + action->text() + ", " + taken.value(key)));
+            taken.insert(key, action->text());
+        }
+        QVERIFY(taken.size() >= 15);
+    }
+
+    void theSheetHasEveryKey()
+    {
+        QVERIFY(trigger(*m_window, QStringLiteral("Keyboard shortcuts")));
+        auto* tree = shown<QTreeWidget>("shortcuts");
+        QVERIFY(tree);
+        QHash<QString, QString> keys;
+        for (QTreeWidgetItemIterator it(tree); *it; ++it)
+            keys.insert((*it)->text(0), (*it)->text(1));
+        for (const QAction* menu : m_window->menuBar()->actions()) {
+            for (const QAction* action : menu->menu()->actions()) {
+                if (!action->shortcut().isEmpty())
+                    QCOMPARE(keys.value(action->text()),
+                             action->shortcut().toString(QKeySequence::NativeText));
+            }
+        }
+        QCOMPARE(keys.value(QStringLiteral("New chart")), QStringLiteral("Ctrl+N"));
+        QCOMPARE(keys.value(QStringLiteral("Black")), QStringLiteral("B"));
+        QCOMPARE(keys.value(QStringLiteral("Show on…")), QStringLiteral("F11"));
+        QCOMPARE(keys.value(QStringLiteral("Leave the output")), QStringLiteral("Esc"));
+        QCOMPARE(shortcomings(*tree->window()), QStringList());
+    }
+
+    /// They are named as the keyboards of the language have them.
+    void keysAreTranslated()
+    {
+        m_window->switchLanguage(QStringLiteral("de"));
+        QStringList texts;
+        for (const QAction* action : m_window->output()->menu()->actions())
+            texts.append(action->text());
+        const QString key = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);
+        QVERIFY2(texts.contains(QStringLiteral("Starten oder anhalten\t") + key),
+                 qPrintable(texts.join(QLatin1Char('\n'))));
+        QVERIFY(key != QStringLiteral("Space"));
+    }
+
+    void theDiagnosticsAreCopied()
+    {
+        QVERIFY(trigger(*m_window, QStringLiteral("About")));
+        QVERIFY(answer(*m_window, QStringLiteral("Copy diagnostics")));
+        const QString copied = QGuiApplication::clipboard()->text();
+        QCOMPARE(copied, diagnostics());
+        QVERIFY(copied.contains(QStringLiteral(VDPATTERNDESIGN_VERSION)));
+        QVERIFY(copied.contains(QLatin1String(qVersion())));
+        QVERIFY(copied.contains(QStringLiteral("Display 1 ")));
+    }
+
+    /// Every page that a page leads to is there.
+    void theManualIsWhole()
+    {
+        QVERIFY(trigger(*m_window, QStringLiteral("Manual")));
+        auto* manual = shown<QTextBrowser>("manual");
+        QVERIFY(manual);
+        QVERIFY(manual->toPlainText().contains(QStringLiteral("Walk the wall")));
+        static const QRegularExpression link(QStringLiteral("\\]\\(([a-z]+\\.md)\\)"));
+        QFile start(QStringLiteral(":/chartdesk/manual/README.md"));
+        QVERIFY(start.open(QIODevice::ReadOnly));
+        auto it = link.globalMatch(QString::fromUtf8(start.readAll()));
+        int pages = 0;
+        for (; it.hasNext(); ++pages) {
+            const QString page = it.next().captured(1);
+            QVERIFY2(QFile::exists(QStringLiteral(":/chartdesk/manual/") + page), qPrintable(page));
+        }
+        QCOMPARE(pages, 5);
+        manual->window()->close();
+    }
+
+    void foldersAreRemembered()
+    {
+        RecentFolders menu;
+        const QTemporaryDir folders[10];
+        for (const QTemporaryDir& folder : folders)
+            menu.add(folder.path());
+        menu.add(folders[5].path());
+        QCOMPARE(RecentFolders::folders().size(), 8);
+        QCOMPARE(RecentFolders::folders().first(), folders[5].path());
+        menu.add(QStringLiteral("/no/such/folder"));
+        QSignalSpy chosen(&menu, &RecentFolders::chosen);
+        Q_EMIT menu.aboutToShow();
+        QCOMPARE(menu.actions().size(), 7); // the one that is not there is not offered
+        menu.actions().first()->trigger();
+        QCOMPARE(chosen.first().first().toString(), folders[5].path());
+    }
+
+    void theLanguageIsRemembered()
+    {
+        const DeskMemory memory(m_window.get());
+        QCOMPARE(DeskMemory::language(QStringLiteral("es")), QStringLiteral("es"));
+        QVERIFY(trigger(*m_window, QStringLiteral("Deutsch")));
+        QCOMPARE(DeskMemory::language(QStringLiteral("es")), QStringLiteral("de"));
+        deskSettings().setValue(QStringLiteral("language"), QStringLiteral("tlh"));
+        QCOMPARE(DeskMemory::language(QStringLiteral("es")), QStringLiteral("es"));
+    }
+
+    void thePlaceIsRemembered()
+    {
+        m_window->setWindowState(Qt::WindowNoState);
+        const DeskMemory memory(m_window.get());
+        m_window->resize(700, 500);
+        QTRY_COMPARE(m_window->size(), QSize(700, 500));
+        m_window->hide();
+        MainWindow next(m_folder->path());
+        const DeskMemory again(&next);
+        QCOMPARE(next.size(), QSize(700, 500));
+    }
+
+    void theThemeIsRemembered()
+    {
+        QCOMPARE(DeskTheme::chosen(), QStringLiteral("dark"));
+        QVERIFY(trigger(*m_window, QStringLiteral("Light")));
+        QCOMPARE(DeskTheme::chosen(), QStringLiteral("light"));
+        QVERIFY(trigger(*m_window, QStringLiteral("Dark")));
+        QCOMPARE(DeskTheme::chosen(), QStringLiteral("dark"));
+    }
+};
+
+VD_TEST_MAIN(TestDeskHome)
+#include "tst_deskhome.moc"
