@@ -75,8 +75,9 @@ QStringList ChartList::charts() const
 
 QString ChartList::selectedChart() const
 {
-    const QListWidgetItem* selected = currentItem();
-    return selected ? selected->data(ImagePathRole).toString() : QString();
+    const QListWidgetItem* chart = currentItem();
+    const bool isSelected = chart && chart->isSelected() && !chart->isHidden();
+    return isSelected ? chart->data(ImagePathRole).toString() : QString();
 }
 
 void ChartList::selectChart(const QString& imagePath)

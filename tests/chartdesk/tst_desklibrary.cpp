@@ -1,6 +1,7 @@
 #include "chartfiles.h"
 #include "chartlist.h"
 #include "desklibrary.h"
+#include "deskoutput.h"
 #include "deskwindow.h"
 #include "languages.h"
 #include "newchart.h"
@@ -231,7 +232,7 @@ private Q_SLOTS:
         walls->setCurrentIndex(walls->findData(QStringLiteral("banner-128x256")));
         auto* pictures = presets->findChild<QListWidget*>(QStringLiteral("presetPictures"));
         pictures->setCurrentRow(
-            pictures->row(pictures->findItems(QStringLiteral("chess"), Qt::MatchExactly).first()));
+            pictures->row(pictures->findItems(QStringLiteral("Chessboard"), Qt::MatchExactly).first()));
         QTRY_VERIFY(!pictures->item(0)->icon().isNull());
         const auto wanted = presets->record();
         QCOMPARE(wanted.publicData.resolutionWidth, 3840);
@@ -253,8 +254,31 @@ private Q_SLOTS:
         const auto count = std::count_if(::presets().begin(), ::presets().end(),
                                          [](const Preset& preset) { return !preset.isWall(); });
         QCOMPARE(pictures->count(), int(count) + 1);
-        for (int row = 0; row < pictures->count(); ++row)
-            QTRY_VERIFY(!pictures->item(row)->icon().isNull());
+        for (int row = 0; row < pictures->count(); ++row) {
+            const QListWidgetItem* picture = pictures->item(row);
+            QTRY_VERIFY(!picture->icon().isNull());
+            QVERIFY2(picture->text() != picture->data(Qt::UserRole), qPrintable(picture->text()));
+        }
+    }
+
+    /// A chart that the search has hidden is not chosen either.
+    void nothingOfItWithoutAChart()
+    {
+        const auto isAny = [this] {
+            const QList<QAction*> actions = m_window->library()->menu()->actions();
+            return std::any_of(actions.begin() + 1, actions.end(), [](const QAction* action) {
+                return !action->isSeparator() && action->isEnabled();
+            });
+        };
+        QVERIFY(isAny());
+        auto* search = m_window->findChild<QLineEdit*>(QStringLiteral("chartSearch"));
+        search->setText(QStringLiteral("wall1"));
+        QVERIFY(!isAny());
+        QVERIFY(!m_window->output()->showAction()->isEnabled());
+        search->clear();
+        QVERIFY(isAny());
+        m_window.reset(new MainWindow(m_folder->path()));
+        QVERIFY(!isAny());
     }
 
     /// While a chart is edited the list cannot be reached.

@@ -111,7 +111,7 @@ void DeskLibrary::duplicate()
 void DeskLibrary::askName()
 {
     const QString image = m_list->selectedChart();
-    auto* dialog = ask(m_window, hostText(QStringLiteral("Rename…")), hostText(QStringLiteral("Name:")),
+    auto* dialog = ask(m_window, hostTitle(QStringLiteral("Rename…")), hostText(QStringLiteral("Name:")),
                        QFileInfo(image).completeBaseName());
     connect(dialog, &QInputDialog::textValueSelected, this,
             [this, image](const QString& name) { done(ChartShelf::rename(image, name.trimmed())); });
@@ -136,7 +136,7 @@ void DeskLibrary::remove()
 void DeskLibrary::askTags()
 {
     const QString image = m_list->selectedChart();
-    auto* dialog = ask(m_window, hostText(QStringLiteral("Tags…")),
+    auto* dialog = ask(m_window, hostTitle(QStringLiteral("Tags…")),
                        hostText(QStringLiteral("Tags, with commas between:")),
                        ChartTags::of(image).join(QStringLiteral(", ")));
     connect(dialog, &QInputDialog::textValueSelected, this, [this, image](const QString& text) {
@@ -147,7 +147,7 @@ void DeskLibrary::askTags()
 void DeskLibrary::askTarget()
 {
     const QString image = m_list->selectedChart();
-    auto* dialog = new QFileDialog(m_window, hostText(QStringLiteral("Export…")), QFileInfo(image).path());
+    auto* dialog = new QFileDialog(m_window, hostTitle(QStringLiteral("Export…")), QFileInfo(image).path());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilters({QStringLiteral("PNG (*.png)"), QStringLiteral("JPEG (*.jpg)"),

@@ -13,11 +13,58 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace vardeno::testcharttools;
 
 namespace {
 
 constexpr QSize presetPictureSize(192, 108);
+
+/// What a person calls the picture that the command line knows as `name`.
+struct PictureTitle
+{
+    const char* name;
+    const char* title;
+};
+
+constexpr PictureTitle pictureTitles[] = {
+    {"flood-red", hostSource("Red")},
+    {"flood-green", hostSource("Green")},
+    {"flood-blue", hostSource("Blue")},
+    {"flood-white", hostSource("White")},
+    {"flood-black", hostSource("Black")},
+    {"flood-grey", hostSource("Grey")},
+    {"ramp-8", hostSource("8 greys")},
+    {"ramp-16", hostSource("16 greys")},
+    {"ramp-smooth", hostSource("Grey ramp")},
+    {"bars", hostSource("Color bars")},
+    {"chess", hostSource("Chessboard")},
+    {"numbering-top-left", hostSource("Numbers from top left")},
+    {"numbering-top-right", hostSource("Numbers from top right")},
+    {"numbering-bottom-left", hostSource("Numbers from bottom left")},
+    {"numbering-bottom-right", hostSource("Numbers from bottom right")},
+};
+
+/// Its name where it has no title.
+QString titleOf(const Preset& preset)
+{
+    const auto* it =
+        std::find_if(std::begin(pictureTitles), std::end(pictureTitles),
+                     [&](const PictureTitle& title) { return preset.name == QLatin1String(title.name); });
+    return it == std::end(pictureTitles) ? preset.name : hostText(QString::fromUtf8(it->title));
+}
+
+QString wallText(const Preset& wall)
+{
+    return wall.name + QLatin1String("   ") +
+           hostText(QStringLiteral("%1 x %2 pixels, %3 x %4 cabinets"))
+               .arg(wall.resolution.width())
+               .arg(wall.resolution.height())
+               .arg(wall.cabinets.width())
+               .arg(wall.cabinets.height());
+}
 
 QImage drawnPreset(const TestChartToolsData& record, const ChartCaptions& captions, qreal ratio)
 {
@@ -35,19 +82,19 @@ NewFromDialog::NewFromDialog(QWidget* parent)
     , m_pictures(new QListWidget)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(hostText(QStringLiteral("New from…")));
+    setWindowTitle(hostTitle(QStringLiteral("New from…")));
     for (const Preset& preset : presets()) {
         if (preset.isWall())
-            m_walls->addItem(preset.name + QLatin1String("   ") + preset.description, preset.name);
+            m_walls->addItem(wallText(preset), preset.name);
     }
     auto* standard = new QListWidgetItem(hostText(QStringLiteral("Standard")), m_pictures);
     standard->setData(Qt::UserRole, QString());
     for (const Preset& preset : presets()) {
         if (preset.isWall())
             continue;
-        auto* item = new QListWidgetItem(preset.name, m_pictures);
+        auto* item = new QListWidgetItem(titleOf(preset), m_pictures);
         item->setData(Qt::UserRole, preset.name);
-        item->setToolTip(preset.description);
+        item->setToolTip(preset.name); // as the command line has it
     }
     m_pictures->setCurrentRow(0);
     createLayout();
@@ -79,7 +126,6 @@ void NewFromDialog::createLayout()
     m_pictures->setMinimumSize(4 * m_pictures->gridSize().width() + 40, 3 * m_pictures->gridSize().height());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     auto* create = buttons->addButton(hostText(QStringLiteral("New chart")), QDialogButtonBox::AcceptRole);
-    create->setDefault(true);
     const auto all = buttons->buttons();
     for (QAbstractButton* button : all)
         button->setToolTip(button->text());
@@ -89,6 +135,8 @@ void NewFromDialog::createLayout()
     layout->addWidget(m_walls);
     layout->addWidget(m_pictures, 1);
     layout->addWidget(buttons);
+    create->setDefault(true); // which a window that it is not in would not know
+    m_pictures->setFocus();
 }
 
 TestChartToolsData NewFromDialog::recordOf(int picture) const

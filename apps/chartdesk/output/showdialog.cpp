@@ -48,7 +48,7 @@ ShowDialog::ShowDialog(const QSize& chart, QWidget* parent)
     , m_y(createPlace(QStringLiteral("Y"), hostText(QStringLiteral("Pixels from the top of the display"))))
     , m_difference(new QLabel)
 {
-    setWindowTitle(hostText(QStringLiteral("Show on…")));
+    setWindowTitle(hostTitle(QStringLiteral("Show on…")));
     setAttribute(Qt::WA_DeleteOnClose);
     createLayout();
     fillDisplays();
@@ -67,14 +67,14 @@ void ShowDialog::createLayout()
     m_displays->setObjectName(QStringLiteral("displays"));
     m_displays->setAccessibleName(tip);
     m_displays->setToolTip(tip);
-    m_displays->setMinimumSize(460, 120);
+    m_displays->setMinimumSize(460, 4 * fontMetrics().lineSpacing());
+    m_displays->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     m_difference->setWordWrap(true);
     m_difference->setObjectName(QStringLiteral("difference"));
     m_difference->setMinimumHeight(3 * fontMetrics().lineSpacing()); // the dialog keeps its size
     m_difference->setAlignment(Qt::AlignTop);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_show = buttons->addButton(hostText(QStringLiteral("Show")), QDialogButtonBox::AcceptRole);
-    m_show->setDefault(true);
     auto* number =
         buttons->addButton(hostText(QStringLiteral("Number the displays")), QDialogButtonBox::ActionRole);
     connect(number, &QPushButton::clicked, this, &DisplayFlash::showAll);
@@ -95,6 +95,8 @@ void ShowDialog::createLayout()
     layout->addLayout(place);
     layout->addWidget(m_difference);
     layout->addWidget(buttons);
+    m_show->setDefault(true); // which a window that it is not in would not know
+    m_displays->setFocus();
 }
 
 void ShowDialog::fillDisplays()
