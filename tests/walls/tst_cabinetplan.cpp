@@ -1,30 +1,9 @@
 #include "testcase.h"
+#include "testwalls.h"
 
 #include <cabinetplan.h>
 
 using namespace vardeno::walls;
-
-namespace {
-
-WallDocument wallOf(std::vector<int> widths, std::vector<int> heights)
-{
-    WallDocument wall;
-    wall.columnWidths.pixels = std::move(widths);
-    wall.rowHeights.pixels = std::move(heights);
-    return wall;
-}
-
-CabinetException missing(int column, int row, int columns = 1, int rows = 1)
-{
-    return {{column, row}, true, 0, columns, rows, {}, {}};
-}
-
-CabinetException spanning(int column, int row, int columns, int rows, int turned = 0)
-{
-    return {{column, row}, false, turned, columns, rows, {}, {}};
-}
-
-} // namespace
 
 class TestCabinetPlan : public TestCase
 {
