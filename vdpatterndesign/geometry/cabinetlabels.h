@@ -44,7 +44,8 @@ struct LabelStyle
 
 /// The label of the cabinet in `row` and `column` of a grid of `rows` x `columns`; none for an unknown mode
 /// or sort.
-std::optional<CabinetLabel> cabinetLabel(const LabelStyle& style, int row, int column, int rows, int columns);
+VDCHARTCORE_EXPORT std::optional<CabinetLabel> cabinetLabel(const LabelStyle& style, int row, int column,
+                                                            int rows, int columns);
 
 /// A text, the rectangle it is drawn in, and how it is aligned there. The text is `head` and `tail` in one;
 /// each of them occurs in many cabinets.
@@ -57,7 +58,8 @@ struct PlacedText
 };
 
 /// The one or two texts of `label` in `cell`; none for an unknown position.
-std::vector<PlacedText> placedLabel(const CabinetLabel& label, uint position, const QRect& cell);
+VDCHARTCORE_EXPORT std::vector<PlacedText> placedLabel(const CabinetLabel& label, uint position,
+                                                       const QRect& cell);
 
 /// The largest pixel size from `requested` downwards at which `font` is at most 51 % of a cell high and two
 /// of its widest letters are at most half a cell wide; 1 where none is. A `requested` size of 0 stays 0.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vdchartcore_export.h"
+
 #include <QFont>
 #include <QGlyphRun>
 #include <QHash>
@@ -13,7 +15,7 @@ namespace vardeno::testcharttools {
 
 /// Draws many short texts in one font, pixel for pixel as `QPainter::drawText` with a rectangle and alignment
 /// flags would. What occurs in many of them is laid out once, and all of them are drawn together.
-class TextBatch
+class VDCHARTCORE_EXPORT TextBatch
 {
 public:
     /// Draws with `painter`, in the font that it has now and the pen that it has when it draws.
