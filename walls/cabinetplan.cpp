@@ -64,7 +64,7 @@ CabinetPlan::CabinetPlan(const WallDocument& wall)
             for (int i = 0; i < as.columns * as.rows; ++i)
                 m_indices[indexOf({column + i % as.columns, row + i / as.columns})] =
                     as.missing ? hole : int(m_cabinets.size());
-            m_isUniform &= as.columns * as.rows == 1;
+            m_isUniform &= as.missing || as.columns * as.rows == 1;
             if (!as.missing)
                 m_cabinets.push_back(
                     {at, as.columns, as.rows, rect(at, as.columns, as.rows), as.turned, exception});

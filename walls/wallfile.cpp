@@ -40,11 +40,6 @@ QStringList prefixed(const QString& prefix, QStringList lines)
     return lines;
 }
 
-QJsonObject recordJson(const QByteArray& json)
-{
-    return QJsonDocument::fromJson(json).object();
-}
-
 /// The members of the document in the order in which they are written, and of a record in it likewise.
 QStringList documentOrder()
 {
@@ -108,7 +103,8 @@ ChartRecordFile::Reading recordOf(const WallDocument& wall, const QString& folde
 
 bool isWall(const QByteArray& json)
 {
-    return recordJson(json).value(QStringLiteral("format")) == QJsonValue(QLatin1String(wallKind.format));
+    return parsedDocument(json, wallKind).document.value(QStringLiteral("format")) ==
+           QJsonValue(QLatin1String(wallKind.format));
 }
 
 QByteArray toJson(const WallDocument& wall, const QJsonObject& original)

@@ -51,7 +51,7 @@ private Q_SLOTS:
     {
         WallDocument wall = wallOf({64, 64, 64}, {32, 32});
         QVERIFY(CabinetPlan(wall).isUniform());
-        wall.exceptions.list = {missing(0, 0), spanning(1, 1, 1, 1, 180)};
+        wall.exceptions.list = {missing(0, 0, 2, 1), spanning(1, 1, 1, 1, 180)};
         QVERIFY(CabinetPlan(wall).isUniform());
         wall.exceptions.list.push_back(spanning(0, 1, 1, 1));
         QVERIFY(CabinetPlan(wall).isUniform());
