@@ -19,6 +19,7 @@ sample() {
     $vdchart render - --compression 9 -o "$folder/$name.png"
 }
 
+$vdchart render examples/walls/stage.wall.json --compression 9 -o $folder/wall.png
 sample default 640x360 10x6
 sample numbering 640x360 10x5 --preset numbering-bottom-left --set inLineData.serialSize=22 \
   --set publicData.showOutBorder=true --set 'publicData.outBorderColor=[255,64,64,255]'

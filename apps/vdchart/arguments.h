@@ -5,6 +5,27 @@
 #include <string>
 #include <vector>
 
+/// What `vdchart wall` asks for.
+struct WallArguments
+{
+    std::string action;
+    std::string name;
+    std::string cabinet = "128x128"; ///< pixels, or the name of a preset
+    std::string size = "15x9";       ///< columns and rows
+    std::string start = "top-left";
+    std::string direction = "rows";
+    bool backAndForth = false;
+    bool eachLine = false;
+    bool backup = false;
+    int portPixels = 655360;
+    int bitDepth = 8;
+    int frameRate = 60;
+    int watts = 0;
+    int circuitWatts = 3000;
+    std::string prefix;
+    int digits = 1;
+};
+
 /// What the command line asks for. Each command uses a part of it.
 struct Arguments
 {
@@ -24,6 +45,7 @@ struct Arguments
     bool withoutRecord = false;   ///< PNG files do not carry it
     int compression = 1;          ///< of PNG, 0 to 9
     int jobs = 0;                 ///< 0 to choose by the machine
+    WallArguments wall;
     bool namesOnly = false;
     bool errorsOnly = false;
     bool isStrict = false;       ///< what is unknown is an error

@@ -27,7 +27,7 @@ int atOnce(int wanted, const std::vector<PlannedPicture>& plan)
 {
     qint64 largest = 1;
     for (const PlannedPicture& planned : plan) {
-        const auto& chart = planned.record.publicData;
+        const auto& chart = planned.chart.record.publicData;
         largest = std::max(largest, qint64(chart.resolutionWidth) * chart.resolutionHeight);
     }
     const qint64 roomFor = std::max<qint64>(mostMemory / std::min(largest * bytesPerPixel, mostBytes), 1);
@@ -96,7 +96,7 @@ void Batch::make(PlannedPicture& planned, const ChartRenderer& renderer)
 void Batch::draw(PlannedPicture& planned, const ChartRenderer& renderer)
 {
     try {
-        finish(planned, renderer.rows(planned.record));
+        finish(planned, renderer.rows(planned.chart));
     } catch (const Failure& failure) {
         const std::lock_guard<std::mutex> lock(m_results);
         planned.fail(failure);
@@ -142,9 +142,9 @@ void Batch::finish(PlannedPicture& planned, const PictureRows& picture)
     PngOptions options;
     options.compression = m_arguments.compression;
     options.threads = std::max(1, QThread::idealThreadCount() / m_atOnce);
-    if (!m_arguments.withoutRecord)
+    if (!m_arguments.withoutRecord && !planned.chart.wall)
         options.texts =
-            CarriedRecord::texts(planned.record, QString::fromStdString(m_arguments.language), path);
+            CarriedRecord::texts(planned.chart.record, QString::fromStdString(m_arguments.language), path);
     qint64 size = 0;
     QCryptographicHash hash(QCryptographicHash::Sha256);
     write(path, [&](const ByteSink& sink) {

@@ -59,10 +59,10 @@ void requireOwnNames(const Arguments& arguments, const std::vector<PlannedPictur
 void addRecord(std::vector<PlannedPicture>& plan, const Arguments& arguments, const QString& path,
                const std::vector<Wall>& walls)
 {
-    TestChartToolsData record;
+    ChartInput chart;
     std::optional<Failure> failure;
     try {
-        record = requireRecord(path, arguments.changes);
+        chart = requireChart(path, arguments.changes);
     } catch (const Failure& problem) {
         failure = problem;
     }
@@ -71,7 +71,7 @@ void addRecord(std::vector<PlannedPicture>& plan, const Arguments& arguments, co
         planned.picture.record = path;
         planned.picture.wall = wall.name;
         planned.picture.file = fileName(arguments, path, wall);
-        planned.record = record;
+        planned.chart = chart;
         if (failure)
             planned.fail(*failure);
         plan.push_back(std::move(planned));
@@ -83,7 +83,7 @@ void applyWall(PlannedPicture& planned, const Wall& wall)
     if (planned.code != ExitCode::Good)
         return;
     try {
-        applySettings(planned.record, wall.settings,
+        applySettings(planned.chart, wall.settings,
                       {ExitCode::Unreadable, QStringLiteral("wall \"%1\"").arg(wall.name)});
     } catch (const Failure& failure) {
         planned.fail(failure);
@@ -100,9 +100,12 @@ void requireOwnFiles(const Arguments& arguments, const std::vector<PlannedPictur
         claims.reads(QString::fromStdString(arguments.walls), QStringLiteral("the table of walls"));
     std::string last;
     for (const PlannedPicture& planned : plan) {
-        if (planned.record.logoData.picturePath != last)
-            claims.readsLogo(planned.record.logoData);
-        last = planned.record.logoData.picturePath;
+        const LogoChartData& logo = planned.chart.record.logoData;
+        if (logo.picturePath != last)
+            claims.readsLogo(logo);
+        last = logo.picturePath;
+        if (!planned.chart.recordFile.isEmpty())
+            claims.reads(planned.chart.recordFile, QStringLiteral("a record of the batch"));
     }
     claims.writes(batchPath(arguments, QLatin1String(manifestName)));
     for (const PlannedPicture& planned : plan)

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "chartinput.h"
 #include "exitcode.h"
 #include "manifest.h"
 #include "walls.h"
-
-#include <testcharttoolsdata.h>
 
 #include <vector>
 
@@ -14,7 +13,7 @@ struct Arguments;
 struct PlannedPicture
 {
     BatchPicture picture;
-    vardeno::testcharttools::TestChartToolsData record;
+    ChartInput chart;
     ExitCode code = ExitCode::Good; ///< of the picture's problem, if it has one
 
     void fail(const Failure& failure)

@@ -5,22 +5,10 @@
 #include <chartrecordfile.h>
 
 #include <QRegularExpression>
-#include <QSize>
 
 using namespace vardeno::testcharttools;
 
 namespace {
-
-/// Of "15x9". Throws Failure for anything else.
-QSize parsedPair(const char* option, const std::string& text)
-{
-    static const QRegularExpression pair(QStringLiteral("^(\\d{1,5})[xX*\u00d7](\\d{1,5})$"));
-    const auto match = pair.match(QString::fromStdString(text));
-    if (!match.hasMatch())
-        throw Failure{ExitCode::Usage, QStringLiteral("%1: \"%2\" is not two numbers, such as 16x9")
-                                           .arg(QLatin1String(option), QString::fromStdString(text))};
-    return {match.captured(1).toInt(), match.captured(2).toInt()};
-}
 
 std::string setting(const char* field, int value)
 {
@@ -56,6 +44,16 @@ QString wholeSetting(const std::string& setting)
 }
 
 } // namespace
+
+QSize parsedPair(const char* option, const std::string& text)
+{
+    static const QRegularExpression pair(QStringLiteral("^(\\d{1,5})[xX*\u00d7](\\d{1,5})$"));
+    const auto match = pair.match(QString::fromStdString(text));
+    if (!match.hasMatch())
+        throw Failure{ExitCode::Usage, QStringLiteral("%1: \"%2\" is not two numbers, such as 16x9")
+                                           .arg(QLatin1String(option), QString::fromStdString(text))};
+    return {match.captured(1).toInt(), match.captured(2).toInt()};
+}
 
 void applyChanges(TestChartToolsData& record, const Changes& changes)
 {

@@ -4,6 +4,8 @@
 
 #include <testcharttoolsdata.h>
 
+#include <QSize>
+
 #include <string>
 #include <vector>
 
@@ -14,6 +16,9 @@ struct Changes
     std::string grid;                  ///< "16x9", columns and rows of cabinets; empty to leave them
     std::string cabinet;               ///< "128x128", a cabinet's pixels; empty to leave the resolution
 };
+
+/// The two numbers of a text like "15x9". Throws a Failure of wrong usage for anything else.
+QSize parsedPair(const char* option, const std::string& text);
 
 /// Changes `record`: the grid, then the cabinets, then the fields. Throws a Failure of wrong usage.
 void applyChanges(vardeno::testcharttools::TestChartToolsData& record, const Changes& changes);

@@ -1,10 +1,12 @@
 #include "chartrenderer.h"
 
+#include "chartinput.h"
 #include "exitcode.h"
 
 #include <chartcheck.h>
 #include <chartlanguages.h>
 #include <translatemanager1.h>
+#include <wallpicture.h>
 
 using namespace vardeno::testcharttools;
 
@@ -19,6 +21,24 @@ QImage required(const QImage& drawn)
     return drawn;
 }
 
+/// Of a chart's picture or of a wall's.
+template <typename Picture>
+PictureRows rowsOfPicture(const Picture& picture)
+{
+    if (!picture.isDrawnInParts())
+        return rowsOf(required(picture.image()));
+    const auto rows = [picture](int top, int count) { return required(picture.rows(top, count)); };
+    const qint64 rowBytes = qint64(picture.size().width()) * qint64(sizeof(QRgb));
+    return {picture.size(), rows, int(qMax<qint64>(1, stripBytes / rowBytes))};
+}
+
+void requireLogo(const TestChartToolsData& record)
+{
+    const QString problem = ChartCheck::pictureProblem(record);
+    if (!problem.isEmpty())
+        throw Failure{ExitCode::Unreadable, problem};
+}
+
 } // namespace
 
 ChartRenderer::ChartRenderer(const QString& language)
@@ -30,9 +50,7 @@ ChartRenderer::ChartRenderer(const QString& language)
 
 ChartPicture ChartRenderer::chart(const TestChartToolsData& record) const
 {
-    const QString problem = ChartCheck::pictureProblem(record);
-    if (!problem.isEmpty())
-        throw Failure{ExitCode::Unreadable, problem};
+    requireLogo(record);
     return ChartPicture(record, m_captions);
 }
 
@@ -43,10 +61,13 @@ QImage ChartRenderer::render(const TestChartToolsData& record) const
 
 PictureRows ChartRenderer::rows(const TestChartToolsData& record) const
 {
-    const ChartPicture picture = chart(record);
-    if (!picture.isDrawnInParts())
-        return rowsOf(required(picture.image()));
-    const auto rows = [picture](int top, int count) { return required(picture.rows(top, count)); };
-    const qint64 rowBytes = qint64(picture.size().width()) * qint64(sizeof(QRgb));
-    return {picture.size(), rows, int(qMax<qint64>(1, stripBytes / rowBytes))};
+    return rowsOfPicture(chart(record));
+}
+
+PictureRows ChartRenderer::rows(const ChartInput& input) const
+{
+    if (!input.wall)
+        return rows(input.record);
+    requireLogo(input.record);
+    return rowsOfPicture(vardeno::walls::WallPicture(*input.wall, input.record, m_captions));
 }

@@ -11,6 +11,8 @@ namespace vardeno::testcharttools {
 struct TestChartToolsData;
 }
 
+struct ChartInput;
+
 /// Makes the pictures of records, as the chart editor does. One at a time in a process, made in its main
 /// thread.
 class ChartRenderer
@@ -24,6 +26,8 @@ public:
     /// thread.
     vardeno::testcharttools::PictureRows
     rows(const vardeno::testcharttools::TestChartToolsData& record) const;
+    /// Likewise, of a record or a wall.
+    vardeno::testcharttools::PictureRows rows(const ChartInput& chart) const;
     /// The same as one image.
     QImage render(const vardeno::testcharttools::TestChartToolsData& record) const;
 

@@ -1,10 +1,12 @@
 #include "arguments.h"
 #include "chartapplication.h"
+#include "chartinput.h"
 #include "commands.h"
 #include "languages.h"
 #include "recordinput.h"
 
 #include <chartcheck.h>
+#include <wallcheck.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -33,15 +35,22 @@ struct Findings
     }
 };
 
+QStringList warningsOf(const ChartInput& chart)
+{
+    if (!chart.wall)
+        return ChartCheck::warnings(chart.record);
+    return vardeno::walls::WallCheck::warnings(*chart.wall, {chart.record, {}, {}, chart.recordFile});
+}
+
 /// A record with errors has no chart to warn of.
 Findings findingsOf(const QString& path, const Arguments& arguments)
 {
-    const ChartRecordFile::Reading reading = readRecord(path, arguments.changes);
+    const ChartReading reading = readChart(path, arguments.changes);
     Findings findings = {path, QString(), reading.problems, QStringList()};
     QStringList& unknown = arguments.isStrict ? findings.errors : findings.warnings;
     unknown += reading.unknown;
     if (findings.errors.isEmpty())
-        findings.warnings += ChartCheck::warnings(reading.record);
+        findings.warnings += warningsOf(reading.chart);
     if (arguments.errorsOnly)
         findings.warnings.clear();
     return findings;

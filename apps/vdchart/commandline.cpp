@@ -86,6 +86,7 @@ CommandLine::CommandLine()
     addBatch();
     addVerify();
     addRead();
+    addWall();
 }
 
 ExitCode CommandLine::run(int argc, const char* const* argv)
@@ -246,6 +247,60 @@ void CommandLine::addRead()
         ->check(problemOfPath);
     addChanges(command);
     addLanguage(command);
+}
+
+void CommandLine::addWall()
+{
+    WallArguments& wall = m_arguments.wall;
+    CLI::App* command = addCommand("wall", "Print a new wall, or list the cabinets for new walls", &runWall);
+    command->add_option("action", wall.action, "What to print")
+        ->type_name("ACTION")
+        ->check(CLI::IsMember({"new", "cabinets"}))
+        ->required();
+    command->add_option("-n,--name", wall.name, "What the wall is called")->type_name("NAME");
+    command
+        ->add_option("--cabinet", wall.cabinet,
+                     "The pixels of a cabinet, or one that \"vdchart wall cabinets\" lists")
+        ->type_name("WIDTHxHEIGHT")
+        ->capture_default_str();
+    command->add_option("--size", wall.size, "The columns and rows of cabinets")
+        ->type_name("COLUMNSxROWS")
+        ->capture_default_str();
+    command->add_option("--start", wall.start, "The corner where numbers and cables begin")
+        ->type_name("CORNER")
+        ->check(CLI::IsMember({"top-left", "top-right", "bottom-left", "bottom-right"}))
+        ->capture_default_str();
+    command->add_option("--direction", wall.direction, "What numbers and cables go along")
+        ->type_name("DIRECTION")
+        ->check(CLI::IsMember({"rows", "columns"}))
+        ->capture_default_str();
+    CLI::Option* back =
+        command->add_flag("--back-and-forth", wall.backAndForth, "Each other row or column the other way");
+    command->add_flag("--each-line", wall.eachLine, "A cable for each row or column")->excludes(back);
+    command->add_option("--prefix", wall.prefix, "What names begin with, before the number")
+        ->type_name("TEXT");
+    command->add_option("--digits", wall.digits, "How many digits a name has at least")
+        ->type_name("NUMBER")
+        ->check(CLI::Range(1, 7))
+        ->capture_default_str();
+    addWallCables(command);
+}
+
+void CommandLine::addWallCables(CLI::App* command)
+{
+    const auto addNumber = [command](const char* name, int& number, int least, int most, const char* text) {
+        command->add_option(name, number, text)
+            ->type_name("NUMBER")
+            ->check(CLI::Range(least, most))
+            ->capture_default_str();
+    };
+    WallArguments& wall = m_arguments.wall;
+    addNumber("--port-pixels", wall.portPixels, 1, 100000000, "The pixels of a port at 8 bit and 60 Hz");
+    addNumber("--bits", wall.bitDepth, 8, 16, "The bits for each color");
+    addNumber("--rate", wall.frameRate, 1, 1000, "The frame rate in Hz");
+    command->add_flag("--backup", wall.backup, "A second port feeds each cable from its end");
+    addNumber("--watts", wall.watts, 0, 100000, "What a cabinet takes at the most; 0 where it is not known");
+    addNumber("--circuit-watts", wall.circuitWatts, 1, 1000000, "What a circuit feeds");
 }
 
 void CommandLine::addChanges(CLI::App* command)

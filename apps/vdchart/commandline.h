@@ -28,6 +28,8 @@ private:
     void addBatch();
     void addVerify();
     void addRead();
+    void addWall();
+    void addWallCables(CLI::App* command);
     void addChanges(CLI::App* command);
     void addReport(CLI::App* command);
     void takeFormats(const std::vector<std::string>& formats);

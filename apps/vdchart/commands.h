@@ -11,5 +11,6 @@ ExitCode runPresets(const Arguments& arguments);
 ExitCode runCheck(const Arguments& arguments);
 ExitCode runRender(const Arguments& arguments);
 ExitCode runBatch(const Arguments& arguments);
+ExitCode runWall(const Arguments& arguments);
 ExitCode runVerify(const Arguments& arguments);
 ExitCode runRead(const Arguments& arguments);

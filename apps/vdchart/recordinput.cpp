@@ -11,8 +11,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-constexpr qint64 recordLimit = 1024LL * 1024; ///< bytes: records have a few thousand
-constexpr qint64 partSize = 1024LL * 1024;    ///< bytes that are read at once
+constexpr qint64 partSize = 1024LL * 1024; ///< bytes that are read at once
 
 /// A pipe hands over what has arrived, which may be a part of it.
 QByteArray readUpTo(QFile& file, qint64 limit)
@@ -35,17 +34,23 @@ bool openInput(QFile& file, const QString& path)
 
 TestChartToolsData accepted(const ChartRecordFile::Reading& reading, const QString& name)
 {
-    for (const QString& unknown : reading.unknown)
-        std::cerr << "vdchart: warning: " << name.toStdString() << ": " << unknown.toStdString() << '\n';
-    if (reading.problems.isEmpty())
-        return reading.record;
-    QStringList lines;
-    for (const QString& problem : reading.problems)
-        lines.append(QStringLiteral("%1: %2").arg(name, problem));
-    throw Failure{ExitCode::Unreadable, lines.join(QStringLiteral("\nvdchart: "))};
+    requireAccepted(reading.problems, reading.unknown, name);
+    return reading.record;
 }
 
 } // namespace
+
+void requireAccepted(const QStringList& problems, const QStringList& unknown, const QString& name)
+{
+    for (const QString& member : unknown)
+        std::cerr << "vdchart: warning: " << name.toStdString() << ": " << member.toStdString() << '\n';
+    if (problems.isEmpty())
+        return;
+    QStringList lines;
+    for (const QString& problem : problems)
+        lines.append(QStringLiteral("%1: %2").arg(name, problem));
+    throw Failure{ExitCode::Unreadable, lines.join(QStringLiteral("\nvdchart: "))};
+}
 
 QString inputName(const QString& path)
 {

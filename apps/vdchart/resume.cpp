@@ -13,14 +13,24 @@
 
 using namespace vardeno::testcharttools;
 
+namespace {
+
+QByteArray documentOf(const ChartInput& chart)
+{
+    const QByteArray record = ChartRecordFile::toJson(chart.record);
+    return chart.wall ? record + vardeno::walls::WallFile::toJson(*chart.wall) : record;
+}
+
+} // namespace
+
 QByteArray sourceHash(const PlannedPicture& planned, const Arguments& arguments)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     for (const QByteArray& part :
          {QByteArray("vdchart " VDPATTERNDESIGN_VERSION), QByteArray::fromStdString(arguments.language),
           QByteArray::fromStdString(arguments.format), QByteArray::number(arguments.compression),
-          QByteArray::number(int(arguments.withoutRecord)), ChartRecordFile::toJson(planned.record),
-          fileHash(QString::fromStdString(planned.record.logoData.picturePath))}) {
+          QByteArray::number(int(arguments.withoutRecord)), documentOf(planned.chart),
+          fileHash(QString::fromStdString(planned.chart.record.logoData.picturePath))}) {
         hash.addData(QByteArray::number(part.size()) + ':');
         hash.addData(part);
     }
