@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Renders the library's pictures from their SVG sources, at one and two pixels per unit. The results are checked in;
-# run this after a source has changed. Needs rsvg-convert (Debian: librsvg2-bin).
+# Renders the library's pictures from their SVG sources, at one and two pixels per unit, and the icon of the programs in
+# the usual sizes. The results are checked in; run this after a source has changed. Needs rsvg-convert (Debian: librsvg2-bin).
 set -euo pipefail
 export LC_ALL=C
 cd "$(dirname "$0")/../vdpatterndesign/resources"
@@ -50,3 +50,9 @@ rsvg-convert logo/logo_1025.svg -o logo/logo_1025.png
   echo '  </qresource>'
   echo '</RCC>'
 } >vdpatterndesign.qrc
+
+cd ../../packaging/icons
+for size in 16 24 32 48 64 128 256 512; do
+  mkdir -p "$size"
+  rsvg-convert -w "$size" -h "$size" chartdesk.svg -o "$size/chartdesk.png"
+done

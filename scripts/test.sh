@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the project and runs every functional test once. With --sanitizers also: the tests under AddressSanitizer and
 # UndefinedBehaviorSanitizer, each fuzz target for half a minute, and the reading of photographs, which needs OpenCV.
-# With --all also: everything with Qt 6, an optimised build with the benchmarks (which scripts/bench.sh runs), hosts with
-# the sources in their tree, and clang-tidy over the libraries and programs.
+# With --all also: everything with Qt 6, an optimised build with the benchmarks (which scripts/bench.sh runs), the Debian
+# packages, hosts with the sources in their tree, and clang-tidy over the libraries and programs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -67,6 +67,8 @@ if [ -n "$all" ]; then
   step 'Release build with benchmarks'
   cmake --preset benchmarks
   cmake --build --preset benchmarks
+  step 'Packages'
+  scripts/package.sh
   step 'Hosts'
   ctest --preset dev -C Thorough -R '^hosts$'
   step 'clang-tidy'

@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <QLoggingCategory>
 #include <QTextStream>
 
@@ -97,6 +98,8 @@ int run(int& argc, char** argv)
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("chartdesk"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VDPATTERNDESIGN_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("chartdesk"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/chartdesk/icon.png")));
     QApplication::setStyle(new DeskStyle);
     QApplication::setFont(chartFont());
 
