@@ -7,6 +7,8 @@
 
 namespace {
 
+const QColor outlineColor(128, 128, 128, 96); ///< a white chart stands out from a light list
+
 constexpr int frameGap = 4;   ///< around a chart's frame
 constexpr int padding = 8;    ///< inside it
 constexpr int titleLines = 4; ///< name, date, size and cabinets, tags
@@ -52,6 +54,9 @@ void ChartDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         painter->fillRect(place, option.palette.base());
     else
         painter->drawPixmap(place.topLeft(), picture);
+    painter->setPen(outlineColor);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(place).adjusted(-.5, -.5, .5, .5)); // around its pixels
     painter->setPen(option.palette.color(QPalette::Text));
     painter->drawText(title, Qt::AlignHCenter | Qt::AlignTop,
                       titleText(index, option.fontMetrics, title.width()));

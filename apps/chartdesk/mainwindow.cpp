@@ -15,6 +15,7 @@
 #include "listbar.h"
 #include "logorefusal.h"
 #include "messagebox.h"
+#include "nametips.h"
 #include "recentfolders.h"
 #include "savequestions.h"
 #include "thememenu.h"
@@ -95,6 +96,7 @@ MainWindow::MainWindow(const QString& folder)
     connect(m_drafts, &DraftOffer::wanted, this, &MainWindow::resumeDraft);
     connectSession();
 
+    new NameTips(this);
     setFolder(folder);
     retranslate();
     fitToEditor();

@@ -5,7 +5,10 @@
 #include "deskwindow.h"
 #include "diagnostics.h"
 #include "languages.h"
+#include "nametips.h"
+#include "newfromdialog.h"
 #include "recentfolders.h"
+#include "showdialog.h"
 #include "testcase.h"
 
 #include <vdpatterndesign_version.h>
@@ -13,11 +16,13 @@
 #include <QAbstractSpinBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QToolButton>
+#include <QToolTip>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -52,10 +57,15 @@ private:
                widget->objectName() == QLatin1String("qt_toolbar_ext_button");
     }
 
-    static QString nameOf(const QWidget* widget)
+    /// The one of its own, or what the desk makes of its name.
+    static QString tipOf(QWidget* widget)
     {
-        const auto* button = qobject_cast<const QAbstractButton*>(widget);
-        return widget->accessibleName().isEmpty() && button ? button->text() : widget->accessibleName();
+        if (!widget->toolTip().isEmpty())
+            return widget->toolTip();
+        QHelpEvent asked(QEvent::ToolTip, widget->rect().center(),
+                         widget->mapToGlobal(widget->rect().center()));
+        QCoreApplication::sendEvent(widget, &asked);
+        return QToolTip::text() == controlName(widget) ? QToolTip::text() : QString();
     }
 
     static QString described(const QWidget* widget)
@@ -69,12 +79,12 @@ private:
     static QStringList shortcomings(const QWidget& window)
     {
         QStringList found;
-        for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
             if (!takesInput(widget) || isPart(widget) || !widget->isVisible() || !widget->isEnabled())
                 continue;
-            if (nameOf(widget).isEmpty())
+            if (controlName(widget).isEmpty())
                 found.append(described(widget) + QStringLiteral(" has no name"));
-            if (widget->toolTip().isEmpty())
+            if (tipOf(widget).isEmpty())
                 found.append(described(widget) + QStringLiteral(" has no tool tip"));
             if (!(widget->focusPolicy() & Qt::TabFocus))
                 found.append(described(widget) + QStringLiteral(" cannot be reached by Tab"));
@@ -115,7 +125,28 @@ private Q_SLOTS:
         QVERIFY(settle(*m_window));
         QVERIFY(click(*m_window->editor(), QStringLiteral("Confirm")));
         QTRY_VERIFY_WITH_TIMEOUT(isListShown(*m_window), 30000);
-        QCOMPARE(shortcomings(*m_window), QStringList());
+        QVERIFY2(shortcomings(*m_window).isEmpty(),
+                 qPrintable(shortcomings(*m_window).join(QLatin1Char('\n'))));
+    }
+
+    void everyControlOfTheEditorHasAName()
+    {
+        QVERIFY(trigger(*m_window, QStringLiteral("New chart")));
+        QVERIFY(settle(*m_window));
+        QVERIFY2(shortcomings(*m_window).isEmpty(),
+                 qPrintable(shortcomings(*m_window).join(QLatin1Char('\n'))));
+        m_window->session()->end();
+    }
+
+    void everyControlOfADialogHasAName()
+    {
+        ShowDialog show(QSize(64, 36), m_window.get());
+        NewFromDialog presets(m_window.get());
+        for (QDialog* dialog : {static_cast<QDialog*>(&show), static_cast<QDialog*>(&presets)}) {
+            dialog->setAttribute(Qt::WA_DeleteOnClose, false);
+            dialog->show();
+            QCOMPARE(shortcomings(*dialog).join(QLatin1Char('\n')), QString());
+        }
     }
 
     void everyShortcutIsOneActions()
@@ -150,7 +181,7 @@ private Q_SLOTS:
         QCOMPARE(keys.value(QStringLiteral("Black")), QStringLiteral("B"));
         QCOMPARE(keys.value(QStringLiteral("Show on…")), QStringLiteral("F11"));
         QCOMPARE(keys.value(QStringLiteral("Leave the output")), QStringLiteral("Esc"));
-        QCOMPARE(shortcomings(*tree->window()), QStringList());
+        QCOMPARE(shortcomings(*tree->window()).join(QLatin1Char('\n')), QString());
     }
 
     /// They are named as the keyboards of the language have them.
@@ -194,6 +225,18 @@ private Q_SLOTS:
             QVERIFY2(QFile::exists(QStringLiteral(":/chartdesk/manual/") + page), qPrintable(page));
         }
         QCOMPARE(pages, 5);
+        const QRegularExpression picture(QStringLiteral("!\\[[^\\]]*\\]\\(([^)]+)\\)"));
+        int pictures = 0;
+        for (const QFileInfo& page : QDir(QStringLiteral(":/chartdesk/manual")).entryInfoList(QDir::Files)) {
+            QFile file(page.filePath());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            auto found = picture.globalMatch(QString::fromUtf8(file.readAll()));
+            for (; found.hasNext(); ++pictures) {
+                const QString path = QStringLiteral(":/chartdesk/manual/") + found.next().captured(1);
+                QVERIFY2(!QImage(path).isNull(), qPrintable(path));
+            }
+        }
+        QCOMPARE(pictures, 5);
         manual->window()->close();
     }
 

@@ -22,6 +22,9 @@ QString keyOf(const QAction* action)
 void addMenuKeys(QTreeWidget* tree, const QMenu* menu)
 {
     auto* group = new QTreeWidgetItem({QString(menu->title()).remove(QLatin1Char('&'))});
+    QFont font = tree->font();
+    font.setBold(true);
+    group->setFont(0, font);
     const QList<QAction*> actions = menu->actions();
     for (const QAction* action : actions) {
         if (!keyOf(action).isEmpty())
@@ -60,7 +63,9 @@ ShortcutSheet::ShortcutSheet(const QMenuBar* menus, QWidget* parent)
     tree->expandAll();
     tree->header()->setStretchLastSection(false);
     tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    tree->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    tree->resizeColumnToContents(1);
+    tree->header()->setSectionResizeMode(1, QHeaderView::Fixed);
+    tree->setColumnWidth(1, tree->columnWidth(1) + 4 * tree->fontMetrics().averageCharWidth());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setToolTip(buttons->button(QDialogButtonBox::Close)->text());
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -10,6 +10,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -70,6 +71,10 @@ QImage drawnPreset(const TestChartToolsData& record, const ChartCaptions& captio
 {
     const QImage chart = ChartPicture(record, captions).image();
     QImage picture = chart.scaled(presetPictureSize * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter painter(&picture);
+    painter.setPen(QColor(128, 128, 128)); // a white chart stands out from a light list
+    painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
+    painter.end();
     picture.setDevicePixelRatio(ratio);
     return picture;
 }
