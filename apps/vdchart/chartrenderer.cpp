@@ -59,6 +59,12 @@ QImage ChartRenderer::render(const TestChartToolsData& record) const
     return required(chart(record).image());
 }
 
+QImage ChartRenderer::render(const ChartInput& input) const
+{
+    const PictureRows picture = rows(input);
+    return required(picture.rows(0, picture.size.height()));
+}
+
 PictureRows ChartRenderer::rows(const TestChartToolsData& record) const
 {
     return rowsOfPicture(chart(record));

@@ -30,6 +30,7 @@ public:
     vardeno::testcharttools::PictureRows rows(const ChartInput& chart) const;
     /// The same as one image.
     QImage render(const vardeno::testcharttools::TestChartToolsData& record) const;
+    QImage render(const ChartInput& chart) const;
 
 private:
     vardeno::testcharttools::ChartPicture

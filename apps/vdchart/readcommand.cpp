@@ -92,8 +92,12 @@ ExitCode runRead(const Arguments& arguments)
         pictures.push_back(readPicture(QString::fromStdString(picture), pixelLimit));
     const QString first = QString::fromStdString(inputs.pictures.front());
     const Wanted wanted = wantedChart(pictures.front(), first, inputs.record, arguments);
-    const WallReading::Chart chart{ChartRenderer(wanted.language).render(wanted.record),
-                                   cabinetsOf(wanted.record)};
+    if (wanted.chart.wall)
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: a wall of cabinets; photographs are read by records only")
+                          .arg(inputName(QString::fromStdString(inputs.record)))};
+    const WallReading::Chart chart{ChartRenderer(wanted.language).render(wanted.chart),
+                                   cabinetsOf(wanted.chart.record)};
     std::vector<WallReading::Reading> readings;
     for (const QImage& picture : pictures)
         readings.push_back(WallReading::read(picture, chart));

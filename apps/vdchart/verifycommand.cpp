@@ -1,5 +1,4 @@
 #include "arguments.h"
-#include "cabinetgrid.h"
 #include "chartcomparison.h"
 #include "chartrenderer.h"
 #include "commands.h"
@@ -9,6 +8,7 @@
 #include "outputfile.h"
 #include "recordinput.h"
 #include "verifyfolder.h"
+#include "wallgrid.h"
 #include "wantedchart.h"
 
 #include <QFile>
@@ -57,6 +57,8 @@ struct Verdict
     QString path;
     ChartComparison::Result result;
     qint64 translucent = 0;
+    QStringList cables; ///< sentences of those that look pulled
+    QJsonArray cablesJson;
 
     bool isGood() const { return result.equal && translucent == 0; }
 };
@@ -70,6 +72,8 @@ void printText(const Verdict& verdict)
         std::cout << name << ": this is the chart, pixel for pixel\n";
     for (const QString& sentence : verdict.result.sentences())
         std::cout << name << ": " << sentence.toStdString() << '\n';
+    for (const QString& cable : verdict.cables)
+        std::cout << name << ": " << cable.toStdString() << '\n';
 }
 
 void printJson(const Verdict& verdict)
@@ -77,15 +81,15 @@ void printJson(const Verdict& verdict)
     QJsonArray findings;
     for (const ChartComparison::Finding& finding : verdict.result.findings)
         findings.append(findingJson(finding));
-    std::cout << QJsonDocument(
-                     QJsonObject{{QStringLiteral("format"), QStringLiteral("testchart-verification")},
-                                 {QStringLiteral("version"), 1},
-                                 {QStringLiteral("picture"), verdict.path},
-                                 {QStringLiteral("good"), verdict.isGood()},
-                                 {QStringLiteral("translucentPixels"), verdict.translucent},
-                                 {QStringLiteral("findings"), findings}})
-                     .toJson()
-                     .toStdString();
+    QJsonObject document{{QStringLiteral("format"), QStringLiteral("testchart-verification")},
+                         {QStringLiteral("version"), 1},
+                         {QStringLiteral("picture"), verdict.path},
+                         {QStringLiteral("good"), verdict.isGood()},
+                         {QStringLiteral("translucentPixels"), verdict.translucent},
+                         {QStringLiteral("findings"), findings}};
+    if (!verdict.cablesJson.isEmpty())
+        document.insert(QStringLiteral("pulledCables"), verdict.cablesJson);
+    std::cout << QJsonDocument(document).toJson().toStdString();
 }
 
 /// Where nothing differs, what an earlier run has left would mislead.
@@ -117,11 +121,15 @@ ExitCode runVerify(const Arguments& arguments)
     claims.protect(difference);
     const QImage picture = readPicture(path, pixelLimit);
     const Wanted wanted = wantedChart(picture, path, arguments.record, arguments);
-    claims.readsLogo(wanted.record.logoData);
+    claims.readsLogo(wanted.chart.record.logoData);
+    if (!wanted.chart.recordFile.isEmpty())
+        claims.reads(wanted.chart.recordFile, QStringLiteral("the record of the chart"));
     claims.protect(difference);
-    const QImage expected = ChartRenderer(wanted.language).render(wanted.record);
-    const Verdict verdict{path, ChartComparison::compare(expected, picture, cabinetsOf(wanted.record)),
-                          translucentPixels(picture)};
+    const QImage expected = ChartRenderer(wanted.language).render(wanted.chart);
+    ChartCabinetGrid grid(wanted.chart);
+    ChartComparison::Result result = ChartComparison::compare(expected, picture, grid.cabinets());
+    grid.take(result);
+    const Verdict verdict{path, std::move(result), translucentPixels(picture), grid.sentences(), grid.json()};
     if (arguments.report == "json")
         printJson(verdict);
     else

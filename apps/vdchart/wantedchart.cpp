@@ -34,7 +34,7 @@ Wanted wantedFrom(const QImage& picture, const QString& path, const Arguments& a
                       QStringLiteral("%1: it carries no record; name one behind it").arg(inputName(path))};
     const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
     const QString language = arguments.isLanguageGiven ? QString() : carriedLanguage(picture, path);
-    return {requireRecord(json, inputName(path), folder, arguments.changes),
+    return {{requireRecord(json, inputName(path), folder, arguments.changes), std::nullopt, {}},
             language.isEmpty() ? QString::fromStdString(arguments.language) : language};
 }
 
@@ -65,6 +65,6 @@ Wanted wantedChart(const QImage& picture, const QString& path, const std::string
 {
     if (record.empty())
         return wantedFrom(picture, path, arguments);
-    return {requireRecord(QString::fromStdString(record), arguments.changes),
+    return {requireChart(QString::fromStdString(record), arguments.changes),
             QString::fromStdString(arguments.language)};
 }

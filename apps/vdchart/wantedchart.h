@@ -1,6 +1,6 @@
 #pragma once
 
-#include <testcharttoolsdata.h>
+#include "chartinput.h"
 
 #include <QImage>
 #include <QString>
@@ -10,7 +10,7 @@ struct Arguments;
 /// What a picture is to show.
 struct Wanted
 {
-    vardeno::testcharttools::TestChartToolsData record;
+    ChartInput chart;
     QString language;
 };
 

@@ -159,6 +159,48 @@ private Q_SLOTS:
         QCOMPARE(run({"render", "a.wall.json", "-o", "b.png", "--grid", "2x2"}).code, 2);
     }
 
+    /// Cabinets are called by the wall's names, and several of one cable are told as that cable.
+    void verification()
+    {
+        const QByteArray json = R"({"format": "testwall", "version": 1,
+            "cabinets": {"columnWidths": [[2, 64], [2, 96]], "rowHeights": [[3, 64]],
+                         "exceptions": [{"column": 1, "row": 1, "missing": true},
+                                        {"column": 3, "row": 2, "columns": 2, "name": "Center"}]},
+            "numbering": {"style": "numbers", "prefix": "C"},
+            "data": {"portPixels": 20480, "pattern": "each-line"},
+            "layers": {"names": true, "coordinates": true}})";
+        write("v.wall.json", json);
+        QCOMPARE(run({"render", "v.wall.json", "-o", "v.png"}).code, 0);
+        const Outcome good = run({"verify", "v.png", "v.wall.json"});
+        QCOMPARE(good.output, QByteArray("v.png: this is the chart, pixel for pixel\n"));
+        QCOMPARE(good.code, 0);
+
+        QImage picture(path("v.png"));
+        const auto darken = [&picture](const QRect& rect) {
+            for (int y = rect.top(); y <= rect.bottom(); ++y) {
+                for (int x = rect.left(); x <= rect.right(); ++x)
+                    picture.setPixelColor(x, y, Qt::black);
+            }
+        };
+        darken({128, 64, 192, 64});
+        QVERIFY(picture.convertToFormat(QImage::Format_RGB32).save(path("one.png")));
+        const Outcome one = run({"verify", "one.png", "v.wall.json"});
+        QVERIFY2(one.output.contains("Center"), one.output);
+        QVERIFY2(!one.output.contains("pulled"), one.output);
+
+        darken({64, 128, 256, 64}); // the last three of the lowest row, whose port feeds all four
+        QVERIFY(picture.convertToFormat(QImage::Format_RGB32).save(path("run.png")));
+        const Outcome bad = run({"verify", "run.png", "v.wall.json"});
+        QCOMPARE(bad.code, 1);
+        QVERIFY2(
+            bad.output.contains("run.png: port 3 from cabinet C8 on: 3 cabinets are wrong, which is what a "
+                                "pulled data cable looks like\n"),
+            bad.output);
+        const QJsonObject told =
+            QJsonDocument::fromJson(run({"verify", "-f", "json", "run.png", "v.wall.json"}).output).object();
+        QVERIFY(told.contains("pulledCables"));
+    }
+
     /// A picture is not written over the record that the wall names.
     void theRecordIsProtected()
     {
