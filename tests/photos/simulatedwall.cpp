@@ -7,6 +7,7 @@
 #include <presets.h>
 
 #include <algorithm>
+#include <utility>
 
 using namespace vardeno::testcharttools;
 
@@ -149,6 +150,8 @@ private:
     int single(int kind)
     {
         const std::size_t cabinet = take();
+        if (kind >= 7 && litChannels(cabinet).empty())
+            return 0; // nothing to see
         switch (kind) {
         case 2:
             turn(cabinet);
@@ -232,6 +235,22 @@ private:
         put(m_wall, cabinet, content);
     }
 
+    /// Those that a cabinet without them would look different by.
+    std::vector<int> litChannels(std::size_t cabinet) const
+    {
+        constexpr int lit = 40;
+        const QColor mean = contentOf(m_wall, cabinet)
+                                .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                .pixelColor(0, 0);
+        std::vector<int> channels;
+        for (const auto& [channel, value] :
+             {std::pair(0, mean.red()), std::pair(1, mean.green()), std::pair(2, mean.blue())}) {
+            if (value >= lit)
+                channels.push_back(channel);
+        }
+        return channels;
+    }
+
     template <typename Change>
     void recolor(std::size_t cabinet, Change change)
     {
@@ -255,7 +274,8 @@ private:
     void color(std::size_t cabinet)
     {
         fault(cabinet, "color");
-        const int missing = wholeBetween(m_random, 0, 2);
+        const std::vector<int> channels = litChannels(cabinet);
+        const int missing = channels[m_random() % channels.size()];
         recolor(cabinet, [missing](QRgb color) {
             return qRgb(missing == 0 ? 0 : qRed(color), missing == 1 ? 0 : qGreen(color),
                         missing == 2 ? 0 : qBlue(color));

@@ -211,7 +211,7 @@ std::string Tally::table() const
 {
     std::string out = "\n| pictures | number | located | corner error, median | 95 % | accusations right | "
                       "faults found | false "
-                      "accusations | longest, s |\n|---|---|---|---|---|---|---|---|---|\n";
+                      "accusations | processor time, longest, s |\n|---|---|---|---|---|---|---|---|---|\n";
     out += rowOf("all", m_results, [](const Result&) { return true; });
     out += rowOf("up to 40 degrees, from 0.8", m_results,
                  [](const Result& r) { return r.angle <= 40 && r.scale >= 0.8; });
