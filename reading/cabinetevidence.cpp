@@ -144,11 +144,14 @@ double alikeSlopes(const Slopes& seen, const Slopes& shown)
            std::sqrt(seen.square * shown.square + 1e-6);
 }
 
-cv::Mat withoutGain(const cv::Mat& seen, const cv::Mat& gain)
+cv::Mat withoutGain(const cv::Mat& seen, const Light& light)
 {
     cv::Mat gains;
-    cv::merge(std::vector<cv::Mat>(3, gain), gains);
-    return seen / gains;
+    cv::merge(std::vector<cv::Mat>(3, light.gain), gains);
+    const cv::Scalar pedestal(light.pedestal);
+    cv::Mat result = seen - pedestal;
+    result /= gains;
+    return result + pedestal;
 }
 
 /// The blur that makes the chart as sharp as the picture.
@@ -198,8 +201,9 @@ Evidence evidenceOf(const cv::Mat& chart, const ChartComparison::CabinetGrid& gr
         lightOf(blurredByPlace(shown, blur, reachOfPixels(place.lens, view)), seen, evidence.inside);
     if (!evidence.light.isKnown)
         return evidence;
-    evidence.ceiling = 255 / evidence.light.gain;
-    evidence.seen = withoutGain(seen, evidence.light.gain);
+    const double pedestal = double(cv::sum(evidence.light.pedestal)[0]) / 3;
+    evidence.ceiling = (255 - pedestal) / evidence.light.gain + pedestal;
+    evidence.seen = withoutGain(seen, evidence.light);
     return evidence;
 }
 

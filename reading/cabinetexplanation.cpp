@@ -12,6 +12,10 @@ namespace WallReading {
 
 namespace {
 
+/// Others' contents that a cabinet is held against although it shows its own.
+constexpr std::size_t contentsOfRight = 2;
+constexpr std::size_t contentsOfLikely = 5;
+
 Explanation own(const Evidence& evidence, std::size_t cabinet)
 {
     Explanation result;
@@ -94,7 +98,7 @@ std::vector<Explanation> recolored(const Evidence& evidence, std::size_t cabinet
     for (int missing = 0; missing < 3; ++missing) {
         std::vector<cv::Mat> planes;
         cv::split(expected, planes);
-        const double black = double(evidence.light.black[missing]);
+        const double black = double(evidence.light.pedestal[missing]);
         const double should = meanExpected[missing] - black;
         if (should < Thresholds::leastOfChannel * double(evidence.light.white[missing]) ||
             meanSeen[missing] - black > Thresholds::mostMissing * should)
@@ -190,14 +194,26 @@ Shifted bestShift(const cv::Mat& seen, const cv::Mat& expected, const cv::Rect& 
 } // namespace
 
 std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t cabinet,
-                                        const std::vector<Content>& nearest, double clearlyRight)
+                                        const std::vector<Content>& nearest, double clearlyRight,
+                                        double likelyRight)
 {
     std::vector<Explanation> all = {own(evidence, cabinet)};
+    const bool isClear = all.front().cost < clearlyRight;
+    std::size_t left = isClear                          ? contentsOfRight
+                       : all.front().cost < likelyRight ? contentsOfLikely
+                                                        : nearest.size();
     for (const Content& content : nearest) {
-        if (content.cabinet != int(cabinet) || !content.orientation.isStraight())
-            all.push_back(shows(evidence, cabinet, content));
+        if (content.cabinet == int(cabinet))
+            continue;
+        if (left-- == 0)
+            break;
+        all.push_back(shows(evidence, cabinet, content));
     }
-    if (all.front().cost < clearlyRight)
+    for (const Orientation& orientation : orientationsFor(evidence.rects[cabinet].size())) {
+        if (!orientation.isStraight())
+            all.push_back(shows(evidence, cabinet, {int(cabinet), orientation}));
+    }
+    if (isClear)
         return all;
     all.push_back(oneColor(evidence, cabinet));
     all.push_back(dimmed(evidence, cabinet));

@@ -23,9 +23,11 @@ struct Explanation
 };
 
 /// Each explanation that comes into question, its own picture the first. `nearest` are contents of the chart
-/// that look like it; where its own picture costs less than `clearlyRight` only these are tried.
+/// that look like it; where its own picture costs less than `likelyRight` fewer of them are tried, and below
+/// `clearlyRight` nothing else.
 std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t cabinet,
-                                        const std::vector<Content>& nearest, double clearlyRight);
+                                        const std::vector<Content>& nearest, double clearlyRight,
+                                        double likelyRight);
 
 /// The cabinet's own picture moved within the cabinet.
 std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet);

@@ -18,7 +18,7 @@ namespace {
 
 using namespace Thresholds;
 
-constexpr int contentsLookedAt = 4;
+constexpr int contentsLookedAt = 12;
 
 /// Which blocks of each cabinet do not show what they should.
 struct Blocks
@@ -108,7 +108,8 @@ private:
         cv::parallel_for_({0, int(seen.size())}, [&](const cv::Range& range) {
             for (auto i = std::size_t(range.start); i < std::size_t(range.end); ++i) {
                 if (isInside(i))
-                    m_explanations[i] = explanationsOf(m_evidence, i, nearest[i], clearlyRightCost * m_usual);
+                    m_explanations[i] = explanationsOf(m_evidence, i, nearest[i], clearlyRightCost * m_usual,
+                                                       explainedCost * m_usual);
             }
         });
     }
@@ -195,6 +196,16 @@ private:
         return best.kind == Kind::Brightness && std::abs(best.factor - 1) < leastDimming;
     }
 
+    /// Whether one colour explains it, too.
+    bool isOneColor(std::size_t cabinet) const
+    {
+        const std::vector<Explanation>& all = m_explanations[cabinet];
+        return std::any_of(all.begin(), all.end(), [this](const Explanation& explanation) {
+            return (explanation.kind == Kind::Dark || explanation.kind == Kind::Flat) &&
+                   usual(explanation.cost) < explainedCost;
+        });
+    }
+
     /// Of all explanations the one that costs least.
     const Explanation& bestOf(std::size_t cabinet) const
     {
@@ -265,8 +276,8 @@ private:
         if (m_explanations[cabinet].empty())
             return true;
         const Explanation& best = bestOf(cabinet);
-        return !isExplained(cabinet) || (!best.isRight && best.kind != Kind::Turned &&
-                                         best.kind != Kind::Mirrored && best.kind != Kind::Color);
+        return !isExplained(cabinet) || best.kind == Kind::Dark || best.kind == Kind::Flat ||
+               best.kind == Kind::Brightness || (best.kind == Kind::Swapped && isOneColor(cabinet));
     }
 
     void accuse(std::size_t cabinet, const Explanation& explanation)

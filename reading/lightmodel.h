@@ -8,9 +8,10 @@ namespace WallReading {
 /// two, and a gain that changes slowly over the wall.
 struct Light
 {
-    cv::Mat gain;    ///< float, over the view
-    cv::Mat toned;   ///< the chart in the picture's colours, three floats of 255, without the gain
-    cv::Vec3f white; ///< the brightest that the chart shows, and the darkest, so toned
+    cv::Mat gain;       ///< float, over the view
+    cv::Vec3f pedestal; ///< what a dark wall comes to, of 255: the gain does not change it
+    cv::Mat toned;      ///< the chart in the picture's colours, three floats of 255, without the gain
+    cv::Vec3f white;    ///< the brightest that the chart shows, and the darkest, so toned
     cv::Vec3f black;
     double noise = 1;  ///< steps of 255 that a pixel is off
     double slope = 1;  ///< of the picture's values over the chart's, in the mean

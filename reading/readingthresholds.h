@@ -7,13 +7,13 @@ namespace WallReading::Thresholds {
 // How much a pixel may be off
 
 /// Pixels of the view by which a place may be off: an edge then is wrong by this part of its slope.
-constexpr float placeError = 0.35F;
+constexpr float placeError = 0.2F;
 
 /// Of what a pixel shows: tone curves and gain are known to about this.
 constexpr float lightError = 0.04F;
 
 /// Of white, in linear light: what shines in from beside.
-constexpr float strayLight = 0.004F;
+constexpr float strayLight = 0.008F;
 
 /// What the light of one cabinet may be off: its gain, and each channel in parts of white.
 constexpr double cabinetGain = 0.07;
@@ -58,7 +58,7 @@ constexpr float mostDark = 0.34F;
 constexpr double leastDimming = 0.18;
 
 /// A channel that has less of what it should have is missing; of white, it should have this much.
-constexpr double mostMissing = 0.35;
+constexpr double mostMissing = 0.55;
 constexpr double leastOfChannel = 0.12;
 
 /// Chart pixels: less is the lens.
