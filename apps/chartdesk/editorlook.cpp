@@ -38,6 +38,7 @@ EditorLook::EditorLook(VTestChartTools* editor)
 {
     editor->setWheelScrollsPanels(true);
     editor->setLiveSliders(true);
+    editor->setPromptPreview(true);
     editor->setCalmLock(true);
     editor->setTypingGoesOn(true);
     editor->setSmallPng(true);

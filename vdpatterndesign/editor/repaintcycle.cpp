@@ -73,11 +73,11 @@ void RepaintCycle::begin()
 {
     m_begun = true;
     QTimer::singleShot(0, this, [this] { m_begun = false; });
-    QTimer::singleShot(editorDelays().lock, this, [this] {
+    QTimer::singleShot(m_prompt ? 0 : editorDelays().lock, this, [this] {
         if (m_tool->isVisible())
             setLocked(true);
     });
-    QTimer::singleShot(editorDelays().snapshot, this, [this] {
+    QTimer::singleShot(m_prompt ? 0 : editorDelays().snapshot, this, [this] {
         if (m_tool->isVisible())
             m_takeSnapshot();
     });

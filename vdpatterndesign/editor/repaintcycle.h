@@ -38,6 +38,10 @@ public:
     void showAtOnce(const std::function<void()>& change);
     bool showsAtOnce() const { return m_atOnce; }
 
+    /// Prompt, the picture is taken when control is given back to the event loop.
+    void setPrompt(bool prompt) { m_prompt = prompt; }
+    bool isPrompt() const { return m_prompt; }
+
     /// The layers' reports.
     PaintStatus& status() { return m_status; }
     /// All awaited layers have reported.
@@ -60,6 +64,7 @@ private:
     CalmLook m_look;
     PaintStatus m_status;
     bool m_begun = false; ///< since control was last given back to the event loop
+    bool m_prompt = false;
     bool m_held = false;
     bool m_wanted = false; ///< while held
     bool m_atOnce = false;

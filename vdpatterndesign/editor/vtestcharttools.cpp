@@ -178,6 +178,16 @@ void VTestChartTools::setLiveSliders(bool live)
     d->liveSliders.setOn(live);
 }
 
+bool VTestChartTools::promptPreview() const
+{
+    return d->cycle.isPrompt();
+}
+
+void VTestChartTools::setPromptPreview(bool prompt)
+{
+    d->cycle.setPrompt(prompt);
+}
+
 bool VTestChartTools::calmLock() const
 {
     return d->cycle.look().isOn();

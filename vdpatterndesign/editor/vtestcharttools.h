@@ -30,6 +30,7 @@ class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
     Q_PROPERTY(bool wheelScrollsPanels READ wheelScrollsPanels WRITE setWheelScrollsPanels)
     Q_PROPERTY(bool liveSliders READ liveSliders WRITE setLiveSliders)
     Q_PROPERTY(bool typingGoesOn READ typingGoesOn WRITE setTypingGoesOn)
+    Q_PROPERTY(bool promptPreview READ promptPreview WRITE setPromptPreview)
     Q_PROPERTY(bool calmLock READ calmLock WRITE setCalmLock)
     Q_PROPERTY(bool smallPng READ smallPng WRITE setSmallPng)
     Q_PROPERTY(bool followsHost READ followsHost WRITE setFollowsHost)
@@ -105,6 +106,10 @@ public:
     /// follows when the slider is released.
     bool liveSliders() const;
     void setLiveSliders(bool live);
+    /// Whether the preview shows a change as soon as it can be drawn. Off, at first, it does so a tenth of a
+    /// second later, when the layers have painted.
+    bool promptPreview() const;
+    void setPromptPreview(bool prompt);
     /// Whether controls that are locked while the chart is repainted look so only when that takes longer than
     /// 0.4 s. Off, at first, they look so at once. They are locked in the same way.
     bool calmLock() const;
