@@ -17,7 +17,7 @@ double product(const QPointF& a, const QPointF& b)
 
 double lengthOf(const QPointF& vector)
 {
-    return std::hypot(vector.x(), vector.y());
+    return std::sqrt(product(vector, vector));
 }
 
 /// Draws pixels that are covered as far as they lie within half a pixel of a shape's edge.
@@ -32,9 +32,8 @@ public:
             return;
         m_row = QImage(m_box.width(), 1, QImage::Format_ARGB32_Premultiplied);
         for (int i = 0; i <= steps; ++i) {
-            QColor part = color;
-            part.setAlphaF(color.alphaF() * i / steps);
-            m_colors[i] = qPremultiply(part.rgba());
+            const int alpha = (color.alpha() * i + steps / 2) / steps;
+            m_colors[i] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
         }
     }
 
@@ -53,7 +52,7 @@ public:
         auto* const pixels = reinterpret_cast<QRgb*>(m_row.scanLine(0));
         for (int x = first; x <= last; ++x) {
             const double covered = std::clamp(0.5 - distance(QPointF(x + 0.5, y + 0.5)), 0.0, 1.0);
-            pixels[x - first] = m_colors[std::lround(covered * steps)];
+            pixels[x - first] = m_colors[int(covered * steps + 0.5)];
         }
         m_painter.drawImage(QPoint(first, y), m_row, QRect(0, 0, last - first + 1, 1));
     }

@@ -128,12 +128,9 @@ void RunLayer::drawText(QPainter& painter, const QPointF& at, const QString& tex
     const QRect box = square(at, mark).toAlignedRect();
     if (!box.intersects(area))
         return;
-    QFont font = textFont();
+    QFont font = testcharttools::textFont();
     font.setBold(true);
-    font.setPixelSize(std::clamp(int(mark * (text.size() > 3   ? 0.62
-                                             : text.size() > 2 ? 0.78
-                                                               : 1.0)),
-                                 1, 200));
+    font.setPixelSize(std::clamp(int(mark * std::min(1.0, 2.4 / double(text.size()))), 1, 200));
     painter.setFont(font);
     painter.setPen(casing);
     painter.drawText(box.adjusted(-box.width(), 0, box.width(), 0), Qt::AlignCenter | Qt::TextDontClip, text);
