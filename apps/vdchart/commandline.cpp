@@ -252,11 +252,19 @@ void CommandLine::addRead()
 void CommandLine::addWall()
 {
     WallArguments& wall = m_arguments.wall;
-    CLI::App* command = addCommand("wall", "Print a new wall, or list the cabinets for new walls", &runWall);
-    command->add_option("action", wall.action, "What to print")
+    CLI::App* command = addCommand(
+        "wall", "Print a new wall, list the cabinets for new walls, or write a report of a wall", &runWall);
+    command
+        ->add_option("action", wall.action,
+                     "What to do: print a new wall or the usual cabinets, or report on WALL")
         ->type_name("ACTION")
-        ->check(CLI::IsMember({"new", "cabinets"}))
+        ->check(CLI::IsMember({"new", "cabinets", "report"}))
         ->required();
+    command->add_option("wall", m_arguments.record, "The wall of a report; - for the standard input")
+        ->type_name("WALL")
+        ->check(problemOfPath);
+    command->add_option("-o,--output", m_arguments.output, "The report: .pdf, or .csv for its cabinets")
+        ->type_name("FILE");
     command->add_option("-n,--name", wall.name, "What the wall is called")->type_name("NAME");
     command
         ->add_option("--cabinet", wall.cabinet,

@@ -1,11 +1,16 @@
 #include "arguments.h"
 #include "cabinetmodels.h"
 #include "chartapplication.h"
+#include "chartinput.h"
 #include "commands.h"
+#include "fileclaims.h"
 #include "newchart.h"
+#include "outputfile.h"
+#include "recordinput.h"
 
 #include <chartrecordfile.h>
 #include <wallfile.h>
+#include <wallreport.h>
 
 #include <QJsonDocument>
 
@@ -137,6 +142,35 @@ void printCabinets()
     }
 }
 
+/// Throws Failure for a command line that lacks what a report needs, or has what it has no use for.
+ExitCode report(const Arguments& arguments)
+{
+    const QString path = QString::fromStdString(arguments.output);
+    const bool isCsv = path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+    if (arguments.record.empty() || path.isEmpty())
+        throw Failure{ExitCode::Usage, QStringLiteral("wall report: WALL and -o FILE are needed")};
+    if (!isCsv && !path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
+        throw Failure{ExitCode::Usage, QStringLiteral("%1: a report ends in .pdf or .csv").arg(path)};
+    const QString source = QString::fromStdString(arguments.record);
+    const ChartInput chart = requireChart(source, {});
+    if (!chart.wall)
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: a record, not a wall").arg(inputName(source))};
+    FileClaims claims;
+    claims.reads(source, QStringLiteral("the wall of the report"));
+    claims.reads(chart.recordFile, QStringLiteral("the record of the wall"));
+    claims.protect(path);
+    const ChartApplication application; // for the fonts of the pages
+    if (isCsv) {
+        writeOutput(path, WallReport::csv(*chart.wall, chart.record));
+        return ExitCode::Good;
+    }
+    const QString problem = WallReport::writePdf(path, *chart.wall, chart.record);
+    if (!problem.isEmpty())
+        throw Failure{ExitCode::NotWritten, QStringLiteral("%1: %2").arg(path, problem)};
+    return ExitCode::Good;
+}
+
 } // namespace
 
 ExitCode runWall(const Arguments& arguments)
@@ -145,6 +179,8 @@ ExitCode runWall(const Arguments& arguments)
         printCabinets();
         return ExitCode::Good;
     }
+    if (arguments.wall.action == "report")
+        return report(arguments);
     WallDocument wall = newWall(arguments.wall);
     requireGood(wall);
     const ChartApplication application; // for the fonts that texts are placed by

@@ -201,6 +201,47 @@ private Q_SLOTS:
         QVERIFY(told.contains("pulledCables"));
     }
 
+    void reports()
+    {
+        write("r.wall.json", wallJson());
+        QCOMPARE(run({"wall", "report", "r.wall.json", "-o", "r.csv"}).code, 0);
+        QCOMPARE(read("r.csv").split('\n').size(), 6 + 2); // a head, six cabinets, and nothing
+        QVERIFY(read("r.csv").startsWith("name,"));
+        QCOMPARE(run({"wall", "report", "r.wall.json", "-o", "r.pdf"}).code, 0);
+        QVERIFY(read("r.pdf").startsWith("%PDF"));
+    }
+
+    void wrongReports_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("no wall") << QStringList{"-o", "r.pdf"} << 2
+                                 << "wall report: WALL and -o FILE are needed";
+        QTest::newRow("no report") << QStringList{"r.wall.json"} << 2
+                                   << "wall report: WALL and -o FILE are needed";
+        QTest::newRow("a picture") << QStringList{"r.wall.json", "-o", "r.png"} << 2
+                                   << "r.png: a report ends in .pdf or .csv";
+        QTest::newRow("a record") << QStringList{"record.json", "-o", "r.pdf"} << 3
+                                  << "record.json: a record, not a wall";
+        QTest::newRow("over the wall")
+            << QStringList{"own.csv", "-o", "own.csv"} << 2 << "own.csv: is the wall of the report";
+        QTest::newRow("no folder") << QStringList{"r.wall.json", "-o", "none/r.pdf"} << 4
+                                   << "none/r.pdf: No such file or directory";
+    }
+
+    void wrongReports()
+    {
+        QFETCH(QStringList, arguments);
+        write("r.wall.json", wallJson());
+        write("own.csv", wallJson());
+        write("record.json", ChartRecordFile::toJson({}));
+        const Outcome outcome = run(QStringList{"wall", "report"} + arguments);
+        QTEST(outcome.code, "code");
+        QFETCH(QString, problem);
+        QCOMPARE(outcome.errors, "vdchart: " + problem + '\n');
+    }
+
     /// A picture is not written over the record that the wall names.
     void theRecordIsProtected()
     {
