@@ -42,22 +42,44 @@ Explanation shows(const Evidence& evidence, std::size_t cabinet, const Content& 
     return result;
 }
 
+/// The middle value of each channel.
+cv::Vec3f medianOf(const cv::Mat& seen)
+{
+    std::vector<cv::Mat> planes;
+    cv::split(seen, planes);
+    cv::Vec3f middle;
+    for (int c = 0; c < 3; ++c) {
+        std::vector<float> values = planes[std::size_t(c)].reshape(1, 1).clone();
+        std::nth_element(values.begin(), values.begin() + std::ptrdiff_t(values.size() / 2), values.end());
+        middle[c] = values[values.size() / 2];
+    }
+    return middle;
+}
+
+/// The strip of `beside` along its border with `other`, without what that shines into.
+cv::Rect stripBeside(const cv::Rect& beside, const cv::Rect& other, int margin)
+{
+    const int wide = std::max(3, beside.width / 8);
+    const int high = std::max(3, beside.height / 8);
+    if (other.x >= beside.br().x)
+        return {beside.br().x - margin - wide, beside.y, wide, beside.height};
+    if (other.br().x <= beside.x)
+        return {beside.x + margin, beside.y, wide, beside.height};
+    if (other.y >= beside.br().y)
+        return {beside.x, beside.br().y - margin - high, beside.width, high};
+    return {beside.x, beside.y + margin, beside.width, high};
+}
+
 /// One colour all over; dark where it is about the darkest that the wall can show.
 Explanation oneColor(const Evidence& evidence, std::size_t cabinet)
 {
     Explanation result;
     const cv::Mat seen = evidence.seenAt(cabinet);
-    std::vector<cv::Mat> planes;
-    cv::split(seen, planes);
-    cv::Vec3f middle;
+    const cv::Vec3f middle = medianOf(seen);
     bool isDark = true;
-    for (int c = 0; c < 3; ++c) {
-        std::vector<float> values = planes[std::size_t(c)].reshape(1, 1).clone();
-        std::nth_element(values.begin(), values.begin() + std::ptrdiff_t(values.size() / 2), values.end());
-        middle[c] = values[values.size() / 2];
+    for (int c = 0; c < 3; ++c)
         isDark = isDark && middle[c] < std::max(evidence.light.black[c] + 8,
                                                 Thresholds::mostDark * evidence.light.white[c]);
-    }
     result.kind = isDark ? Kind::Dark : Kind::Flat;
     result.expected = cv::Mat(seen.size(), CV_32FC3, cv::Scalar(middle[0], middle[1], middle[2]));
     result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
@@ -220,6 +242,29 @@ std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t ca
     const std::vector<Explanation> colors = recolored(evidence, cabinet);
     all.insert(all.end(), colors.begin(), colors.end());
     return all;
+}
+
+bool goesOn(const Evidence& evidence, std::size_t beside, std::size_t plain)
+{
+    const cv::Rect strip = stripBeside(evidence.rects[beside], evidence.rects[plain], evidence.margin) &
+                           cv::Rect({}, evidence.seen.size());
+    const cv::Vec3f color = medianOf(evidence.seenAt(plain));
+    const cv::Mat seen = evidence.seen(strip);
+    const cv::Mat expected = evidence.light.toned(strip);
+    const double apart = 4 + Thresholds::noisesApart * evidence.light.noise;
+    int compared = 0;
+    int alike = 0;
+    for (int y = 0; y < strip.height; ++y) {
+        for (int x = 0; x < strip.width; ++x) {
+            const cv::Vec3f should = expected.at<cv::Vec3f>(y, x);
+            if (cv::norm(should - color) < apart)
+                continue;
+            ++compared;
+            const cv::Vec3f is = seen.at<cv::Vec3f>(y, x);
+            alike += cv::norm(is - color) < cv::norm(is - should) ? 1 : 0;
+        }
+    }
+    return compared > 0.2 * strip.area() && alike > Thresholds::mostAlikeBeside * compared;
 }
 
 std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet)

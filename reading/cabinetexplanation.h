@@ -29,6 +29,10 @@ std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t ca
                                         const std::vector<Content>& nearest, double clearlyRight,
                                         double likelyRight);
 
+/// Whether the colour of the plain cabinet `plain` goes on in its neighbour `beside`: that of a dark cabinet
+/// ends with it, that of somebody before the wall does not.
+bool goesOn(const Evidence& evidence, std::size_t beside, std::size_t plain);
+
 /// The cabinet's own picture moved within the cabinet.
 std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet);
 

@@ -228,6 +228,8 @@ private:
         for (std::size_t i = 0; i < m_covered.size(); ++i) {
             const double share = m_blocks.share(i);
             m_covered[i] = !isExplained(i) && share > 0 && share < nearlyAllBlocks && !m_shifts[i];
+            for (const std::size_t next : neighboursOf(i))
+                m_covered[i] = m_covered[i] || (isPlain(i) && !isPlain(next) && goesOn(m_evidence, next, i));
             if (m_covered[i])
                 open.push_back(i);
         }
@@ -235,12 +237,23 @@ private:
             const std::size_t from = open.back();
             open.pop_back();
             for (const std::size_t next : neighboursOf(from)) {
-                if (m_covered[next] || !mayBeCovered(next) || !touches(from, next))
+                if (m_covered[next] || !mayBeCovered(next) ||
+                    !(touches(from, next) ||
+                      (isPlain(next) && (isPlain(from) || goesOn(m_evidence, from, next)))))
                     continue;
                 m_covered[next] = true;
                 open.push_back(next);
             }
         }
+    }
+
+    /// One colour all over, as what is before the wall often is.
+    bool isPlain(std::size_t cabinet) const
+    {
+        if (m_explanations[cabinet].empty())
+            return false;
+        const Explanation& best = bestOf(cabinet);
+        return !best.isRight && isExplained(cabinet) && isOneColor(cabinet);
     }
 
     std::vector<std::size_t> neighboursOf(std::size_t cabinet) const

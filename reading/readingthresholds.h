@@ -83,6 +83,11 @@ constexpr double wrongBlock = 5;
 constexpr double fewBlocks = 0.1;
 constexpr double nearlyAllBlocks = 0.85;
 
+/// Noises by which two colours can be told apart, and the part of a strip beside a plain cabinet that may
+/// have its colour: noise and blur make some of it.
+constexpr double noisesApart = 4;
+constexpr double mostAlikeBeside = 0.12;
+
 /// Part of a cabinet that has to be in the picture.
 constexpr double leastInside = 0.97;
 

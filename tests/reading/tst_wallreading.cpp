@@ -188,6 +188,23 @@ private Q_SLOTS:
         QCOMPARE(accused(reading), QStringList{"flat 1/2"});
     }
 
+    /// Whoever stands before the wall covers some cabinets whole, and these are as dark as dead ones.
+    void accusesNobodyBehindPeople()
+    {
+        const QImage shown =
+            changed([](QPainter& painter, const QImage& chart, const QRect& one, const QRect&) {
+                painter.fillRect(one, Qt::black);
+                painter.setBrush(QColor(8, 8, 8));
+                painter.setPen(Qt::NoPen);
+                const int width = chart.width();
+                const int height = chart.height();
+                painter.drawEllipse(QRect(width * 45 / 100, height * 52 / 100, width / 2, height));
+            });
+        const Reading reading = read(Photos::compressed(shown, 80), chart());
+        QVERIFY(reading.isLocated);
+        QCOMPARE(accused(reading), QStringList{"dark 1/2"});
+    }
+
     void findsNothingWhereNothingIs_data()
     {
         QTest::addColumn<QImage>("picture");
