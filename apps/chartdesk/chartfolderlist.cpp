@@ -4,7 +4,9 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -16,14 +18,21 @@ int numberAfter(const QString& name, const QString& baseName)
     return digits.match(rest).hasMatch() ? rest.toInt() : 0;
 }
 
-/// The tenth chart of a second comes after the ninth.
-bool isNewer(const QString& folder, const QString& other)
+/// A folder's time, and its number within that: the tenth chart of a second comes after the ninth.
+using FolderKey = std::pair<QString, qulonglong>;
+
+FolderKey keyOf(const QString& folder)
 {
-    const auto key = [](const QString& name) {
-        return std::make_pair(name.section(QLatin1Char('-'), 0, 0),
-                              name.section(QLatin1Char('-'), 1).toULongLong());
-    };
-    return key(folder) > key(other);
+    const int dash = int(folder.indexOf(QLatin1Char('-')));
+    return dash < 0 ? FolderKey(folder, 0) : FolderKey(folder.left(dash), folder.mid(dash + 1).toULongLong());
+}
+
+/// Patterns would be compiled again for each folder.
+bool isImage(const QFileInfo& file)
+{
+    const QString ending = file.suffix().toLower();
+    return ending == QLatin1String("png") || ending == QLatin1String("jpg") ||
+           ending == QLatin1String("jpeg") || ending == QLatin1String("bmp");
 }
 
 } // namespace
@@ -32,21 +41,26 @@ namespace ChartFolderList {
 
 QFileInfoList imagesIn(const QString& folder)
 {
-    const QStringList images = {QStringLiteral("*.png"), QStringLiteral("*.jpg"), QStringLiteral("*.jpeg"),
-                                QStringLiteral("*.bmp")};
-    return QDir(folder).entryInfoList(images, QDir::Files, QDir::Name);
+    QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
+    files.erase(
+        std::remove_if(files.begin(), files.end(), [](const QFileInfo& file) { return !isImage(file); }),
+        files.end());
+    return files;
 }
 
 QStringList folders(const QString& root)
 {
     static const QRegularExpression timeStamp(QStringLiteral("^\\d{8}_\\d{6}(-\\d+)?$"));
-    QStringList names = QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
-    std::sort(names.begin(), names.end(), isNewer);
-    QStringList found;
-    for (const QString& name : qAsConst(names)) {
+    const QStringList names = QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    std::vector<std::pair<FolderKey, QString>> dated;
+    for (const QString& name : names) {
         if (timeStamp.match(name).hasMatch())
-            found.append(root + QLatin1Char('/') + name);
+            dated.emplace_back(keyOf(name), root + QLatin1Char('/') + name);
     }
+    std::sort(dated.begin(), dated.end(), std::greater<>());
+    QStringList found;
+    for (const auto& folder : dated)
+        found.append(folder.second);
     return found;
 }
 
