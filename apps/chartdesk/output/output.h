@@ -48,6 +48,8 @@ public:
     void endLive(const QString& chart);
 
     Walk* walk() const { return m_walk.get(); }
+    /// What has been read ahead.
+    const ChartReader& reader() const { return m_reader; }
 
     /// A line on what is shown where, in the language of the desk; empty while it is off.
     QString status() const;
