@@ -224,7 +224,7 @@ QStringList ChartList::mimeTypes() const
     return {QStringLiteral("text/uri-list")};
 }
 
-QMimeData* ChartList::mimeData(const QList<QListWidgetItem*> items) const
+QMimeData* ChartList::mimeData(DraggedItems items) const
 {
     QList<QUrl> files;
     for (const QListWidgetItem* dragged : items)

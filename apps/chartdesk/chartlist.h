@@ -9,6 +9,12 @@
 #include <QLocale>
 #include <QTimer>
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+using DraggedItems = const QList<QListWidgetItem*>;
+#else
+using DraggedItems = const QList<QListWidgetItem*>&;
+#endif
+
 /// The charts of a folder, as pictures. It follows the folder: what has not changed there stays as it is
 /// here, with its place and its picture.
 class ChartList : public QListWidget
@@ -61,7 +67,7 @@ Q_SIGNALS:
 
 protected:
     QStringList mimeTypes() const override;
-    QMimeData* mimeData(const QList<QListWidgetItem*> items) const override;
+    QMimeData* mimeData(DraggedItems items) const override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;

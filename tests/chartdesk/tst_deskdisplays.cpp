@@ -117,9 +117,9 @@ private Q_SLOTS:
 
     void theDisplays()
     {
-        const QVector<Display> all = displays();
+        const QVector<DeskDisplay> all = displays();
         QVERIFY(all.size() >= 2);
-        for (const Display& display : all) {
+        for (const DeskDisplay& display : all) {
             QCOMPARE(display.pixels, displaySize);
             QCOMPARE(display.name, QStringLiteral("DUMMY%1").arg(display.number - 1));
         }

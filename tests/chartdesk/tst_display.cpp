@@ -43,9 +43,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, wanted);
         QFETCH(int, number);
-        const QVector<Display> all = {{1, QStringLiteral("HDMI-1"), QSize(1920, 1080), 1},
-                                      {2, QStringLiteral("DP-2"), QSize(3840, 2160), 1.5}};
-        const Display* display = findDisplay(all, wanted);
+        const QVector<DeskDisplay> all = {{1, QStringLiteral("HDMI-1"), QSize(1920, 1080), 1},
+                                          {2, QStringLiteral("DP-2"), QSize(3840, 2160), 1.5}};
+        const DeskDisplay* display = findDisplay(all, wanted);
         QCOMPARE(display ? display->number : 0, number);
     }
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
 
     void thoseOfTheDesktop()
     {
-        const QVector<Display> all = displays();
+        const QVector<DeskDisplay> all = displays();
         QCOMPARE(all.size(), QGuiApplication::screens().size());
         QCOMPARE(all.first().number, 1);
         QCOMPARE(screenNamed(all.first().name), QGuiApplication::screens().first());

@@ -19,8 +19,8 @@ QString diagnostics()
                  QSysInfo::currentCpuArchitecture()),
         QStringLiteral("Platform %1, locale %2")
             .arg(QGuiApplication::platformName(), QLocale::system().name())};
-    const QVector<Display> all = displays();
-    for (const Display& display : all)
+    const QVector<DeskDisplay> all = displays();
+    for (const DeskDisplay& display : all)
         lines.append(QStringLiteral("Display ") + displayLine(display));
     return lines.join(QLatin1Char('\n'));
 }

@@ -18,9 +18,9 @@ bool isBefore(const QScreen* a, const QScreen* b)
 
 } // namespace
 
-QVector<Display> displays()
+QVector<DeskDisplay> displays()
 {
-    QVector<Display> found;
+    QVector<DeskDisplay> found;
     QList<QScreen*> screens = QGuiApplication::screens();
     std::stable_sort(screens.begin(), screens.end(), isBefore);
     for (const QScreen* screen : qAsConst(screens)) {
@@ -41,16 +41,16 @@ QScreen* screenNamed(const QString& name)
     return it == screens.end() ? nullptr : *it;
 }
 
-const Display* findDisplay(const QVector<Display>& displays, const QString& numberOrName)
+const DeskDisplay* findDisplay(const QVector<DeskDisplay>& displays, const QString& numberOrName)
 {
-    const auto it = std::find_if(displays.begin(), displays.end(), [&](const Display& display) {
+    const auto it = std::find_if(displays.begin(), displays.end(), [&](const DeskDisplay& display) {
         return QString::number(display.number) == numberOrName ||
                display.name.compare(numberOrName, Qt::CaseInsensitive) == 0;
     });
     return it == displays.end() ? nullptr : &*it;
 }
 
-QString displayLine(const Display& display)
+QString displayLine(const DeskDisplay& display)
 {
     return QStringLiteral("%1   %2   %3 x %4   scale %5")
         .arg(display.number)

@@ -7,7 +7,7 @@
 class QScreen;
 
 /// A display of the desktop, as it stands now. A plain value.
-struct Display
+struct DeskDisplay
 {
     int number = 0; ///< from 1, from left to right
     QString name;   ///< of its connector: "HDMI-1"
@@ -16,16 +16,16 @@ struct Display
 };
 
 /// All of them.
-QVector<Display> displays();
+QVector<DeskDisplay> displays();
 
 /// The screen of that name, null while it is unplugged.
 QScreen* screenNamed(const QString& name);
 
 /// The display that `numberOrName` tells: its number, or its name in any case; null where there is none.
-const Display* findDisplay(const QVector<Display>& displays, const QString& numberOrName);
+const DeskDisplay* findDisplay(const QVector<DeskDisplay>& displays, const QString& numberOrName);
 
 /// "2   HDMI-1   1920 x 1080   scale 1.25", for a terminal.
-QString displayLine(const Display& display);
+QString displayLine(const DeskDisplay& display);
 
 /// How many physical pixels a length is that the toolkit tells as `length` at `scale`: it has rounded what it
 /// tells, and displays have an even number of them.

@@ -15,8 +15,8 @@ constexpr int flashDuration = 2500; ///< ms
 
 void DisplayFlash::showAll()
 {
-    const QVector<Display> all = displays();
-    for (const Display& display : all) {
+    const QVector<DeskDisplay> all = displays();
+    for (const DeskDisplay& display : all) {
         QScreen* screen = screenNamed(display.name);
         auto* flash = new DisplayFlash(display.number, display.name);
         flash->create();

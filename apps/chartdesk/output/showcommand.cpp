@@ -13,14 +13,14 @@
 
 namespace {
 
-Display chosenDisplay(const QString& wanted)
+DeskDisplay chosenDisplay(const QString& wanted)
 {
-    const QVector<Display> all = displays();
-    const Display* found = wanted.isEmpty() && !all.isEmpty() ? &all.last() : findDisplay(all, wanted);
+    const QVector<DeskDisplay> all = displays();
+    const DeskDisplay* found = wanted.isEmpty() && !all.isEmpty() ? &all.last() : findDisplay(all, wanted);
     if (found)
         return *found;
     QStringList lines;
-    for (const Display& display : all)
+    for (const DeskDisplay& display : all)
         lines.append(displayLine(display));
     refuse(QStringLiteral("There is no display \"%1\", but:\n%2").arg(wanted, lines.join(QLatin1Char('\n'))));
 }
@@ -30,8 +30,8 @@ Display chosenDisplay(const QString& wanted)
 int listDisplays()
 {
     QTextStream out(stdout);
-    const QVector<Display> all = displays();
-    for (const Display& display : all)
+    const QVector<DeskDisplay> all = displays();
+    for (const DeskDisplay& display : all)
         out << displayLine(display) << '\n';
     return 0;
 }
@@ -51,7 +51,7 @@ QStringList chartsAround(const QString& file)
 
 int showOnDisplay(const QString& file, const QString& display, const QPoint& at)
 {
-    const Display chosen = chosenDisplay(display);
+    const DeskDisplay chosen = chosenDisplay(display);
     const ShownChart chart = ShownChart::read(file, vardeno::testcharttools::ChartCaptions::current());
     if (chart.picture.isNull())
         refuse(chart.problem.isEmpty()

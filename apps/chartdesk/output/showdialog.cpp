@@ -28,7 +28,7 @@ QSpinBox* createPlace(const QString& name, const QString& tip)
     return box;
 }
 
-QString listText(const Display& display)
+QString listText(const DeskDisplay& display)
 {
     const QString size = hostText(QStringLiteral("%1 x %2 pixels, scaled to %3 %"))
                              .arg(display.pixels.width())
@@ -105,14 +105,14 @@ void ShowDialog::fillDisplays()
     m_found = displays();
     const QSignalBlocker quiet(m_displays);
     m_displays->clear();
-    for (const Display& display : qAsConst(m_found))
+    for (const DeskDisplay& display : qAsConst(m_found))
         m_displays->addItem(listText(display));
     setPlace(chosen, place());
 }
 
 void ShowDialog::setPlace(const QString& display, const QPoint& at)
 {
-    const Display* known = findDisplay(m_found, display);
+    const DeskDisplay* known = findDisplay(m_found, display);
     m_displays->setCurrentRow(known ? known->number - 1 : m_found.size() - 1);
     m_x->setValue(at.x());
     m_y->setValue(at.y());
@@ -132,7 +132,7 @@ QPoint ShowDialog::place() const
 
 void ShowDialog::showDifference()
 {
-    const Display* chosen = findDisplay(m_found, display());
+    const DeskDisplay* chosen = findDisplay(m_found, display());
     m_show->setEnabled(chosen);
     if (!chosen)
         return;

@@ -29,7 +29,7 @@ private:
     void showDifference();
 
     QSize m_chart;
-    QVector<Display> m_found;
+    QVector<DeskDisplay> m_found;
     QListWidget* m_displays;
     QSpinBox* m_x;
     QSpinBox* m_y;
