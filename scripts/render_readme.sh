@@ -36,6 +36,7 @@ sleep 3
 picture picker
 kill "$process"
 wait "$process" || true
+rm -rf data # no draft is offered
 printf '[General]\ntheme=light\n' | tee config/settings.ini >config/chartdesk/settings.ini
 open_editor
 picture editor-light
