@@ -174,8 +174,8 @@ private Q_SLOTS:
         record.inLineData.serialSize = 16;
         record.inLineData.serialColor = {255, 255, 255, 255};
         const QImage picture = pictureOf(wall, record);
-        QVector<QRect> inks;
-        for (const WallCabinet& cabinet : CabinetPlan(wall).cabinets()) {
+        const CabinetPlan plan(wall);
+        for (const WallCabinet& cabinet : plan.cabinets()) {
             QRect ink;
             for (int y = cabinet.rect.top(); y <= cabinet.rect.bottom(); ++y) {
                 for (int x = cabinet.rect.left(); x <= cabinet.rect.right(); ++x) {
