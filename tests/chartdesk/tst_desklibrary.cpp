@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTemporaryDir>
+#include <QToolButton>
 
 using namespace chartfiles;
 using namespace deskwindow;
@@ -51,6 +52,18 @@ private:
     {
         const bool isThere = QTest::qWaitFor([&] { return m_window->findChild<Dialog*>() != nullptr; });
         return isThere ? m_window->findChild<Dialog*>() : nullptr;
+    }
+
+    /// The toolkit's clear button fades in and out, and loses what fades it if it goes meanwhile.
+    void letFade() const
+    {
+        auto* entry = m_window->findChild<QLineEdit*>(QStringLiteral("chartSearch"));
+        const auto* button = entry->findChild<QToolButton*>();
+        entry->setText(QStringLiteral("wall"));
+        QTRY_COMPARE(button->property("opacity").toReal(), 1.0);
+        entry->clear();
+        QTRY_COMPARE(button->property("opacity").toReal(), 0.0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
 private Q_SLOTS:
@@ -155,6 +168,7 @@ private Q_SLOTS:
         QTRY_COMPARE(names(), found);
         entry->clear();
         QCOMPARE(m_list->charts().size(), 3);
+        letFade();
     }
 
     void order()
@@ -277,6 +291,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->output()->showAction()->isEnabled());
         search->clear();
         QVERIFY(isAny());
+        letFade();
         m_window.reset(new MainWindow(m_folder->path()));
         QVERIFY(!isAny());
     }
