@@ -15,13 +15,13 @@ namespace vardeno::testcharttools {
 
 namespace {
 
-bool isUndo(const QKeyEvent& event)
+bool asksToUndo(const QKeyEvent& event)
 {
     return event.matches(QKeySequence::Undo);
 }
 
 /// On every platform both of the usual ones.
-bool isRedo(const QKeyEvent& event)
+bool asksToRedo(const QKeyEvent& event)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers();
     return event.matches(QKeySequence::Redo) ||
@@ -151,8 +151,8 @@ bool EditHistory::eventFilter(QObject* watched, QEvent* event)
 /// An entry's own history would walk through the texts of one field, each a change of the chart.
 bool EditHistory::handleKey(QKeyEvent* event)
 {
-    const bool undoing = isUndo(*event);
-    if (!undoing && !isRedo(*event))
+    const bool undoing = asksToUndo(*event);
+    if (!undoing && !asksToRedo(*event))
         return false;
     if (event->type() == QEvent::ShortcutOverride) {
         event->ignore(); // a shortcut of the host comes before this key press

@@ -24,7 +24,7 @@ namespace vardeno::testcharttools {
 namespace {
 
 constexpr QSize toolSize(1610, 803);
-constexpr QSize leastSize(660, 300);
+constexpr QSize leastToolSize(660, 300);
 constexpr int leastPreview = 240; ///< wide, beside settings that are wider than usual
 
 } // namespace
@@ -150,7 +150,7 @@ void EditorParts::setFollowsHost(bool follows)
     if (m_followsHost == follows)
         return;
     m_followsHost = follows;
-    m_tool->setMinimumSize(follows ? leastSize : toolSize);
+    m_tool->setMinimumSize(follows ? leastToolSize : toolSize);
     m_tool->setMaximumSize(follows ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : toolSize);
     preview->setFollowsRoom(follows);
     buttons->setFollowsRoom(follows);
