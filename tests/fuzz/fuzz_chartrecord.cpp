@@ -1,21 +1,13 @@
 #include "chartrecordfile.h"
+#include "require.h"
 
 #include <QtGlobal>
 
-#include <cstdio>
-#include <cstdlib>
+#include <cstdint>
 
 using namespace vardeno::testcharttools;
 
 namespace {
-
-void require(bool condition, const char* what)
-{
-    if (condition)
-        return;
-    std::fprintf(stderr, "not true: %s\n", what);
-    std::abort();
-}
 
 /// A document that reads well stays itself when it is written and read again.
 void checkDocument(const QByteArray& json)

@@ -1,24 +1,15 @@
 #include "cabinetorder.h"
 #include "cableruns.h"
+#include "require.h"
 #include "wallfile.h"
 
 #include <QtGlobal>
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 
 using namespace vardeno::walls;
 
 namespace {
-
-void require(bool condition, const char* what)
-{
-    if (condition)
-        return;
-    std::fprintf(stderr, "not true: %s\n", what);
-    std::abort();
-}
 
 /// By the pattern every cabinet is in one run, by hand in one at the most.
 void checkRuns(const std::vector<CableRun>& runs, const CabinetPlan& plan, bool byHand)

@@ -1,5 +1,6 @@
 #include "geometry/recordink.h"
 
+#include "barerecord.h"
 #include "testcase.h"
 #include "testcharttoolsdata.h"
 #include "vtestcharttools.h"
@@ -16,17 +17,11 @@ using Change = std::function<void(TestChartToolsData& record)>;
 /// A white chart with nothing on it.
 TestChartToolsData emptyRecord()
 {
-    TestChartToolsData record;
+    TestChartToolsData record = charttool::bareRecord();
     record.publicData.resolutionWidth = 400;
     record.publicData.resolutionHeight = 301;
     record.basicData.oddColor = record.basicData.evenColor = {255, 255, 255, 255};
     record.publicData.showOutBorder = false;
-    record.inLineData.showCircle = false;
-    record.inLineData.showDiagonal = false;
-    record.inLineData.showSerialNumber = false;
-    record.logoData.showLogo = false;
-    record.selfData.showSelfText = false;
-    record.selfData.showResolution = false;
     return record;
 }
 

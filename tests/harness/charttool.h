@@ -1,5 +1,6 @@
 #pragma once
 
+#include "barerecord.h"
 #include "settles.h"
 #include "testcase.h"
 
@@ -229,19 +230,6 @@ private:
             reaction(message);
     }
 };
-
-/// The default chart with nothing over its base pattern but the veil and the border.
-inline TestChartToolsData bareRecord()
-{
-    TestChartToolsData record;
-    record.inLineData.showCircle = false;
-    record.inLineData.showDiagonal = false;
-    record.inLineData.showSerialNumber = false;
-    record.logoData.showLogo = false;
-    record.selfData.showSelfText = false;
-    record.selfData.showResolution = false;
-    return record;
-}
 
 /// A small bare chart: 160 x 90 pixels with cabinets of 10 x 10.
 inline TestChartToolsData smallRecord()

@@ -29,6 +29,104 @@ class TestWallFile : public TestCase
 {
     Q_OBJECT
 
+private:
+    // What is wrong, and what is told of it.
+
+    static void addDocuments()
+    {
+        QTest::newRow("empty") << QByteArray() << "not JSON: empty";
+        QTest::newRow("a record") << QByteArray(R"({"format": "testchart", "version": 1})")
+                                  << "format: testwall expected";
+        QTest::newRow("newer") << QByteArray(R"({"format": "testwall", "version": 2})")
+                               << "version: 2 is newer than 1, the newest that is known";
+        QTest::newRow("twice") << document(R"("wall": {"name": "a", "name": "b"})")
+                               << "wall.name: stands twice";
+        QTest::newRow("the schema's name") << document(R"("$schema": 5)") << "$schema: 5 is not a text";
+        QTest::newRow("a group") << document(R"("data": 5)") << "data: 5 is not an object";
+    }
+
+    static void addCabinets()
+    {
+        QTest::newRow("no widths") << document(R"("cabinets": {"columnWidths": []})")
+                                   << "cabinets.columnWidths: [] is not a list of [count, pixels]";
+        QTest::newRow("a width without its count")
+            << document(R"("cabinets": {"columnWidths": [[1, 64], 128]})")
+            << "cabinets.columnWidths: 128 (item 2) is not [count, pixels] of numbers in 1..32768";
+        QTest::newRow("a width of nothing")
+            << document(R"("cabinets": {"columnWidths": [[1, 0]]})")
+            << "cabinets.columnWidths: [1, 0] (item 1) is not [count, pixels] of numbers in 1..32768";
+        QTest::newRow("too many columns") << document(R"("cabinets": {"columnWidths": [[1, 8], [1000, 8]]})")
+                                          << "cabinets.columnWidths: 1001 are more than 1000";
+        QTest::newRow("too wide") << document(R"("cabinets": {"columnWidths": [[257, 128]]})")
+                                  << "cabinets.columnWidths: 32896 pixels in all are not in 16..32768";
+        QTest::newRow("too low") << document(R"("cabinets": {"rowHeights": [[3, 5]]})")
+                                 << "cabinets.rowHeights: 15 pixels in all are not in 16..32768";
+        QTest::newRow("no list") << cabinets(R"("exceptions": {})")
+                                 << "cabinets.exceptions: {} is not a list of cabinets";
+        QTest::newRow("no cabinet") << cabinets(R"("exceptions": [5])")
+                                    << "cabinets.exceptions: (cabinet 1) 5 is not an object";
+        QTest::newRow("no place") << cabinets(R"("exceptions": [{"column": 1}])")
+                                  << "cabinets.exceptions: (cabinet 1) row: is missing";
+        QTest::newRow("an odd turn")
+            << cabinets(R"("exceptions": [{"column": 1, "row": 1, "turned": 45}])")
+            << "cabinets.exceptions: (cabinet 1) turned: 45 is not 0, 90, 180 or 270";
+        QTest::newRow("a turn of half a degree")
+            << cabinets(R"("exceptions": [{"column": 1, "row": 1, "turned": 90.5}])")
+            << "cabinets.exceptions: (cabinet 1) turned: 90.5 is not 0, 90, 180 or 270";
+        QTest::newRow("right of the grid") << cabinets(R"("exceptions": [{"column": 5, "row": 1}])")
+                                           << "cabinets.exceptions: (cabinet 1) column 5 is not in 1..4";
+        QTest::newRow("spans beyond the grid")
+            << cabinets(R"("exceptions": [{"column": 1, "row": 2, "rows": 3}])")
+            << "cabinets.exceptions: (cabinet 1) rows 2..4 are not in 1..3";
+        QTest::newRow("on one another")
+            << cabinets(R"("exceptions": [{"column": 2, "row": 2, "missing": true},
+                                          {"column": 1, "row": 1, "columns": 2, "rows": 2}])")
+            << "cabinets.exceptions: (cabinet 2) has column 2, row 2, which cabinet 1 of the list has";
+        QTest::newRow("nothing left")
+            << cabinets(
+                   R"("exceptions": [{"column": 1, "row": 1, "columns": 4, "rows": 3, "missing": true}])")
+            << "cabinets.exceptions: no cabinet is left";
+    }
+
+    static void addRuns()
+    {
+        QTest::newRow("a choice") << document(R"("data": {"corner": "top"})")
+                                  << "data.corner: \"top\" is not one of top-left, top-right, bottom-left, "
+                                     "bottom-right";
+        QTest::newRow("a number") << document(R"("data": {"bitDepth": 7})")
+                                  << "data.bitDepth: 7 is not in 8..16";
+        QTest::newRow("runs") << document(R"("data": {"runs": 5})") << "data.runs: 5 is not a list of runs";
+        QTest::newRow("an empty run") << document(R"("data": {"runs": [[[1, 1]], []]})")
+                                      << "data.runs: [] (run 2) is not a list of cabinets";
+        QTest::newRow("a stretch that is not straight")
+            << document(R"("power": {"runs": [[[1, 1, 2, 2]]]})")
+            << "power.runs: [[1, 1, 2, 2]] (run 1) has [1, 1, 2, 2], which is neither [column, row] nor a "
+               "straight stretch [column, row, column, row] in 1..1000";
+        QTest::newRow("a run outside")
+            << document(R"("data": {"runs": [[[1, 1, 16, 1]]]})")
+            << "data.runs: (run 1) column 16, row 1 is outside of the grid of 15 columns and 9 rows";
+        QTest::newRow("a cabinet in two runs")
+            << document(R"("data": {"runs": [[[1, 1]], [[2, 1], [1, 1]]]})")
+            << "data.runs: (run 2) column 1, row 1 is in run 1 already";
+        QTest::newRow("a run to a hole")
+            << document(R"("cabinets": {"exceptions": [{"column": 2, "row": 1, "missing": true}]},
+                           "power": {"runs": [[[1, 1, 3, 1]]]})")
+            << "power.runs: (run 1) column 2, row 1 has no cabinet";
+    }
+
+    static void addCharts()
+    {
+        QTest::newRow("a record that is none") << document(R"("chart": {"record": {"format": "testchart"}})")
+                                               << "chart.record.version: 1 expected";
+        QTest::newRow("a field of the record")
+            << document(R"("chart": {"record": {"format": "testchart", "version": 1,
+                                                "publicData": {"brightness": 101}}})")
+            << "chart.record.publicData.brightness: 101 is not in 0..100";
+        QTest::newRow("two charts")
+            << document(R"("chart": {"path": "a.json", "record": {"format": "testchart", "version": 1}})")
+            << "chart.path: \"a.json\" stands beside chart.record; only one of them can be drawn";
+    }
+
 private Q_SLOTS:
     void aFullDocumentIsWrittenAsItWasRead()
     {
@@ -77,85 +175,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("json");
         QTest::addColumn<QString>("problem");
-        QTest::newRow("empty") << QByteArray() << "not JSON: empty";
-        QTest::newRow("a record") << QByteArray(R"({"format": "testchart", "version": 1})")
-                                  << "format: testwall expected";
-        QTest::newRow("newer") << QByteArray(R"({"format": "testwall", "version": 2})")
-                               << "version: 2 is newer than 1, the newest that is known";
-        QTest::newRow("twice") << document(R"("wall": {"name": "a", "name": "b"})")
-                               << "wall.name: stands twice";
-        QTest::newRow("the schema's name") << document(R"("$schema": 5)") << "$schema: 5 is not a text";
-        QTest::newRow("a group") << document(R"("data": 5)") << "data: 5 is not an object";
-        QTest::newRow("no widths") << document(R"("cabinets": {"columnWidths": []})")
-                                   << "cabinets.columnWidths: [] is not a list of [count, pixels]";
-        QTest::newRow("a width without its count")
-            << document(R"("cabinets": {"columnWidths": [[1, 64], 128]})")
-            << "cabinets.columnWidths: 128 (item 2) is not [count, pixels] of numbers in 1..32768";
-        QTest::newRow("a width of nothing")
-            << document(R"("cabinets": {"columnWidths": [[1, 0]]})")
-            << "cabinets.columnWidths: [1, 0] (item 1) is not [count, pixels] of numbers in 1..32768";
-        QTest::newRow("too many columns") << document(R"("cabinets": {"columnWidths": [[1, 8], [1000, 8]]})")
-                                          << "cabinets.columnWidths: 1001 are more than 1000";
-        QTest::newRow("too wide") << document(R"("cabinets": {"columnWidths": [[257, 128]]})")
-                                  << "cabinets.columnWidths: 32896 pixels in all are not in 16..32768";
-        QTest::newRow("too low") << document(R"("cabinets": {"rowHeights": [[3, 5]]})")
-                                 << "cabinets.rowHeights: 15 pixels in all are not in 16..32768";
-        QTest::newRow("no list") << cabinets(R"("exceptions": {})")
-                                 << "cabinets.exceptions: {} is not a list of cabinets";
-        QTest::newRow("no cabinet") << cabinets(R"("exceptions": [5])")
-                                    << "cabinets.exceptions: (cabinet 1) 5 is not an object";
-        QTest::newRow("no place") << cabinets(R"("exceptions": [{"column": 1}])")
-                                  << "cabinets.exceptions: (cabinet 1) row: is missing";
-        QTest::newRow("an odd turn")
-            << cabinets(R"("exceptions": [{"column": 1, "row": 1, "turned": 45}])")
-            << "cabinets.exceptions: (cabinet 1) turned: 45 is not 0, 90, 180 or 270";
-        QTest::newRow("a turn of half a degree")
-            << cabinets(R"("exceptions": [{"column": 1, "row": 1, "turned": 90.5}])")
-            << "cabinets.exceptions: (cabinet 1) turned: 90.5 is not 0, 90, 180 or 270";
-        QTest::newRow("right of the grid") << cabinets(R"("exceptions": [{"column": 5, "row": 1}])")
-                                           << "cabinets.exceptions: (cabinet 1) column 5 is not in 1..4";
-        QTest::newRow("spans beyond the grid")
-            << cabinets(R"("exceptions": [{"column": 1, "row": 2, "rows": 3}])")
-            << "cabinets.exceptions: (cabinet 1) rows 2..4 are not in 1..3";
-        QTest::newRow("on one another")
-            << cabinets(R"("exceptions": [{"column": 2, "row": 2, "missing": true},
-                                          {"column": 1, "row": 1, "columns": 2, "rows": 2}])")
-            << "cabinets.exceptions: (cabinet 2) has column 2, row 2, which cabinet 1 of the list has";
-        QTest::newRow("nothing left")
-            << cabinets(
-                   R"("exceptions": [{"column": 1, "row": 1, "columns": 4, "rows": 3, "missing": true}])")
-            << "cabinets.exceptions: no cabinet is left";
-        QTest::newRow("a choice") << document(R"("data": {"corner": "top"})")
-                                  << "data.corner: \"top\" is not one of top-left, top-right, bottom-left, "
-                                     "bottom-right";
-        QTest::newRow("a number") << document(R"("data": {"bitDepth": 7})")
-                                  << "data.bitDepth: 7 is not in 8..16";
-        QTest::newRow("runs") << document(R"("data": {"runs": 5})") << "data.runs: 5 is not a list of runs";
-        QTest::newRow("an empty run") << document(R"("data": {"runs": [[[1, 1]], []]})")
-                                      << "data.runs: [] (run 2) is not a list of cabinets";
-        QTest::newRow("a stretch that is not straight")
-            << document(R"("power": {"runs": [[[1, 1, 2, 2]]]})")
-            << "power.runs: [[1, 1, 2, 2]] (run 1) has [1, 1, 2, 2], which is neither [column, row] nor a "
-               "straight stretch [column, row, column, row] in 1..1000";
-        QTest::newRow("a run outside")
-            << document(R"("data": {"runs": [[[1, 1, 16, 1]]]})")
-            << "data.runs: (run 1) column 16, row 1 is outside of the grid of 15 columns and 9 rows";
-        QTest::newRow("a cabinet in two runs")
-            << document(R"("data": {"runs": [[[1, 1]], [[2, 1], [1, 1]]]})")
-            << "data.runs: (run 2) column 1, row 1 is in run 1 already";
-        QTest::newRow("a run to a hole")
-            << document(R"("cabinets": {"exceptions": [{"column": 2, "row": 1, "missing": true}]},
-                           "power": {"runs": [[[1, 1, 3, 1]]]})")
-            << "power.runs: (run 1) column 2, row 1 has no cabinet";
-        QTest::newRow("a record that is none") << document(R"("chart": {"record": {"format": "testchart"}})")
-                                               << "chart.record.version: 1 expected";
-        QTest::newRow("a field of the record")
-            << document(R"("chart": {"record": {"format": "testchart", "version": 1,
-                                                "publicData": {"brightness": 101}}})")
-            << "chart.record.publicData.brightness: 101 is not in 0..100";
-        QTest::newRow("two charts")
-            << document(R"("chart": {"path": "a.json", "record": {"format": "testchart", "version": 1}})")
-            << "chart.path: \"a.json\" stands beside chart.record; only one of them can be drawn";
+        addDocuments();
+        addCabinets();
+        addRuns();
+        addCharts();
     }
 
     void problems()

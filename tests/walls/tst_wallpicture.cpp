@@ -1,3 +1,4 @@
+#include "barerecord.h"
 #include "testcase.h"
 #include "testwalls.h"
 
@@ -18,16 +19,10 @@ TestChartToolsData recordOf(const WallDocument& wall)
 /// One colour everywhere, so that only what the wall draws is to be seen.
 TestChartToolsData plainRecord(const WallDocument& wall)
 {
-    TestChartToolsData record = recordOf(wall);
+    TestChartToolsData record = charttool::bareRecord(recordOf(wall));
     record.basicData.oddColor = {0, 0, 200, 255};
     record.basicData.evenColor = record.basicData.oddColor;
     record.publicData.showOutBorder = false;
-    record.inLineData.showCircle = false;
-    record.inLineData.showDiagonal = false;
-    record.inLineData.showSerialNumber = false;
-    record.logoData.showLogo = false;
-    record.selfData.showSelfText = false;
-    record.selfData.showResolution = false;
     return record;
 }
 
