@@ -2,12 +2,12 @@
 
 #include "chartdelegate.h"
 #include "chartfolderlist.h"
-#include "charttags.h"
 
-#include <QCollator>
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QElapsedTimer>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QSet>
 #include <QUrl>
 
@@ -16,11 +16,6 @@
 namespace {
 
 constexpr int settleTime = 100; ///< ms: a folder tells of one change many times
-
-QString stamp(const QFileInfo& chart)
-{
-    return QStringLiteral("%1 %2").arg(chart.size()).arg(chart.lastModified().toMSecsSinceEpoch());
-}
 
 } // namespace
 
@@ -36,8 +31,14 @@ ChartList::ChartList(QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     m_settle.setSingleShot(true);
     m_settle.setInterval(settleTime);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settle, qOverload<>(&QTimer::start));
+    connect(&m_reader, &FolderReader::changed, &m_settle, qOverload<>(&QTimer::start));
     connect(&m_settle, &QTimer::timeout, this, &ChartList::refresh);
+    connect(&m_reader, &FolderReader::finished, this, &ChartList::beginFilling);
+    connect(&m_fill, &QTimer::timeout, this, &ChartList::fillPiece);
+    connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+        if (!m_isPlacing)
+            m_toSelect.clear();
+    });
     setDragEnabled(true); // what may be moved elsewhere stays here all the same
     setAcceptDrops(true);
     viewport()->setAcceptDrops(true); // which a list that moves nothing has refused
@@ -52,6 +53,8 @@ void ChartList::setFolder(const QString& folder)
     m_thumbnails.clear();
     m_tickets.clear();
     m_items.clear();
+    m_fill.stop();
+    m_toSelect.clear();
     clear();
     refresh();
 }
@@ -60,7 +63,7 @@ void ChartList::setDateLocale(const QLocale& locale)
 {
     m_dates = locale;
     for (int row = 0; row < count(); ++row)
-        item(row)->setText(title(QFileInfo(item(row)->data(ImagePathRole).toString())));
+        item(row)->setText(title(item(row)->data(ImagePathRole).toString()));
 }
 
 QStringList ChartList::charts() const
@@ -82,71 +85,125 @@ QString ChartList::selectedChart() const
 
 void ChartList::selectChart(const QString& imagePath)
 {
-    if (QListWidgetItem* shown = m_items.value(imagePath)) {
-        setCurrentItem(shown);
-        scrollToItem(shown);
-    }
+    if (QListWidgetItem* shown = m_items.value(imagePath))
+        select(shown);
+    else if (isFilling())
+        m_toSelect = imagePath;
+}
+
+void ChartList::select(QListWidgetItem* shown)
+{
+    m_toSelect.clear();
+    setCurrentItem(shown);
+    scrollToItem(shown);
 }
 
 void ChartList::refresh()
 {
     m_settle.stop();
-    const QFileInfoList charts = inOrder(ChartFolderList::charts(m_folder));
-    removeMissing(charts);
-    for (int row = 0; row < charts.size(); ++row)
-        placeChart(row, charts.at(row));
-    watch();
+    m_reader.read({m_folder, m_order, m_dates});
+}
+
+void ChartList::beginFilling(const ListedCharts& charts)
+{
+    m_charts = charts;
+    m_filled = 0;
+    QSet<QString> present;
+    for (const ListedChart& chart : charts)
+        present.insert(chart.image);
+    m_gone.clear();
+    for (auto it = m_items.cbegin(); it != m_items.cend(); ++it) {
+        if (!present.contains(it.key()))
+            m_gone.append(it.value());
+    }
+    m_fill.start(0);
+    fillPiece();
+}
+
+void ChartList::fillPiece()
+{
+    const QScopedValueRollback<bool> placing(m_isPlacing, true);
+    QElapsedTimer clock;
+    clock.start();
+    while (fillNext()) {
+        if (clock.elapsed() >= m_pieceTime)
+            return;
+    }
+    endFilling();
+}
+
+/// False when all is done.
+bool ChartList::fillNext()
+{
+    if (!m_gone.isEmpty()) {
+        removeChart(m_gone.takeLast());
+        return true;
+    }
+    if (m_filled == m_charts.size())
+        return false;
+    placeChart(m_filled, m_charts.at(m_filled));
+    ++m_filled;
+    return true;
+}
+
+void ChartList::endFilling()
+{
+    m_fill.stop();
+    m_charts.clear();
+    m_filled = 0;
+    if (!m_reader.isReading())
+        m_toSelect.clear();
     Q_EMIT refreshed();
 }
 
-void ChartList::removeMissing(const QFileInfoList& charts)
+void ChartList::removeChart(QListWidgetItem* shown)
 {
-    QSet<QString> present;
-    for (const QFileInfo& chart : charts)
-        present.insert(chart.filePath());
-    for (int row = count() - 1; row >= 0; --row) {
-        const QString path = item(row)->data(ImagePathRole).toString();
-        if (present.contains(path))
-            continue;
-        m_tickets.remove(m_tickets.key(item(row)));
-        m_items.remove(path);
-        delete takeItem(row);
-    }
+    m_tickets.remove(m_tickets.key(shown));
+    m_items.remove(shown->data(ImagePathRole).toString());
+    delete takeItem(row(shown));
 }
 
 /// All that is above `row` is in its place.
-void ChartList::placeChart(int row, const QFileInfo& chart)
+void ChartList::placeChart(int row, const ListedChart& chart)
 {
     QListWidgetItem* shown = item(row);
-    if (!shown || shown->data(ImagePathRole) != chart.filePath()) {
-        shown = takeChart(chart.filePath());
+    if (!shown || shown->data(ImagePathRole) != chart.image) {
+        shown = takeChart(chart.image);
         insertItem(row, shown);
+        filter(shown); // which taking it has undone
     }
     showChart(shown, chart);
+    if (chart.image == m_toSelect)
+        select(shown);
 }
 
-/// Out of the list, or a new one.
+/// Out of the list, or a new one. It is selected again when it is back.
 QListWidgetItem* ChartList::takeChart(const QString& imagePath)
 {
-    if (QListWidgetItem* known = m_items.value(imagePath))
+    if (QListWidgetItem* known = m_items.value(imagePath)) {
+        if (m_toSelect.isEmpty() && selectedChart() == imagePath)
+            m_toSelect = imagePath;
         return takeItem(row(known));
+    }
     auto* added = new QListWidgetItem;
     added->setData(ImagePathRole, imagePath);
     m_items.insert(imagePath, added);
     return added;
 }
 
-void ChartList::showChart(QListWidgetItem* shown, const QFileInfo& chart)
+void ChartList::showChart(QListWidgetItem* shown, const ListedChart& chart)
 {
-    showTags(shown, chart.filePath());
-    const QString wanted = stamp(chart);
-    if (shown->data(StampRole) == wanted)
+    if (shown->data(TagsRole).toStringList() != chart.tags) {
+        shown->setData(TagsRole, chart.tags);
+        filter(shown);
+    }
+    if (shown->data(StampRole) == chart.stamp)
         return;
-    shown->setData(StampRole, wanted);
-    shown->setText(title(chart));
+    shown->setData(StampRole, chart.stamp);
+    shown->setText(title(chart.image));
     filter(shown);
     m_tickets.insert(++m_nextTicket, shown);
-    m_thumbnails.load(chart.filePath(), ChartDelegate::pictureSize * devicePixelRatioF(), m_nextTicket);
+    m_thumbnails.load(chart.image, ChartDelegate::pictureSize * devicePixelRatioF(), m_nextTicket);
 }
 
 void ChartList::showThumbnail(int ticket, const QImage& picture)
@@ -168,21 +225,10 @@ void ChartList::showDetails(int ticket, const ChartDetails& details)
     }
 }
 
-void ChartList::showTags(QListWidgetItem* shown, const QString& imagePath)
-{
-    const QStringList tags = ChartTags::of(imagePath);
-    if (shown->data(TagsRole).toStringList() == tags)
-        return;
-    shown->setData(TagsRole, tags);
-    filter(shown);
-}
-
 void ChartList::setOrder(Order order)
 {
     m_order = order;
-    const QString current = selectedChart();
     refresh();
-    selectChart(current);
 }
 
 void ChartList::setSearch(const QString& words)
@@ -202,21 +248,6 @@ void ChartList::filter(QListWidgetItem* shown)
     });
     if (shown->isHidden() == isFound)
         shown->setHidden(!isFound);
-}
-
-QFileInfoList ChartList::inOrder(QFileInfoList charts) const
-{
-    if (m_order == Order::Oldest)
-        std::reverse(charts.begin(), charts.end());
-    if (m_order != Order::Name)
-        return charts;
-    QCollator byName(m_dates);
-    byName.setNumericMode(true);
-    byName.setCaseSensitivity(Qt::CaseInsensitive);
-    std::stable_sort(charts.begin(), charts.end(), [&](const QFileInfo& a, const QFileInfo& b) {
-        return byName.compare(a.fileName(), b.fileName()) < 0;
-    });
-    return charts;
 }
 
 QStringList ChartList::mimeTypes() const
@@ -258,27 +289,11 @@ void ChartList::dropEvent(QDropEvent* event)
     Q_EMIT filesDropped(files);
 }
 
-/// The folder, to see charts come and go, and each chart's, to see its files renamed.
-void ChartList::watch()
-{
-    QStringList wanted = ChartFolderList::folders(m_folder);
-    if (QFileInfo(m_folder).isDir())
-        wanted.append(m_folder);
-    const QStringList watched = m_watcher.directories();
-    const QSet<QString> before(watched.cbegin(), watched.cend());
-    const QSet<QString> after(wanted.cbegin(), wanted.cend());
-    const QStringList gone = (before - after).values();
-    const QStringList added = (after - before).values();
-    if (!gone.isEmpty())
-        m_watcher.removePaths(gone);
-    if (!added.isEmpty())
-        m_watcher.addPaths(added);
-}
-
 /// The name of the chart's file, and when it was saved.
-QString ChartList::title(const QFileInfo& chart) const
+QString ChartList::title(const QString& imagePath) const
 {
-    const QDateTime saved = ChartFolderList::savedAt(chart.filePath());
+    const QFileInfo chart(imagePath);
+    const QDateTime saved = ChartFolderList::savedAt(imagePath);
     const QString when =
         saved.isValid() ? m_dates.toString(saved, QLocale::ShortFormat) : chart.dir().dirName();
     return chart.fileName() + QLatin1Char('\n') + when;

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "folderreader.h"
 #include "thumbnailloader.h"
 
-#include <QFileInfoList>
-#include <QFileSystemWatcher>
 #include <QHash>
 #include <QListWidget>
-#include <QLocale>
 #include <QTimer>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -16,7 +14,8 @@ using DraggedItems = const QList<QListWidgetItem*>&;
 #endif
 
 /// The charts of a folder, as pictures. It follows the folder: what has not changed there stays as it is
-/// here, with its place and its picture.
+/// here, with its place and its picture. The folder is read aside, and the list filled in pieces, between
+/// which it can be used.
 class ChartList : public QListWidget
 {
     Q_OBJECT
@@ -32,13 +31,7 @@ public:
         TagsRole       ///< a QStringList
     };
 
-    /// What comes first.
-    enum class Order
-    {
-        Newest,
-        Oldest,
-        Name
-    };
+    using Order = ChartOrder;
 
     explicit ChartList(QWidget* parent = nullptr);
 
@@ -53,14 +46,19 @@ public:
     QStringList charts() const;
     /// The image of the selected chart, empty without one.
     QString selectedChart() const;
-    /// Nothing happens without such a chart in the list.
+    /// As soon as it is listed, unless another is selected before. Nothing happens without such a chart.
     void selectChart(const QString& imagePath);
+    /// How long, in ms, the list is filled at a time before it hears its user again.
+    void setPieceTime(int time) { m_pieceTime = time; }
+    /// Whether there may be more charts than are listed yet.
+    bool isFilling() const { return m_reader.isReading() || m_fill.isActive(); }
 
 public Q_SLOTS:
     /// Looks at the folder again.
     void refresh();
 
 Q_SIGNALS:
+    /// All charts are listed.
     void refreshed();
     /// Somebody has dropped these files onto the list.
     void filesDropped(const QStringList& files);
@@ -73,22 +71,31 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void removeMissing(const QFileInfoList& charts);
-    void placeChart(int row, const QFileInfo& chart);
+    void beginFilling(const ListedCharts& charts);
+    void fillPiece();
+    bool fillNext();
+    void endFilling();
+    void removeChart(QListWidgetItem* shown);
+    void placeChart(int row, const ListedChart& chart);
     QListWidgetItem* takeChart(const QString& imagePath);
-    void showChart(QListWidgetItem* shown, const QFileInfo& chart);
-    QFileInfoList inOrder(QFileInfoList charts) const;
+    void showChart(QListWidgetItem* shown, const ListedChart& chart);
+    void select(QListWidgetItem* shown);
     void showThumbnail(int ticket, const QImage& picture);
     void showDetails(int ticket, const ChartDetails& details);
-    void showTags(QListWidgetItem* shown, const QString& imagePath);
     void filter(QListWidgetItem* shown);
-    void watch();
-    QString title(const QFileInfo& chart) const;
+    QString title(const QString& imagePath) const;
 
     QString m_folder;
     QLocale m_dates;
-    QFileSystemWatcher m_watcher;
+    FolderReader m_reader;
     QTimer m_settle;
+    QTimer m_fill;                  ///< lists the next piece
+    ListedCharts m_charts;          ///< as they were read
+    QList<QListWidgetItem*> m_gone; ///< are none of them
+    int m_pieceTime = 10;
+    int m_filled = 0;         ///< as many of them are in their place
+    bool m_isPlacing = false; ///< selects by itself, and no user
+    QString m_toSelect;       ///< when it is listed
     ThumbnailLoader m_thumbnails;
     QHash<int, QListWidgetItem*> m_tickets; ///< of pictures that are being read
     QHash<QString, QListWidgetItem*> m_items;

@@ -278,6 +278,8 @@ void MainWindow::setFolder(const QString& folder)
     m_folder = folder;
     m_library->setFolder(folder);
     m_list->setFolder(folder);
+    showCount();
+    updateActions();
     retranslate();
 }
 
@@ -302,7 +304,7 @@ void MainWindow::refresh()
 
 void MainWindow::showCount()
 {
-    const bool isEmpty = m_list->count() == 0;
+    const bool isEmpty = m_list->count() == 0 && !m_list->isFilling();
     m_hint->setVisible(isEmpty);
     m_listBar->setVisible(!isEmpty);
     m_list->setVisible(!isEmpty);

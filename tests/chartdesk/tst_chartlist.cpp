@@ -3,6 +3,7 @@
 #include "chartlist.h"
 #include "testcase.h"
 
+#include <QDeadlineTimer>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -41,11 +42,23 @@ private:
 
     static bool allLoaded(const ChartList& list)
     {
+        if (list.isFilling())
+            return false;
         for (int row = 0; row < list.count(); ++row) {
             if (list.item(row)->icon().isNull())
                 return false;
         }
         return true;
+    }
+
+    /// Lists some charts of the folder, and not all.
+    static bool fillSome(ChartList& list)
+    {
+        list.setPieceTime(0);
+        const QDeadlineTimer deadline(30000);
+        while (list.count() < 2 && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        return list.count() >= 2 && list.isFilling();
     }
 
     static QList<qint64> shownPictures(const ChartList& list)
@@ -86,6 +99,7 @@ private Q_SLOTS:
         writeCharts(2);
         ChartList list;
         list.setFolder(m_folder->path());
+        QTRY_COMPARE(list.count(), 2);
         QVERIFY(QFile::rename(chart(0), chart(0, "wall")));
         QTRY_COMPARE(shown(list), QStringList({chart(1), chart(0, "wall")}));
         QTRY_VERIFY(allLoaded(list));
@@ -139,7 +153,7 @@ private Q_SLOTS:
         const QList<qint64> pictures = shownPictures(list);
         QVERIFY(writeChart(m_folder->filePath("20230101_120000/a.png"), Qt::blue));
         list.refresh();
-        QCOMPARE(list.count(), 101);
+        QTRY_COMPARE(list.count(), 101);
         QTRY_VERIFY_WITH_TIMEOUT(allLoaded(list), 60000); // the oldest after any of the others
         QCOMPARE(shownPictures(list).mid(0, 100), pictures);
     }
@@ -149,6 +163,7 @@ private Q_SLOTS:
         writeCharts(1);
         ChartList list;
         list.setFolder(m_folder->path());
+        QTRY_COMPARE(list.count(), 1);
         for (const char* code : {"de", "en", "ja"}) {
             const QLocale locale{QLatin1String(code)};
             list.setDateLocale(locale);
@@ -163,12 +178,130 @@ private Q_SLOTS:
         const QTemporaryDir other;
         ChartList list;
         list.setFolder(m_folder->path());
-        QCOMPARE(list.count(), 3);
+        QTRY_COMPARE(list.count(), 3);
         list.setFolder(other.path());
         QCOMPARE(list.count(), 0);
+        QTRY_VERIFY(!list.isFilling());
         QVERIFY(writeChart(chart(5), Qt::red)); // in the folder that was left
         QTest::qWait(300);
         QCOMPARE(list.count(), 0);
+    }
+
+    void theFolderIsReadAside()
+    {
+        writeCharts(3);
+        ChartList list;
+        const QSignalSpy refreshed(&list, &ChartList::refreshed);
+        list.setFolder(m_folder->path());
+        QVERIFY(list.isFilling());
+        QCOMPARE(list.count(), 0);
+        QTRY_COMPARE(refreshed.count(), 1);
+        QVERIFY(!list.isFilling());
+        QCOMPARE(list.count(), 3);
+    }
+
+    /// A folder that is left while it is read does not come.
+    void onlyTheLastFolderIsListed()
+    {
+        writeCharts(50);
+        const QTemporaryDir other;
+        const QString image = other.filePath(QStringLiteral("20230101_120000/b.png"));
+        QVERIFY(writeChart(image, Qt::blue));
+        ChartList list;
+        const QSignalSpy refreshed(&list, &ChartList::refreshed);
+        list.setFolder(m_folder->path());
+        list.setFolder(other.path());
+        QTRY_VERIFY(!list.isFilling());
+        QCOMPARE(shown(list), QStringList({image}));
+        QCOMPARE(refreshed.count(), 1);
+    }
+
+    /// Each turn of the event loop lists a piece, and what the user does meanwhile holds.
+    void theListCanBeUsedWhileItFills()
+    {
+        writeCharts(60);
+        ChartList list;
+        list.setFolder(m_folder->path());
+        QVERIFY(fillSome(list));
+        QVERIFY(list.count() < 60);
+        list.setSearch(QStringLiteral("12:00:0")); // no title has it
+        list.setSearch(QString());
+        list.setCurrentRow(0);
+        QTRY_VERIFY(!list.isFilling());
+        QCOMPARE(list.count(), 60);
+        QCOMPARE(list.charts().size(), 60);
+        QCOMPARE(list.selectedChart(), chart(59));
+    }
+
+    void aSearchHoldsForWhatIsListedLater()
+    {
+        writeCharts(20);
+        QVERIFY(writeChart(chart(20, QStringLiteral("wanted")), Qt::red));
+        QVERIFY(writeChart(chart(0, QStringLiteral("wanted")), Qt::red));
+        ChartList list;
+        list.setFolder(m_folder->path());
+        QVERIFY(fillSome(list));
+        list.setSearch(QStringLiteral("wanted"));
+        QTRY_VERIFY(!list.isFilling());
+        const QStringList wanted = {chart(20, QStringLiteral("wanted")), chart(0, QStringLiteral("wanted"))};
+        QCOMPARE(list.charts(), wanted);
+        list.setOrder(ChartOrder::Oldest);
+        QTRY_VERIFY(!list.isFilling());
+        QCOMPARE(list.charts(), QStringList({wanted.last(), wanted.first()}));
+    }
+
+    void aChartIsSelectedWhenItIsListed()
+    {
+        writeCharts(30);
+        ChartList list;
+        list.setFolder(m_folder->path());
+        list.selectChart(chart(3));
+        QCOMPARE(list.selectedChart(), QString());
+        QTRY_COMPARE(list.selectedChart(), chart(3));
+        QTRY_VERIFY(!list.isFilling());
+        list.selectChart(chart(31)); // is none of them
+        QVERIFY(writeChart(chart(31), Qt::red));
+        QTRY_COMPARE(list.count(), 31);
+        QCOMPARE(list.selectedChart(), chart(3));
+    }
+
+    void whatTheUserSelectsMeanwhileWins()
+    {
+        writeCharts(30);
+        ChartList list;
+        list.setFolder(m_folder->path());
+        list.selectChart(chart(3));
+        QVERIFY(fillSome(list));
+        list.setCurrentRow(1);
+        QTRY_VERIFY(!list.isFilling());
+        QCOMPARE(list.selectedChart(), chart(28));
+    }
+
+    void anotherOrderKeepsTheSelection()
+    {
+        writeCharts(30);
+        ChartList list;
+        list.setFolder(m_folder->path());
+        list.selectChart(chart(3));
+        for (const ChartOrder order : {ChartOrder::Oldest, ChartOrder::Name, ChartOrder::Newest}) {
+            list.setOrder(order);
+            QTRY_VERIFY(!list.isFilling());
+            QCOMPARE(list.selectedChart(), chart(3));
+        }
+    }
+
+    void aFolderThatIsMadeLaterIsFollowed()
+    {
+        const QString folder = m_folder->filePath(QStringLiteral("later"));
+        ChartList list;
+        list.setFolder(folder);
+        QTRY_VERIFY(!list.isFilling());
+        const QString image = folder + QStringLiteral("/20240101_120000/a.png");
+        QVERIFY(writeChart(image, Qt::red));
+        list.refresh();
+        QTRY_COMPARE(shown(list), QStringList({image}));
+        QVERIFY(QFile::rename(image, folder + QStringLiteral("/20240101_120000/b.png")));
+        QTRY_VERIFY(shown(list).value(0).endsWith(QStringLiteral("b.png")));
     }
 };
 

@@ -79,7 +79,7 @@ private:
     {
         return trigger(*m_window, QStringLiteral("New chart")) && settle(*m_window) &&
                click(*m_window->editor(), QStringLiteral("Confirm")) &&
-               QTest::qWaitFor([&] { return isListShown(*m_window); }, 20000);
+               QTest::qWaitFor([&] { return isListShown(*m_window); }, 20000) && isListed(*m_window);
     }
 
     /// Through the dialog, as a person does.

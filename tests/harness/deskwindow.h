@@ -1,5 +1,6 @@
 #pragma once
 
+#include "chartlist.h"
 #include "editsession.h"
 #include "mainwindow.h"
 #include "settles.h"
@@ -10,7 +11,6 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -52,6 +52,12 @@ inline bool trigger(MainWindow& window, const QString& text)
 inline bool isListShown(const MainWindow& window)
 {
     return qobject_cast<QStackedWidget*>(window.centralWidget())->currentIndex() == 0;
+}
+
+/// Waits until all charts of the folder are listed.
+inline bool isListed(const MainWindow& window)
+{
+    return QTest::qWaitFor([&] { return !window.findChild<ChartList*>()->isFilling(); });
 }
 
 /// The message that is shown, null for none.
@@ -97,7 +103,9 @@ inline bool setRows(const MainWindow& window, int rows)
 /// Opens the chart of the list that has the image `imagePath`.
 inline bool openChart(MainWindow& window, const QString& imagePath)
 {
-    auto* list = window.findChild<QListWidget*>(QStringLiteral("chartList"));
+    auto* list = window.findChild<ChartList*>();
+    if (!isListed(window))
+        return false;
     for (int row = 0; row < list->count(); ++row) {
         if (list->item(row)->data(Qt::UserRole) == imagePath)
             list->setCurrentRow(row);
