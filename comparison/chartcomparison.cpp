@@ -7,6 +7,7 @@
 #include "imagescaling.h"
 #include "lossycompression.h"
 #include "thresholds.h"
+#include "tolerance.h"
 
 #include <algorithm>
 #include <optional>
@@ -54,12 +55,13 @@ private:
     bool explainByEdges();
     bool explainByCompression();
     bool explainByScaling();
+    bool explainByUnderscan();
     bool explainMostByColors(double least);
     void tellNearest();
 
     const Way* nearest() const;
     double nearestShare() const;
-    void tellScalingRest(const Scaling& scaling);
+    void tellScaling(const Scaling& scaling);
     void tellRest(const Way& way, const QImage& expected);
     void tellReport(std::vector<Finding> findings, const CabinetReport& report, const QImage& expected,
                     const QImage& actual);
@@ -74,11 +76,6 @@ private:
     Result m_result;
 };
 
-double equalShare(const QImage& a, const QImage& b)
-{
-    return double(equalPixels(a, a.rect(), b, {})) / double(pixelCount(a.size()));
-}
-
 Result ChartExplainer::run()
 {
     if (explainByOneColor())
@@ -90,7 +87,8 @@ Result ChartExplainer::run()
     addTurns();
     addPlacements();
     if (!explainWhole() && !explainByCabinets() && !explainByColors() && !explainByEdges() &&
-        !explainByCompression() && !explainMostByColors(Thresholds::surelyRecolored) && !explainByScaling() &&
+        !explainByUnderscan() && !explainByCompression() &&
+        !explainMostByColors(Thresholds::surelyRecolored) && !explainByScaling() &&
         !explainMostByColors(Thresholds::leastExplained))
         tellNearest();
     return m_result;
@@ -252,25 +250,34 @@ bool ChartExplainer::explainByEdges()
 
 bool ChartExplainer::explainByScaling()
 {
-    const auto scaling =
-        nearestShare() < Thresholds::surelyInPlace ? findScaling(m_expected, m_actual) : std::nullopt;
+    if (nearestShare() >= Thresholds::surelyInPlace)
+        return false;
+    const auto scaling = findScaling(m_expected, m_actual);
     if (!scaling || (!scaling->failing.empty() && scaling->explained < nearestShare()))
         return false;
-    finish({scalingFinding(m_expected.size(), m_actual.size(), *scaling)});
-    tellScalingRest(*scaling);
+    tellScaling(*scaling);
     return true;
 }
 
-void ChartExplainer::tellScalingRest(const Scaling& scaling)
+/// Much stays where it is when a chart is made a little smaller: what is left decides.
+bool ChartExplainer::explainByUnderscan()
 {
-    std::vector<CabinetPlace> differing;
-    for (std::size_t i = 0; i < m_grid.cabinets.size(); ++i) {
-        if (std::any_of(scaling.failing.begin(), scaling.failing.end(),
-                        [&](const QRectF& place) { return place.intersects(m_grid.cabinets[i].rect); }))
-            differing.push_back({m_grid.rowOf(i), m_grid.columnOf(i), m_grid.cabinets[i].name, true});
-    }
-    if (!differing.empty())
-        m_result.findings.push_back({Kind::CabinetDiffers, DiffersBesides{}, differing, {}});
+    const auto scaling = findScalingBetweenBars(m_expected, m_actual);
+    const Way* const way = nearest();
+    if (!scaling || !way ||
+        scaling->error >
+            Thresholds::mostErrorOfUnderscan * channelDifference(way->expected, way->actual).mean)
+        return false;
+    tellScaling(*scaling);
+    return true;
+}
+
+void ChartExplainer::tellScaling(const Scaling& scaling)
+{
+    finish({scalingFinding(m_expected.size(), m_actual.size(), scaling)});
+    const std::vector<CabinetPlace> failing = failingCabinets(scaling, m_grid);
+    if (!failing.empty())
+        m_result.findings.push_back({Kind::CabinetDiffers, DiffersBesides{}, failing, {}});
 }
 
 bool ChartExplainer::explainByCompression()
@@ -288,12 +295,17 @@ bool ChartExplainer::explainByCompression()
     return false;
 }
 
-/// What leaves the fewest pixels over, as long as it leaves less than half of them; or null.
+/// What leaves the fewest pixels over, as long as it leaves less than half of them; or null. Large areas of
+/// one colour are near to many moves, which therefore have to leave less.
 const Way* ChartExplainer::nearest() const
 {
-    const auto best = std::max_element(m_ways.begin(), m_ways.end(),
-                                       [](const Way& a, const Way& b) { return a.share < b.share; });
-    return best != m_ways.end() && best->share >= Thresholds::leastExplained ? &*best : nullptr;
+    const Way* best = nullptr;
+    for (const Way& way : m_ways) {
+        const double least = way.isPlacement() ? Thresholds::leastPlaced : Thresholds::leastExplained;
+        if (way.share >= least && (!best || way.share > best->share))
+            best = &way;
+    }
+    return best;
 }
 
 double ChartExplainer::nearestShare() const
@@ -366,15 +378,18 @@ QStringList Result::sentences() const
     return sentences;
 }
 
-Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& cabinets)
+Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& cabinets, int tolerance)
 {
     const QImage plainExpected = plainColors(expected);
     const QImage plainActual = plainColors(actual);
     if (plainExpected == plainActual)
-        return {true, {}, {}};
+        return {true, 0, {}, {}};
     if (expected.isNull() || actual.isNull())
-        return {false, {{Kind::NotThisChart, {}, {}, {}}}, {}};
-    return ChartExplainer(plainExpected, plainActual, cabinets).run();
+        return {false, 0, {{Kind::NotThisChart, {}, {}, {}}}, {}};
+    const QImage tolerated = toleratedPicture(plainExpected, plainActual, tolerance);
+    if (plainExpected == tolerated)
+        return {true, channelDifference(plainExpected, plainActual).greatest, {}, {}};
+    return ChartExplainer(plainExpected, tolerated, cabinets).run();
 }
 
 } // namespace ChartComparison

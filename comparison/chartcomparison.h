@@ -16,6 +16,7 @@ namespace ChartComparison {
 struct Result
 {
     bool equal = false;
+    int tolerated = 0; ///< of equal pictures: the greatest difference of a channel
     /// What is wrong, the most far-reaching first; empty only for equal pictures.
     std::vector<Finding> findings;
     /// The chart, darkened, with every pixel that differs bright yellow and every cabinet that differs
@@ -30,6 +31,9 @@ struct Result
 ///
 /// Of what explains the whole picture the simplest is told, and what else would; where nothing does, what is
 /// nearest, and what is then left.
-VDCOMPARISON_EXPORT Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& cabinets);
+///
+/// A channel that is off by up to `tolerance`, 0 to 255, counts as equal.
+VDCOMPARISON_EXPORT Result compare(const QImage& expected, const QImage& actual, const CabinetGrid& cabinets,
+                                   int tolerance = 0);
 
 } // namespace ChartComparison

@@ -102,11 +102,13 @@ struct ColorEffect
         ChannelsMissing,   ///< those with a factor of 0
         Grey,
         Inverted,
-        LimitedRange,   ///< 0..255 shows as 16..235
+        LimitedRange,   ///< 0..255 shows as 16..235, darker by `factors` before
         Stretched,      ///< 16..235 shows as 0..255
         Brightness,     ///< by one factor
         ChannelFactors, ///< by one factor for each channel
         Gamma,
+        Decoded709,     ///< encoded by BT.601
+        Decoded601,     ///< encoded by BT.709
         ColorsExchanged ///< `pairs`, whatever they are
     };
 

@@ -257,7 +257,10 @@ struct Words
         case ColorEffect::Type::Inverted:
             return QStringLiteral("inverted");
         case ColorEffect::Type::LimitedRange:
-            return QStringLiteral("in the limited range, 0..255 shows as 16..235");
+            return (effect.factors[0] == 1
+                        ? QString()
+                        : QStringLiteral("brightness at %1 percent and ").arg(percent(effect.factors[0]))) +
+                   QStringLiteral("in the limited range, 0..255 shows as 16..235");
         case ColorEffect::Type::Stretched:
             return QStringLiteral("stretched, 16..235 shows as 0..255");
         case ColorEffect::Type::Brightness:
@@ -267,6 +270,10 @@ struct Words
                 .arg(percent(effect.factors[0]), percent(effect.factors[1]), percent(effect.factors[2]));
         case ColorEffect::Type::Gamma:
             return gammaText(effect.gamma);
+        case ColorEffect::Type::Decoded709:
+            return QStringLiteral("encoded by BT.601, decoded by BT.709");
+        case ColorEffect::Type::Decoded601:
+            return QStringLiteral("encoded by BT.709, decoded by BT.601");
         default:
             return exchangedColors(effect.pairs);
         }

@@ -65,6 +65,11 @@ qint64 equalPixels(const QImage& a, const QRect& rect, const QImage& b, const QP
     return equal;
 }
 
+double equalShare(const QImage& a, const QImage& b)
+{
+    return double(equalPixels(a, a.rect(), b, {})) / double(pixelCount(a.size()));
+}
+
 ChannelDifference channelDifference(const QImage& a, const QImage& b)
 {
     ChannelDifference difference;

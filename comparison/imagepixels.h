@@ -41,6 +41,9 @@ bool sameAt(const QImage& a, const QRect& rect, const QImage& b, const QPoint& c
 /// The number of pixels in which that is so.
 qint64 equalPixels(const QImage& a, const QRect& rect, const QImage& b, const QPoint& corner);
 
+/// The share of equal pixels of two pictures of one size.
+double equalShare(const QImage& a, const QImage& b);
+
 /// The greatest and the mean difference of a colour channel of two pictures of one size.
 struct ChannelDifference
 {

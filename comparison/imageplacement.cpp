@@ -74,6 +74,11 @@ bool wraps(const QImage& expected, const QImage& actual, const Placement& placem
 std::vector<QPoint> candidatePlaces(const QImage& expected, const QImage& actual)
 {
     std::vector<QPoint> places = votedPlaces(expected, actual);
+    // What looks the same along one direction votes for any move along it; none at all is then the move.
+    for (std::size_t i = 0, voted = places.size(); i < voted; ++i) {
+        places.emplace_back(places[i].x(), 0);
+        places.emplace_back(0, places[i].y());
+    }
     if (expected.size() == actual.size()) {
         // What wraps around is told by its shorter way.
         const std::vector<QPoint> voted = places;

@@ -28,10 +28,9 @@ bool isRowOf(const QImage& image, int y, const QRect& rect, QRgb color)
                        [color](QRgb pixel) { return pixel == color; });
 }
 
-/// The picture without the bars of its corner's colour around it.
-QRect withoutBars(const QImage& image)
+/// The picture without bars of that colour around it.
+QRect withoutBars(const QImage& image, QRgb bars)
 {
-    const QRgb bars = pixelRow(image, 0)[0];
     QRect rect = image.rect();
     while (rect.height() > 1 && isRowOf(image, rect.top(), rect, bars))
         rect.setTop(rect.top() + 1);
@@ -106,7 +105,8 @@ double scaledShare(const std::vector<QRectF>& failing, const QSize& content)
 std::optional<Scaling> smoothScaling(const QImage& wanted, const QImage& shown, const QRectF& part,
                                      const QRect& content)
 {
-    Scaling scaling{part, content, true, 1, failingPlaces(wanted, shown, part)};
+    Scaling scaling{
+        part, content, true, 1, failingPlaces(wanted, shown, part), channelDifference(wanted, shown).mean};
     scaling.explained = scaledShare(scaling.failing, content.size());
     if (scaling.explained < Thresholds::leastScaled)
         return std::nullopt;
@@ -122,7 +122,7 @@ std::optional<Scaling> scaledInto(const QImage& expected, const QImage& actual, 
     if (isOneColor(shown))
         return std::nullopt;
     if (isNearestNeighbour(expected, shown))
-        return Scaling{whole, content, false, 1, {}};
+        return Scaling{whole, content, false, 1, {}, 0};
     const QImage wanted =
         plainColors(expected.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     return smoothScaling(wanted, shown, whole, content);
@@ -136,27 +136,78 @@ std::optional<Scaling> zoomed(const QImage& expected, const QImage& actual)
     for (const QRect& whole : {part->toAlignedRect(), part->toRect()}) {
         const QRect pixels = whole & expected.rect();
         if (isNearestNeighbour(expected.copy(pixels), actual))
-            return Scaling{pixels, actual.rect(), false, 1, {}};
+            return Scaling{pixels, actual.rect(), false, 1, {}, 0};
     }
     return smoothScaling(zoomedPart(expected, *part, actual.size()), actual, *part, actual.rect());
 }
 
+/// Where the chart's `bare` part may be `shown`: edges of the bars' own colour are lost in them.
+QRect wholeContent(const QRect& bare, const QRect& shown, const QSize& chart)
+{
+    const double across = double(shown.width()) / bare.width();
+    const double down = double(shown.height()) / bare.height();
+    return QRectF(shown.left() - bare.left() * across, shown.top() - bare.top() * down,
+                  chart.width() * across, chart.height() * down)
+        .toRect();
+}
+
+/// As far from the left as from the right, and from the top as from the bottom.
+QRect centered(const QRect& shown, const QSize& picture)
+{
+    const int x = std::min(shown.left(), picture.width() - 1 - shown.right());
+    const int y = std::min(shown.top(), picture.height() - 1 - shown.bottom());
+    return QRect(QPoint(), picture).adjusted(x, y, -x, -y);
+}
+
+/// Where between the picture's bars, if it has some, the chart may be.
+std::vector<QRect> contentsBetweenBars(const QImage& expected, const QImage& actual)
+{
+    const QRgb bars = pixelRow(actual, 0)[0];
+    const QRect shown = withoutBars(actual, bars);
+    if (shown == actual.rect())
+        return {};
+    std::vector<QRect> contents;
+    for (const QRect& content : {shown, wholeContent(withoutBars(expected, bars), shown, expected.size()),
+                                 centered(shown, actual.size())}) {
+        if (actual.rect().contains(content) && std::count(contents.begin(), contents.end(), content) == 0)
+            contents.push_back(content);
+    }
+    return contents;
+}
+
 } // namespace
+
+std::optional<Scaling> findScalingBetweenBars(const QImage& expected, const QImage& actual)
+{
+    std::optional<Scaling> best;
+    for (const QRect& content : contentsBetweenBars(expected, actual)) {
+        const auto scaling = scaledInto(expected, actual, content);
+        if (scaling && (!best || scaling->error < best->error))
+            best = scaling;
+    }
+    return best;
+}
 
 std::optional<Scaling> findScaling(const QImage& expected, const QImage& actual)
 {
-    std::optional<Scaling> best;
-    const auto offer = [&](const std::optional<Scaling>& scaling) {
-        if (scaling && (!best || scaling->failing.size() < best->failing.size()))
-            best = scaling;
-    };
-    offer(scaledInto(expected, actual, actual.rect()));
-    const QRect bare = withoutBars(actual);
-    if ((!best || !best->failing.empty()) && bare != actual.rect())
-        offer(scaledInto(expected, actual, bare));
-    if (!best)
-        offer(zoomed(expected, actual));
-    return best;
+    std::optional<Scaling> best = scaledInto(expected, actual, actual.rect());
+    if (!best || !best->failing.empty()) {
+        const auto between = findScalingBetweenBars(expected, actual);
+        if (between && (!best || between->failing.size() < best->failing.size()))
+            best = between;
+    }
+    return best ? best : zoomed(expected, actual);
+}
+
+std::vector<CabinetPlace> failingCabinets(const Scaling& scaling, const CabinetGrid& grid)
+{
+    std::vector<CabinetPlace> failing;
+    for (std::size_t i = 0; i < grid.cabinets.size(); ++i) {
+        if (std::any_of(scaling.failing.begin(), scaling.failing.end(),
+                        [&](const QRectF& place) { return place.intersects(grid.cabinets[i].rect); }))
+            failing.push_back({grid.rowOf(i), grid.columnOf(i), grid.cabinets[i].name, true});
+    }
+    return failing;
 }
 
 Finding scalingFinding(const QSize& expected, const QSize& actual, const Scaling& scaling)

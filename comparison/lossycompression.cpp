@@ -24,35 +24,22 @@ bool differEverywhere(const QImage& expected, const QImage& actual, const Cabine
     return differing * 10 >= marked * Thresholds::lossyCabinetsInTen;
 }
 
-bool differInMuch(const QImage& expected, const QImage& actual)
-{
-    const qint64 all = pixelCount(expected.size());
-    return (all - equalPixels(expected, expected.rect(), actual, {})) * Thresholds::pixelsForOneLossy >= all;
-}
-
-double differingShare(const QImage& expected, const QImage& actual)
-{
-    return 1 -
-           double(equalPixels(expected, expected.rect(), actual, {})) / double(pixelCount(expected.size()));
-}
-
 } // namespace
 
 std::optional<Finding> findLossyCompression(const QImage& expected, const QImage& actual,
                                             const CabinetGrid& grid)
 {
     const ChannelDifference difference = channelDifference(expected, actual);
-    const bool isWide = differInMuch(expected, actual) || difference.greatest <= Thresholds::hardlySeen;
+    const double differing = 1 - equalShare(expected, actual);
+    const bool isWide =
+        differing * Thresholds::pixelsForOneLossy >= 1 || difference.greatest <= Thresholds::hardlySeen;
     if (!isWide || !differEverywhere(expected, actual, grid))
         return std::nullopt;
     const auto means = [](const QImage& image) { return blockMeans(image, Thresholds::lossyBlockSide); };
     if (difference.mean > Thresholds::mostLossyMean ||
         !differingBlocks(means(expected), means(actual), Thresholds::lossyBlockTolerance).empty())
         return std::nullopt;
-    return Finding{Kind::Lossy,
-                   Deviation{difference.greatest, difference.mean, differingShare(expected, actual)},
-                   {},
-                   {}};
+    return Finding{Kind::Lossy, Deviation{difference.greatest, difference.mean, differing}, {}, {}};
 }
 
 } // namespace ChartComparison

@@ -110,6 +110,60 @@ void addRanges(std::vector<Candidate>& candidates)
         effect(ColorEffect::Type::Stretched), [](int, int value) { return (value - 16) * 255.0 / 219; }, 2));
 }
 
+/// Limited range and darker besides. From what is left of the channels' levels after the range is undone.
+void addDarkerRanges(std::vector<Candidate>& candidates, const Pairs& pairs)
+{
+    double products = 0;
+    double squares = 0;
+    for (const ColorPair& pair : pairs) {
+        const Channels from = channels(pair.from);
+        const Channels to = channels(pair.to);
+        for (std::size_t i = 0; i < 3; ++i) {
+            products += from[i] * (to[i] - 16) * 255.0 / 219 * double(pair.pixels);
+            squares += double(from[i]) * from[i] * double(pair.pixels);
+        }
+    }
+    const double brightness = squares > 0 ? std::round(products / squares * 100) / 100 : 1;
+    if (brightness <= 0 || std::abs(brightness - 1) <= Thresholds::leastFactorChange)
+        return;
+    ColorEffect darker = effect(ColorEffect::Type::LimitedRange);
+    darker.factors = {brightness, brightness, brightness};
+    candidates.push_back(curved(
+        darker, [brightness](int, int value) { return 16 + value * brightness * 219.0 / 255; }, 1));
+}
+
+/// What red and blue weigh in the brightness.
+struct Matrix
+{
+    double red;
+    double blue;
+};
+
+/// Encoded as brightness and two colour differences by one matrix, decoded by the other.
+QRgb mixedUp(QRgb from, const Matrix& encoded, const Matrix& decoded)
+{
+    const auto brightness = [](const Matrix& matrix, double red, double green, double blue) {
+        return matrix.red * red + (1 - matrix.red - matrix.blue) * green + matrix.blue * blue;
+    };
+    const double y = brightness(encoded, qRed(from), qGreen(from), qBlue(from));
+    const double red = y + (qRed(from) - y) * (1 - decoded.red) / (1 - encoded.red);
+    const double blue = y + (qBlue(from) - y) * (1 - decoded.blue) / (1 - encoded.blue);
+    const double green = (y - decoded.red * red - decoded.blue * blue) / (1 - decoded.red - decoded.blue);
+    return qRgb(rounded(red), rounded(green), rounded(blue));
+}
+
+void addMatrices(std::vector<Candidate>& candidates)
+{
+    constexpr Matrix bt601{0.299, 0.114};
+    constexpr Matrix bt709{0.2126, 0.0722};
+    candidates.push_back(
+        {{effect(ColorEffect::Type::Decoded709), [=](QRgb from) { return mixedUp(from, bt601, bt709); }},
+         Thresholds::roundingSteps});
+    candidates.push_back(
+        {{effect(ColorEffect::Type::Decoded601), [=](QRgb from) { return mixedUp(from, bt709, bt601); }},
+         Thresholds::roundingSteps});
+}
+
 /// The factor of a channel, or of all for channel -1, by least squares; nothing where it cannot be told.
 std::optional<double> factor(const Pairs& pairs, int channel)
 {
@@ -195,18 +249,26 @@ void addGamma(std::vector<Candidate>& candidates, const Pairs& pairs)
     }
 }
 
+template <typename Map>
+qint64 failingPixels(const Map& map, int tolerance, const Pairs& pairs)
+{
+    qint64 failing = 0;
+    for (const ColorPair& pair : pairs)
+        failing += channelDistance(map(pair.from), pair.to) > tolerance ? pair.pixels : 0;
+    return failing;
+}
+
+/// What fits about as well without any change is none: a grey chart stays as it is when channels are
+/// exchanged.
 bool fits(const Candidate& candidate, const Pairs& pairs, double tolerated)
 {
     qint64 all = 0;
-    qint64 failing = 0;
-    for (const ColorPair& pair : pairs) {
+    for (const ColorPair& pair : pairs)
         all += pair.pixels;
-        if (channelDistance(candidate.change.map(pair.from), pair.to) > candidate.tolerance)
-            failing += pair.pixels;
-        else if (tolerated == 0 && failing > 0)
-            return false;
-    }
-    return double(failing) <= tolerated * double(all);
+    const qint64 failing = failingPixels(candidate.change.map, candidate.tolerance, pairs);
+    const qint64 changed = failingPixels([](QRgb from) { return from; }, candidate.tolerance, pairs);
+    return changed > 0 && double(failing) <= tolerated * double(all) &&
+           double(failing) <= Thresholds::mostLeftOfChange * double(changed);
 }
 
 } // namespace
@@ -221,6 +283,8 @@ std::optional<NamedColorChange> namedColorChange(const std::vector<ColorPair>& p
     addRanges(candidates);
     addMissing(candidates);
     addGreys(candidates);
+    addMatrices(candidates);
+    addDarkerRanges(candidates, pairs);
     addFactors(candidates, pairs);
     addGamma(candidates, pairs);
     for (const Candidate& candidate : candidates) {

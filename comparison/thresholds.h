@@ -61,7 +61,17 @@ constexpr int overlapParts = 4;
 /// Places that are compared pixel by pixel; the first is nearly always the one.
 constexpr std::size_t mostPlaces = 4;
 
+// Tolerance (`tolerance`)
+
+/// Of the chart: each new colour of the picture is compared with all of them, and texts on two colours have
+/// far fewer.
+constexpr int mostTolerantColors = 1024;
+
 // Scaling (`imagescaling`, `zoomsearch`)
+
+/// Of the mean difference that the nearest other explanation leaves: programs mix colours differently, but
+/// nothing else comes as near.
+constexpr double mostErrorOfUnderscan = 0.5;
 
 /// Side of the squares whose mean colours are compared: programs mix colours differently over a pixel or two.
 constexpr int scalingBlockSide = 8;
@@ -107,8 +117,12 @@ constexpr double toleratedInGuess = 0.25;
 /// Of the pixels that are near what was calculated: with so many exactly so, rounding needs no learning.
 constexpr double surelyExact = 0.99;
 
-/// Steps by which a colour may be off to count as rounded.
-constexpr int roundingSteps = 2;
+/// Of the pixels that no change would leave over: a change that leaves more over explains little.
+constexpr double mostLeftOfChange = 0.5;
+
+/// Steps by which a colour may be off to count as rounded: brightness and colour differences are rounded
+/// before colours are.
+constexpr int roundingSteps = 3;
 
 /// Pixels for each colour: with fewer, an exchange of colours fits any two pictures.
 constexpr long long pixelsPerColor = 4;

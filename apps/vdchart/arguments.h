@@ -34,7 +34,8 @@ struct Arguments
     std::string image;
     std::string output;
     std::string difference;
-    std::string page; ///< of HTML
+    int tolerance = 0; ///< of a channel, 0 to 255
+    std::string page;  ///< of HTML
     std::string folder;
     std::string walls;
     std::vector<std::string> presets;

@@ -217,6 +217,12 @@ void CommandLine::addVerify()
         ->add_option("record", m_arguments.record,
                      "The record; - for the standard input; without it the one that the picture carries")
         ->type_name("RECORD");
+    command
+        ->add_option("-t,--tolerance", m_arguments.tolerance,
+                     "By how many steps of 255 a channel may be off and count as equal")
+        ->type_name("STEPS")
+        ->check(CLI::Range(0, 255))
+        ->capture_default_str();
     addReport(command);
     command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
         ->type_name("FILE")

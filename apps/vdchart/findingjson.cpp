@@ -24,9 +24,9 @@ QString turnName(Turn turn)
 
 QString effectName(ColorEffect::Type type)
 {
-    static const std::array<const char*, 10> names = {
-        "channelsExchanged", "channelsMissing", "grey",           "inverted", "limitedRange",
-        "stretched",         "brightness",      "channelFactors", "gamma",    "colorsExchanged"};
+    static const std::array<const char*, 12> names = {
+        "channelsExchanged", "channelsMissing", "grey",  "inverted",   "limitedRange", "stretched",
+        "brightness",        "channelFactors",  "gamma", "decoded709", "decoded601",   "colorsExchanged"};
     return QLatin1String(names.at(std::size_t(type)));
 }
 

@@ -7,6 +7,7 @@
 #include "imageoutput.h"
 #include "outputfile.h"
 #include "recordinput.h"
+#include "secondlook.h"
 #include "verifyfolder.h"
 #include "wallgrid.h"
 #include "wantedchart.h"
@@ -19,6 +20,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <optional>
 
 using namespace vardeno::testcharttools;
 
@@ -59,21 +61,57 @@ struct Verdict
     qint64 translucent = 0;
     QStringList cables; ///< sentences of those that look pulled
     QJsonArray cablesJson;
+    int tolerance = 0;
+    std::optional<SecondLook> secondLook; ///< at a picture that is lossy or warped
 
     bool isGood() const { return result.equal && translucent == 0; }
 };
 
+QString goodText(const Verdict& verdict)
+{
+    const int tolerated = verdict.result.tolerated;
+    return tolerated == 0 ? QStringLiteral("this is the chart, pixel for pixel")
+                          : QStringLiteral("this is the chart; channels are off by up to %1 of the %2 steps "
+                                           "that are tolerated")
+                                .arg(tolerated)
+                                .arg(verdict.tolerance);
+}
+
+/// Where the second look has found the chart, pixels that differ say nothing.
+QStringList exactSentences(const Verdict& verdict)
+{
+    if (!verdict.secondLook || !verdict.secondLook->isLocated)
+        return verdict.result.sentences() + verdict.cables;
+    QStringList sentences;
+    for (const ChartComparison::Finding& finding : verdict.result.findings) {
+        if (finding.kind != ChartComparison::Kind::CabinetDiffers &&
+            finding.kind != ChartComparison::Kind::OutsideCabinets &&
+            finding.kind != ChartComparison::Kind::NotThisChart)
+            sentences << sentence(finding);
+    }
+    return sentences;
+}
+
+QStringList sentencesOf(const Verdict& verdict)
+{
+    QStringList sentences;
+    if (verdict.translucent > 0)
+        sentences << QStringLiteral("%1 pixels are translucent").arg(verdict.translucent);
+    if (verdict.isGood())
+        sentences << goodText(verdict);
+    sentences << exactSentences(verdict);
+    if (verdict.secondLook)
+        sentences << QStringLiteral("not pixel for pixel: if this is the chart it is lossy or warped, so "
+                                    "\"vdchart read\" looks at it")
+                  << verdict.secondLook->sentences;
+    return sentences;
+}
+
 void printText(const Verdict& verdict)
 {
     const std::string name = inputName(verdict.path).toStdString();
-    if (verdict.translucent > 0)
-        std::cout << name << ": " << verdict.translucent << " pixels are translucent\n";
-    if (verdict.isGood())
-        std::cout << name << ": this is the chart, pixel for pixel\n";
-    for (const QString& sentence : verdict.result.sentences())
+    for (const QString& sentence : sentencesOf(verdict))
         std::cout << name << ": " << sentence.toStdString() << '\n';
-    for (const QString& cable : verdict.cables)
-        std::cout << name << ": " << cable.toStdString() << '\n';
 }
 
 void printJson(const Verdict& verdict)
@@ -87,6 +125,12 @@ void printJson(const Verdict& verdict)
                          {QStringLiteral("good"), verdict.isGood()},
                          {QStringLiteral("translucentPixels"), verdict.translucent},
                          {QStringLiteral("findings"), findings}};
+    if (verdict.tolerance > 0) {
+        document.insert(QStringLiteral("tolerance"), verdict.tolerance);
+        document.insert(QStringLiteral("greatestTolerated"), verdict.result.tolerated);
+    }
+    if (verdict.secondLook && !verdict.secondLook->json.isEmpty())
+        document.insert(QStringLiteral("reading"), verdict.secondLook->json);
     if (!verdict.cablesJson.isEmpty())
         document.insert(QStringLiteral("pulledCables"), verdict.cablesJson);
     std::cout << QJsonDocument(document).toJson().toStdString();
@@ -108,8 +152,12 @@ void writeDifference(const QString& path, const QString& format, const QImage& d
 
 ExitCode runVerify(const Arguments& arguments)
 {
-    if (QFileInfo(QString::fromStdString(arguments.image)).isDir())
+    if (QFileInfo(QString::fromStdString(arguments.image)).isDir()) {
+        if (arguments.tolerance > 0)
+            throw Failure{ExitCode::Usage, QStringLiteral("--tolerance: the pictures of a folder are "
+                                                          "compared by their checksums")};
         return verifyFolder(arguments);
+    }
     requireDistinct(arguments);
     const QString path = QString::fromStdString(arguments.image);
     const QString difference = QString::fromStdString(arguments.difference);
@@ -127,9 +175,19 @@ ExitCode runVerify(const Arguments& arguments)
     claims.protect(difference);
     const QImage expected = ChartRenderer(wanted.language).render(wanted.chart);
     ChartCabinetGrid grid(wanted.chart);
-    ChartComparison::Result result = ChartComparison::compare(expected, picture, grid.cabinets());
+    ChartComparison::Result result =
+        ChartComparison::compare(expected, picture, grid.cabinets(), arguments.tolerance);
+    std::optional<SecondLook> look;
+    if (!wanted.chart.wall && isLossyOrWarped(result, grid.cabinets()))
+        look = secondLook(expected, picture, grid.cabinets());
     grid.take(result);
-    const Verdict verdict{path, std::move(result), translucentPixels(picture), grid.sentences(), grid.json()};
+    const Verdict verdict{path,
+                          std::move(result),
+                          translucentPixels(picture),
+                          grid.sentences(),
+                          grid.json(),
+                          arguments.tolerance,
+                          std::move(look)};
     if (arguments.report == "json")
         printJson(verdict);
     else

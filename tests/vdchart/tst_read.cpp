@@ -48,6 +48,36 @@ private Q_SLOTS:
         write(QStringLiteral("cut.png"), read(QStringLiteral("wall.png")).left(400));
     }
 
+    void verifyHandsOver()
+    {
+        const Outcome outcome = run({"verify", "bad.jpg", "wall.json"});
+        QCOMPARE(outcome.code, 1);
+        QVERIFY2(outcome.output.contains("looks at it\nbad.jpg: 1-2 and 3-4 are swapped\n"),
+                 outcome.output.constData());
+        QVERIFY(!outcome.output.contains("pixels differ"));
+    }
+
+    void verifyHandsOverForPrograms()
+    {
+        const QJsonObject verdict =
+            QJsonDocument::fromJson(run({"verify", "bad.jpg", "wall.json", "-f", "json"}).output).object();
+        QCOMPARE(verdict.value("good").toBool(), false);
+        QVERIFY(!verdict.value("findings").toArray().isEmpty());
+        const QJsonObject reading = verdict.value("reading").toObject();
+        QCOMPARE(reading.value("located").toBool(), true);
+        QCOMPARE(reading.value("findings").toArray().size(), 3);
+    }
+
+    void verifyTellsWhatReadDoesNotFind()
+    {
+        write(QStringLiteral("other.json"),
+              run({"new", "-p", "bars", "-s", "width=720", "-s", "height=480", "--grid", "6x4"}).output);
+        const Outcome outcome = run({"verify", "bad.jpg", "other.json"});
+        QCOMPARE(outcome.code, 1);
+        QVERIFY2(outcome.output.contains("not this chart"), outcome.output.constData());
+        QVERIFY2(outcome.output.contains("the chart was not found"), outcome.output.constData());
+    }
+
     void codes_data()
     {
         QTest::addColumn<QStringList>("arguments");

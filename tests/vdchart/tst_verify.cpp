@@ -27,6 +27,21 @@ private:
                       [&output](const char* bytes, qint64 count) { output.write(bytes, count); });
     }
 
+    /// Every channel a step away from the chart's.
+    void saveOff(const QString& name, int steps) const
+    {
+        QImage chart = QImage(path(QStringLiteral("small.png"))).convertToFormat(QImage::Format_RGB888);
+        for (int y = 0; y < chart.height(); ++y) {
+            uchar* const row = chart.scanLine(y);
+            for (int x = 0; x < 3 * chart.width(); ++x)
+                row[x] = uchar(row[x] < 128 ? row[x] + steps : row[x] - steps);
+        }
+        QImage bare(chart.size(), QImage::Format_RGB32);
+        bare.fill(Qt::black);
+        QPainter(&bare).drawImage(0, 0, chart);
+        QVERIFY(bare.save(path(name)));
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -181,6 +196,11 @@ private Q_SLOTS:
         effect.factors = {0.5, 0.5, 0.5};
         add(Kind::ColorsChanged, effect,
             "{'effect':'brightness','factors':[0.5,0.5,0.5],'kind':'colorsChanged'}");
+        effect = {};
+        effect.type = ColorEffect::Type::Decoded709;
+        add(Kind::ColorsChanged, effect, "{'effect':'decoded709','kind':'colorsChanged'}");
+        effect.type = ColorEffect::Type::ColorsExchanged;
+        add(Kind::ColorsChanged, effect, "{'effect':'colorsExchanged','kind':'colorsChanged'}");
     }
 
     void values()
@@ -188,6 +208,62 @@ private Q_SLOTS:
         QFETCH(QJsonObject, actual);
         QFETCH(QByteArray, expected);
         QCOMPARE(QJsonDocument(actual).toJson(QJsonDocument::Compact), expected);
+    }
+
+    void tolerance_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("none") << QStringList{"off.png", "small.json"} << 1 << "off.png: ";
+        QTest::newRow("too little") << QStringList{"off.png", "small.json", "-t", "1"} << 1 << "off.png: ";
+        QTest::newRow("enough") << QStringList{"off.png", "small.json", "--tolerance", "2"} << 0
+                                << "off.png: this is the chart; channels are off by up to 2 of the 2 steps "
+                                   "that are tolerated";
+        QTest::newRow("not needed") << QStringList{"small.png", "--tolerance", "2"} << 0
+                                    << "this is the chart, pixel for pixel";
+        QTest::newRow("negative") << QStringList{"off.png", "small.json", "-t", "-1"} << 2
+                                  << "Value -1 not in range";
+        QTest::newRow("too much") << QStringList{"off.png", "small.json", "-t", "256"} << 2
+                                  << "Value 256 not in range";
+        QTest::newRow("of a folder") << QStringList{".", "-t", "1"} << 2
+                                     << "--tolerance: the pictures of a folder are compared by their "
+                                        "checksums";
+    }
+
+    void tolerance()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, text);
+        saveOff(QStringLiteral("off.png"), 2);
+        const Outcome outcome = run(QStringList{"verify"} + arguments);
+        QTEST(outcome.code, "code");
+        const QString all = QString::fromUtf8(outcome.output) + outcome.errors;
+        QVERIFY2(all.contains(text), qPrintable(all));
+    }
+
+    void toleranceForPrograms()
+    {
+        saveOff(QStringLiteral("off.png"), 2);
+        const QJsonObject tolerated =
+            QJsonDocument::fromJson(run({"verify", "off.png", "small.json", "-t", "5", "-f", "json"}).output)
+                .object();
+        QCOMPARE(tolerated.value("good").toBool(), true);
+        QCOMPARE(tolerated.value("tolerance").toInt(), 5);
+        QCOMPARE(tolerated.value("greatestTolerated").toInt(), 2);
+        const QJsonObject exact =
+            QJsonDocument::fromJson(run({"verify", "small.png", "-f", "json"}).output).object();
+        QCOMPARE(exact.keys(),
+                 (QStringList{"findings", "format", "good", "picture", "translucentPixels", "version"}));
+    }
+
+    /// Whether the program was built with the reading or not.
+    void aLossyPictureIsForTheReading()
+    {
+        QVERIFY(QImage(path(QStringLiteral("small.png"))).save(path(QStringLiteral("lossy.jpg")), "JPG", 60));
+        const Outcome outcome = run({"verify", "lossy.jpg", "small.json"});
+        QCOMPARE(outcome.code, 1);
+        QVERIFY2(outcome.output.contains("\"vdchart read\" looks at it"), outcome.output.constData());
     }
 
     void alternativesAndCabinets()
