@@ -3,8 +3,10 @@
 // opening, switching, line, counter.
 
 #include "chartlist.h"
+#include "deskoutput.h"
 #include "display.h"
 #include "languages.h"
+#include "mainwindow.h"
 #include "output.h"
 #include "outputwindow.h"
 #include "walk.h"
@@ -158,12 +160,15 @@ void benchSwitching()
           << " ms\n";
 }
 
+/// In the whole desk, whose window tells of each step.
 void benchWalk(Walk::Mode mode, const char* name, int seconds)
 {
     const QTemporaryDir folder;
-    const QStringList charts = createCharts(folder, 1, chartSize);
-    Output output;
-    output.start(displays().last().name, QPoint(), charts.first());
+    const QString chart = createCharts(folder, 1, chartSize).first();
+    MainWindow window(folder.path());
+    window.show();
+    Output& output = *window.output()->output();
+    output.start(displays().last().name, QPoint(), chart);
     waitUntil([&] { return output.window()->chart().size() == chartSize; });
     output.walk()->setFrameRate(60);
     int steps = 0;

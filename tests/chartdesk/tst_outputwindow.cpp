@@ -63,6 +63,16 @@ private:
     }
 
 private Q_SLOTS:
+    void aPatternIsPaintedAtOnce()
+    {
+        Window window;
+        window.setChart(noise(QSize(301, 203)), QPoint());
+        QVERIFY(show(window));
+        const int paints = window.paints;
+        window.setPattern(std::make_shared<LinePattern>(QSize(301, 203), LineDirection::Vertical));
+        QCOMPARE(window.paints, paints + 1);
+    }
+
     void aChartPixelForPixel_data()
     {
         QTest::addColumn<QSize>("size");

@@ -92,7 +92,7 @@ void OutputWindow::setPattern(const std::shared_ptr<const OutputPattern>& patter
 {
     m_pattern = pattern;
     m_step = step;
-    update();
+    repaint(); // at once: its steps are counted from here
 }
 
 void OutputWindow::setStep(int step)

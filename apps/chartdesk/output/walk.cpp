@@ -72,8 +72,8 @@ void Walk::setMode(Mode mode)
         return;
     m_mode = mode;
     m_step = 0;
-    setRunning(runsAtOnce(mode));
     renewPattern();
+    setRunning(runsAtOnce(mode)); // from the picture on, which may take longer than a frame
 }
 
 std::shared_ptr<const OutputPattern> Walk::createPattern() const
