@@ -1,5 +1,6 @@
 #include "runlayer.h"
 
+#include "distinctcolor.h"
 #include "geometry/textfont.h"
 #include "inkshapes.h"
 
@@ -13,10 +14,6 @@ namespace vardeno::walls {
 
 namespace {
 
-/// Far apart from their neighbours, and light enough for dark texts.
-constexpr QRgb colors[] = {0xffffd400, 0xff19c3ff, 0xffff6fb0, 0xff6fe84b, 0xffff9233, 0xffb79bff,
-                           0xff00d9a6, 0xffff7266, 0xff9fc2ff, 0xffd2dc2a, 0xffe0b483, 0xffe6a3e8};
-constexpr int colorCount = int(sizeof(colors) / sizeof(colors[0]));
 const QColor casing(12, 12, 16); ///< around all lines, so that they stand out from any chart
 
 double within(double shift, int side)
@@ -150,7 +147,7 @@ RunLayer runLayer(const CabinetPlan& plan, const std::vector<CableRun>& runs, co
         DrawnRun run;
         run.points = pointsOf(plan, runs[i], shift, layer.mark);
         run.bounds = boundsOf(run.points, 2 * layer.mark + 4 * layer.width);
-        run.color = QColor(colors[(int(i) + look.firstColor) % colorCount]);
+        run.color = distinctColor(int(i) + look.firstColor);
         run.start = look.startPrefix + number;
         run.end = look.endPrefix.isEmpty() ? QString() : look.endPrefix + number;
         layer.runs.push_back(std::move(run));

@@ -1,6 +1,7 @@
 #include "wallfile.h"
 
 #include "chartrecordfile.h"
+#include "documentschema.h"
 #include "records/documentfile.h"
 #include "records/fieldvisitors.h"
 #include "records/jsontext.h"
@@ -13,7 +14,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace vardeno::walls::WallFile {
@@ -152,25 +152,11 @@ QByteArray schema()
     fieldvisitors::DocumentSchema writer;
     const WallDocument wall;
     visitWall(writer, wall);
-    const auto text = [](const char* words) { return QJsonValue(QLatin1String(words)); };
-    QJsonObject members = writer.groups;
-    members.insert(QStringLiteral("$schema"), QJsonObject{{QStringLiteral("type"), text("string")}});
-    members.insert(QStringLiteral("format"), QJsonObject{{QStringLiteral("const"), text(wallKind.format)}});
-    members.insert(QStringLiteral("version"), QJsonObject{{QStringLiteral("const"), wallKind.version}});
-    const QJsonObject root = {
-        {QStringLiteral("$schema"), text("https://json-schema.org/draft/2020-12/schema")},
-        {QStringLiteral("$id"), text(wallKind.schemaName)},
-        {QStringLiteral("title"), text("Wall of cabinets")},
-        {QStringLiteral("description"), text("An LED wall: cabinets, cables and chart. Members that are not "
-                                             "named here are kept, missing ones take their defaults.")},
-        {QStringLiteral("type"), text("object")},
-        {QStringLiteral("required"), QJsonArray{text("format"), text("version")}},
-        {QStringLiteral("properties"), members},
-        {QStringLiteral("$defs"), QJsonObject{{QStringLiteral("color"), recordvalues::colorSchema()}}}};
-    return jsonText(root, QStringList{QStringLiteral("$schema"), QStringLiteral("$id"),
-                                      QStringLiteral("title"), QStringLiteral("description"),
-                                      QStringLiteral("type"), QStringLiteral("required")} +
-                              collectedNames().order + exceptionMembers());
+    return documentSchema(
+        {wallKind, "Wall of cabinets",
+         "An LED wall: cabinets, cables and chart. Members that are not named here are kept, "
+         "missing ones take their defaults."},
+        writer.groups, collectedNames().order + exceptionMembers());
 }
 
 Chart chartOf(const WallDocument& wall, const QString& folder)

@@ -49,4 +49,9 @@ QImage WallPicture::rows(int top, int count) const
     return d->picture.rows(top, count);
 }
 
+QImage WallPicture::area(const QRect& area) const
+{
+    return d->picture.area(area);
+}
+
 } // namespace vardeno::walls

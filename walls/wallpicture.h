@@ -35,6 +35,8 @@ public:
     bool isDrawnInParts() const;
     /// `count` rows of the same picture, from the row `top` on.
     QImage rows(int top, int count) const;
+    /// Likewise what is in `area`, which lies within the wall.
+    QImage area(const QRect& area) const;
 
 private:
     class Impl;

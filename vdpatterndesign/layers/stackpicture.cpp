@@ -51,12 +51,18 @@ bool StackPicture::isDrawnInParts() const
 
 QImage StackPicture::rows(int top, int count) const
 {
-    if (!isDrawnInParts() && count < m_size.height())
-        return rows(0, m_size.height()).copy(0, top, m_size.width(), count);
-    QImage rows(m_size.width(), count, QImage::Format_RGB32);
-    if (rows.isNull() || !(isDrawnInParts() ? drawTiles(rows, top) : drawWhole(rows)))
+    return area({0, top, m_size.width(), count});
+}
+
+QImage StackPicture::area(const QRect& area) const
+{
+    const bool isWhole = area == QRect(QPoint(), m_size);
+    if (!isDrawnInParts() && !isWhole)
+        return this->area({QPoint(), m_size}).copy(area);
+    QImage part(area.size(), QImage::Format_RGB32);
+    if (part.isNull() || !(isDrawnInParts() ? drawTiles(part, area.topLeft()) : drawWhole(part)))
         return {};
-    return rows;
+    return part;
 }
 
 bool StackPicture::drawWhole(QImage& chart) const
@@ -76,19 +82,19 @@ bool StackPicture::drawWhole(QImage& chart) const
 }
 
 /// Each of them for itself: nothing that is drawn depends on where a tile ends.
-bool StackPicture::drawTiles(QImage& rows, int top) const
+bool StackPicture::drawTiles(QImage& part, const QPoint& origin) const
 {
-    uchar* const bits = rows.bits();
+    uchar* const bits = part.bits();
     std::atomic<bool> drawn{true};
-    const int columns = (rows.width() + tileSize.width() - 1) / tileSize.width();
-    const int lines = (rows.height() + tileSize.height() - 1) / tileSize.height();
+    const int columns = (part.width() + tileSize.width() - 1) / tileSize.width();
+    const int lines = (part.height() + tileSize.height() - 1) / tileSize.height();
     inParallel(columns * lines, [&](int i) {
         const QPoint at(i % columns * tileSize.width(), i / columns * tileSize.height());
-        const QSize size = QSize(rows.width() - at.x(), rows.height() - at.y()).boundedTo(tileSize);
+        const QSize size = QSize(part.width() - at.x(), part.height() - at.y()).boundedTo(tileSize);
         uchar* const first =
-            bits + qsizetype(at.y()) * rows.bytesPerLine() + at.x() * qsizetype(sizeof(QRgb));
-        QImage tile(first, size.width(), size.height(), rows.bytesPerLine(), rows.format());
-        if (!drawTile(tile, at + QPoint(0, top)))
+            bits + qsizetype(at.y()) * part.bytesPerLine() + at.x() * qsizetype(sizeof(QRgb));
+        QImage tile(first, size.width(), size.height(), part.bytesPerLine(), part.format());
+        if (!drawTile(tile, at + origin))
             drawn = false;
     });
     return drawn;

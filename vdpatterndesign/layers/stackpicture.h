@@ -24,10 +24,12 @@ public:
     bool isDrawnInParts() const;
     /// `count` rows from the row `top` on, opaque (RGB32). Null where there is not enough memory.
     QImage rows(int top, int count) const;
+    /// Likewise what is in `area`, which lies within the picture.
+    QImage area(const QRect& area) const;
 
 private:
     bool drawWhole(QImage& chart) const;
-    bool drawTiles(QImage& rows, int top) const;
+    bool drawTiles(QImage& part, const QPoint& origin) const;
     bool drawTile(QImage& tile, const QPoint& at) const;
 
     QSize m_size;
