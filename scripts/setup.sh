@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(g++ cmake ninja-build ccache qtbase5-dev fonts-dejavu-core libcli11-dev zlib1g-dev libjpeg62-turbo-dev
-  libcsv-dev qttranslations5-l10n "$@")
+  libcsv-dev libzip-dev qttranslations5-l10n "$@")
 
 missing=()
 for package in "${packages[@]}"; do

@@ -26,6 +26,16 @@ struct WallArguments
     int digits = 1;
 };
 
+/// What `vdchart show` asks for.
+struct ShowArguments
+{
+    std::string action;
+    std::vector<std::string> files;   ///< walls of a new show, a show to pack, a pack to unpack
+    std::vector<std::string> outputs; ///< "Left=3840x2160@60"
+    bool autoPack = false;
+    bool mayTurn = false;
+};
+
 /// What the command line asks for. Each command uses a part of it.
 struct Arguments
 {
@@ -37,6 +47,7 @@ struct Arguments
     int tolerance = 0; ///< of a channel, 0 to 255
     std::string page;  ///< of HTML
     std::string folder;
+    std::string showOutput; ///< the one of a show that is meant; empty for all
     std::string walls;
     std::vector<std::string> presets;
     Changes changes;
@@ -47,6 +58,7 @@ struct Arguments
     int compression = 1;          ///< of PNG, 0 to 9
     int jobs = 0;                 ///< 0 to choose by the machine
     WallArguments wall;
+    ShowArguments show;
     bool namesOnly = false;
     bool errorsOnly = false;
     bool isStrict = false;       ///< what is unknown is an error

@@ -27,8 +27,8 @@ int atOnce(int wanted, const std::vector<PlannedPicture>& plan)
 {
     qint64 largest = 1;
     for (const PlannedPicture& planned : plan) {
-        const auto& chart = planned.chart.record.publicData;
-        largest = std::max(largest, qint64(chart.resolutionWidth) * chart.resolutionHeight);
+        const QSize size = sizeOf(planned.chart);
+        largest = std::max(largest, qint64(size.width()) * size.height());
     }
     const qint64 roomFor = std::max<qint64>(mostMemory / std::min(largest * bytesPerPixel, mostBytes), 1);
     return wanted > 0 ? wanted : int(std::min<qint64>(QThread::idealThreadCount(), roomFor));
@@ -142,7 +142,7 @@ void Batch::finish(PlannedPicture& planned, const PictureRows& picture)
     PngOptions options;
     options.compression = m_arguments.compression;
     options.threads = std::max(1, QThread::idealThreadCount() / m_atOnce);
-    if (!m_arguments.withoutRecord && !planned.chart.wall)
+    if (!m_arguments.withoutRecord && !planned.chart.wall && !planned.chart.show)
         options.texts =
             CarriedRecord::texts(planned.chart.record, QString::fromStdString(m_arguments.language), path);
     qint64 size = 0;

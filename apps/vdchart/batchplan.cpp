@@ -16,7 +16,7 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
-QString fileName(const Arguments& arguments, const QString& record, const Wall& wall)
+QString fileName(const Arguments& arguments, const QString& record, const Wall& wall, const QString& output)
 {
     QStringList parts;
     if (arguments.records.size() > 1 || wall.name.isEmpty())
@@ -24,6 +24,8 @@ QString fileName(const Arguments& arguments, const QString& record, const Wall& 
                                                   : QFileInfo(record).completeBaseName());
     if (!wall.name.isEmpty())
         parts.append(wall.name);
+    if (!output.isEmpty())
+        parts.append(output);
     return parts.join(QLatin1Char('-')) + QLatin1Char('.') + QString::fromStdString(arguments.format);
 }
 
@@ -55,6 +57,22 @@ void requireOwnNames(const Arguments& arguments, const std::vector<PlannedPictur
     }
 }
 
+void addOutputs(std::vector<PlannedPicture>& plan, const Arguments& arguments, const QString& path,
+                const ChartInput& show)
+{
+    for (const ChartInput& chart : picturesOf(show)) {
+        PlannedPicture planned;
+        const QString output = outputName(chart);
+        planned.picture.record = path;
+        planned.picture.file = fileName(arguments, path, {}, output);
+        planned.chart = chart;
+        const QString problem = fileNameProblem(output);
+        if (!problem.isEmpty())
+            planned.fail({ExitCode::Unreadable, QStringLiteral("output \"%1\": %2").arg(output, problem)});
+        plan.push_back(std::move(planned));
+    }
+}
+
 /// The record at `path` for every wall. It is read once: the standard input cannot be read again.
 void addRecord(std::vector<PlannedPicture>& plan, const Arguments& arguments, const QString& path,
                const std::vector<Wall>& walls)
@@ -66,12 +84,18 @@ void addRecord(std::vector<PlannedPicture>& plan, const Arguments& arguments, co
     } catch (const Failure& problem) {
         failure = problem;
     }
+    if (chart.show && !failure && !arguments.walls.empty())
+        failure = Failure{ExitCode::Usage, QStringLiteral("a show is not drawn for a table of walls")};
+    if (chart.show && !failure) {
+        addOutputs(plan, arguments, path, chart);
+        return;
+    }
     for (const Wall& wall : walls) {
         PlannedPicture planned;
         planned.picture.record = path;
         planned.picture.wall = wall.name;
-        planned.picture.file = fileName(arguments, path, wall);
-        planned.chart = chart;
+        planned.picture.file = fileName(arguments, path, wall, {});
+        planned.chart = failure ? ChartInput() : chart;
         if (failure)
             planned.fail(*failure);
         plan.push_back(std::move(planned));
@@ -98,14 +122,13 @@ void requireOwnFiles(const Arguments& arguments, const std::vector<PlannedPictur
         claims.reads(QString::fromStdString(record), QStringLiteral("a record of the batch"));
     if (!arguments.walls.empty())
         claims.reads(QString::fromStdString(arguments.walls), QStringLiteral("the table of walls"));
-    std::string last;
+    QString last;
     for (const PlannedPicture& planned : plan) {
-        const LogoChartData& logo = planned.chart.record.logoData;
-        if (logo.picturePath != last)
-            claims.readsLogo(logo);
-        last = logo.picturePath;
-        if (!planned.chart.recordFile.isEmpty())
-            claims.reads(planned.chart.recordFile, QStringLiteral("a record of the batch"));
+        const QString source = planned.picture.record + QLatin1Char('\n') +
+                               QString::fromStdString(planned.chart.record.logoData.picturePath);
+        if (source != last)
+            claimFiles(claims, planned.chart, QStringLiteral("a record of the batch"));
+        last = source;
     }
     claims.writes(batchPath(arguments, QLatin1String(manifestName)));
     for (const PlannedPicture& planned : plan)

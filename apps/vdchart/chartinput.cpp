@@ -1,5 +1,6 @@
 #include "chartinput.h"
 
+#include "fileclaims.h"
 #include "recordinput.h"
 
 #include <chartrecordfile.h>
@@ -32,6 +33,15 @@ void change(ChartInput& chart, const Failure& blame, const std::function<void(Te
             QStringLiteral("%1: resolution, rows and columns are those of the wall").arg(blame.message)};
 }
 
+/// Its walls have records of their own.
+void forbidChanges(const ChartInput& chart, bool isChanged, const Failure& blame)
+{
+    if (chart.show && isChanged)
+        throw Failure{
+            blame.code,
+            QStringLiteral("%1: a show has several records; change those of its walls").arg(blame.message)};
+}
+
 ChartReading readWall(const QByteArray& json, const QString& folder)
 {
     walls::WallFile::Reading wall = walls::WallFile::fromJson(json);
@@ -48,21 +58,42 @@ ChartReading readWall(const QByteArray& json, const QString& folder)
     return reading;
 }
 
+ChartReading readShow(const QByteArray& json, const QString& folder)
+{
+    walls::ShowFile::Reading show = walls::ShowFile::fromJson(json);
+    ChartReading reading;
+    reading.problems = show.problems;
+    reading.unknown = show.unknown;
+    if (!show.problems.isEmpty())
+        return reading;
+    walls::ShowFile::Walls placed = walls::ShowFile::wallsOf(show.show, folder);
+    reading.problems = placed.problems;
+    reading.unknown += placed.unknown;
+    reading.chart.show = std::make_shared<ShowInput>(ShowInput{std::move(show.show), std::move(placed.list)});
+    return reading;
+}
+
+ChartReading readAnyChart(const QByteArray& json, const QString& folder)
+{
+    if (walls::ShowFile::isShow(json))
+        return readShow(json, folder);
+    if (walls::WallFile::isWall(json))
+        return readWall(json, folder);
+    const ChartRecordFile::Reading record = ChartRecordFile::fromJson(json, folder);
+    return {{record.record, std::nullopt, {}}, record.problems, record.unknown};
+}
+
 } // namespace
 
 ChartReading readChart(const QString& path, const Changes& changes)
 {
     const QByteArray json = readInput(path, recordLimit);
     const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
-    ChartReading reading;
-    if (walls::WallFile::isWall(json)) {
-        reading = readWall(json, folder);
-    } else {
-        const ChartRecordFile::Reading record = ChartRecordFile::fromJson(json, folder);
-        reading = {{record.record, std::nullopt, {}}, record.problems, record.unknown};
-    }
-    change(reading.chart, {ExitCode::Usage, inputName(path)},
-           [&](TestChartToolsData& record) { applyChanges(record, changes); });
+    ChartReading reading = readAnyChart(json, folder);
+    const Failure blame = {ExitCode::Usage, inputName(path)};
+    forbidChanges(reading.chart,
+                  !changes.settings.empty() || !changes.grid.empty() || !changes.cabinet.empty(), blame);
+    change(reading.chart, blame, [&](TestChartToolsData& record) { applyChanges(record, changes); });
     return reading;
 }
 
@@ -75,5 +106,67 @@ ChartInput requireChart(const QString& path, const Changes& changes)
 
 void applySettings(ChartInput& chart, const std::vector<std::string>& settings, const Failure& blame)
 {
+    forbidChanges(chart, !settings.empty(), blame);
     change(chart, blame, [&](TestChartToolsData& record) { applySettings(record, settings, blame); });
+}
+
+std::vector<ChartInput> picturesOf(const ChartInput& chart)
+{
+    if (!chart.show)
+        return {chart};
+    std::vector<ChartInput> pictures;
+    for (std::size_t i = 0; i < chart.show->show.outputs.list.size(); ++i) {
+        pictures.push_back(chart);
+        pictures.back().output = int(i);
+    }
+    return pictures;
+}
+
+ChartInput chosenPicture(const ChartInput& chart, const std::string& output, const QString& path)
+{
+    const auto refuse = [&path](const QString& why) -> Failure {
+        return {ExitCode::Usage, QStringLiteral("%1: %2").arg(inputName(path), why)};
+    };
+    if (!chart.show && !output.empty())
+        throw refuse(QStringLiteral("--of: only a show has outputs"));
+    const std::vector<ChartInput> pictures = picturesOf(chart);
+    QStringList names;
+    for (const ChartInput& picture : pictures) {
+        if (outputName(picture) == QString::fromStdString(output) || pictures.size() == 1)
+            return picture;
+        names.append(outputName(picture));
+    }
+    if (names.isEmpty())
+        throw refuse(QStringLiteral("the show has no outputs"));
+    throw refuse(
+        QStringLiteral("--of: one of the show's outputs is needed: %1").arg(names.join(QLatin1String(", "))));
+}
+
+QSize sizeOf(const ChartInput& chart)
+{
+    if (chart.show)
+        return chart.show->show.outputs.list.at(std::size_t(chart.output)).size();
+    return {chart.record.publicData.resolutionWidth, chart.record.publicData.resolutionHeight};
+}
+
+QString outputName(const ChartInput& chart)
+{
+    return chart.show
+               ? QString::fromStdString(chart.show->show.outputs.list.at(std::size_t(chart.output)).name)
+               : QString();
+}
+
+void claimFiles(FileClaims& claims, const ChartInput& chart, const QString& what)
+{
+    if (!chart.recordFile.isEmpty())
+        claims.reads(chart.recordFile, what);
+    claims.readsLogo(chart.record.logoData);
+    if (!chart.show)
+        return;
+    for (const walls::ShowFile::PlacedWall& wall : chart.show->walls) {
+        claims.reads(wall.file, QStringLiteral("a wall of the show"));
+        if (!wall.recordFile.isEmpty())
+            claims.reads(wall.recordFile, what);
+        claims.readsLogo(wall.record.logoData);
+    }
 }

@@ -5,6 +5,7 @@
 
 #include <chartcheck.h>
 #include <chartlanguages.h>
+#include <showpicture.h>
 #include <translatemanager1.h>
 #include <wallpicture.h>
 
@@ -72,8 +73,17 @@ PictureRows ChartRenderer::rows(const TestChartToolsData& record) const
 
 PictureRows ChartRenderer::rows(const ChartInput& input) const
 {
+    if (input.show)
+        return rows(*input.show, input.output);
     if (!input.wall)
         return rows(input.record);
     requireLogo(input.record);
     return rowsOfPicture(vardeno::walls::WallPicture(*input.wall, input.record, m_captions));
+}
+
+PictureRows ChartRenderer::rows(const ShowInput& show, int output) const
+{
+    for (const auto& wall : show.walls)
+        requireLogo(wall.record);
+    return rowsOfPicture(vardeno::walls::ShowPicture(show.show, show.walls, output, m_captions));
 }

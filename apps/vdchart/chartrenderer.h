@@ -12,6 +12,7 @@ struct TestChartToolsData;
 }
 
 struct ChartInput;
+struct ShowInput;
 
 /// Makes the pictures of records, as the chart editor does. One at a time in a process, made in its main
 /// thread.
@@ -26,7 +27,7 @@ public:
     /// thread.
     vardeno::testcharttools::PictureRows
     rows(const vardeno::testcharttools::TestChartToolsData& record) const;
-    /// Likewise, of a record or a wall.
+    /// Likewise, of a record, a wall or an output of a show.
     vardeno::testcharttools::PictureRows rows(const ChartInput& chart) const;
     /// The same as one image.
     QImage render(const vardeno::testcharttools::TestChartToolsData& record) const;
@@ -35,6 +36,7 @@ public:
 private:
     vardeno::testcharttools::ChartPicture
     chart(const vardeno::testcharttools::TestChartToolsData& record) const;
+    vardeno::testcharttools::PictureRows rows(const ShowInput& show, int output) const;
 
     ChartApplication m_application;
     vardeno::testcharttools::ChartCaptions m_captions;

@@ -6,6 +6,7 @@
 #include "recordinput.h"
 
 #include <chartcheck.h>
+#include <showcheck.h>
 #include <wallcheck.h>
 
 #include <QJsonArray>
@@ -37,6 +38,8 @@ struct Findings
 
 QStringList warningsOf(const ChartInput& chart)
 {
+    if (chart.show)
+        return vardeno::walls::ShowCheck::warnings(chart.show->show, chart.show->walls);
     if (!chart.wall)
         return ChartCheck::warnings(chart.record);
     return vardeno::walls::WallCheck::warnings(*chart.wall, {chart.record, {}, {}, chart.recordFile});

@@ -87,6 +87,7 @@ CommandLine::CommandLine()
     addVerify();
     addRead();
     addWall();
+    addShow();
 }
 
 ExitCode CommandLine::run(int argc, const char* const* argv)
@@ -160,6 +161,7 @@ void CommandLine::addRender()
                      "The picture, .png, .jpg or .bmp; - for PNG on the standard output")
         ->type_name("FILE")
         ->required();
+    addShowOutput(command);
     addChanges(command);
     addLanguage(command);
     addEncoding(command);
@@ -227,6 +229,7 @@ void CommandLine::addVerify()
     command->add_option("-d,--diff", m_arguments.difference, "Write a picture of the differences")
         ->type_name("FILE")
         ->check(problemOfPath);
+    addShowOutput(command);
     addChanges(command);
     addLanguage(command);
 }
@@ -298,6 +301,47 @@ void CommandLine::addWall()
         ->check(CLI::Range(1, 7))
         ->capture_default_str();
     addWallCables(command);
+}
+
+void CommandLine::addShow()
+{
+    ShowArguments& show = m_arguments.show;
+    CLI::App* command = addCommand(
+        "show", "Put walls on the outputs of a processor, and pack a show into one file", &runShow);
+    command
+        ->add_option("action", show.action,
+                     "What to do: make a new show of WALLs, pack a SHOW, or unpack a PACK")
+        ->type_name("ACTION")
+        ->check(CLI::IsMember({"new", "pack", "unpack"}))
+        ->required();
+    command->add_option("file", show.files, "The walls of a new show, or the show, or the pack")
+        ->type_name("FILE")
+        ->check(problemOfPath)
+        ->required();
+    command
+        ->add_option("-o,--output", m_arguments.output,
+                     "The show or the pack that is written, or the new folder of what is unpacked")
+        ->type_name("FILE")
+        ->check(problemOfPath)
+        ->required();
+    command->add_option("-n,--name", m_arguments.wall.name, "What the show is called")->type_name("NAME");
+    command
+        ->add_option("--on", show.outputs,
+                     "An output, such as 3840x2160 or Left=3840x2160@50; repeatable, and the last one as "
+                     "often as it takes")
+        ->type_name("OUTPUT")
+        ->allow_extra_args(false);
+    CLI::Option* pack = command->add_flag(
+        "--auto-pack", show.autoPack,
+        "Put the walls on few outputs with little waste, and cut those that are larger than an output");
+    command->add_flag("--turn", show.mayTurn, "Walls may be turned for that")->needs(pack);
+}
+
+void CommandLine::addShowOutput(CLI::App* command)
+{
+    command->add_option("--of", m_arguments.showOutput, "Of a show, the output that is meant")
+        ->type_name("OUTPUT")
+        ->check(problemOfPath);
 }
 
 void CommandLine::addWallCables(CLI::App* command)

@@ -29,6 +29,8 @@ private:
     void addVerify();
     void addRead();
     void addWall();
+    void addShow();
+    void addShowOutput(CLI::App* command);
     void addWallCables(CLI::App* command);
     void addChanges(CLI::App* command);
     void addReport(CLI::App* command);

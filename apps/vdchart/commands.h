@@ -12,5 +12,6 @@ ExitCode runCheck(const Arguments& arguments);
 ExitCode runRender(const Arguments& arguments);
 ExitCode runBatch(const Arguments& arguments);
 ExitCode runWall(const Arguments& arguments);
+ExitCode runShow(const Arguments& arguments);
 ExitCode runVerify(const Arguments& arguments);
 ExitCode runRead(const Arguments& arguments);

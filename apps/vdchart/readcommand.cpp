@@ -92,7 +92,7 @@ ExitCode runRead(const Arguments& arguments)
         pictures.push_back(readPicture(QString::fromStdString(picture), pixelLimit));
     const QString first = QString::fromStdString(inputs.pictures.front());
     const Wanted wanted = wantedChart(pictures.front(), first, inputs.record, arguments);
-    if (wanted.chart.wall)
+    if (wanted.chart.wall || wanted.chart.show)
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: a wall of cabinets; photographs are read by records only")
                           .arg(inputName(QString::fromStdString(inputs.record)))};

@@ -15,8 +15,21 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
+/// All that its picture is made of, the pictures of logos by their hashes.
+QByteArray documentOfShow(const ChartInput& chart)
+{
+    QByteArray document =
+        vardeno::walls::ShowFile::toJson(chart.show->show) + QByteArray::number(chart.output);
+    for (const auto& wall : chart.show->walls)
+        document += vardeno::walls::WallFile::toJson(wall.wall) + ChartRecordFile::toJson(wall.record) +
+                    fileHash(QString::fromStdString(wall.record.logoData.picturePath));
+    return document;
+}
+
 QByteArray documentOf(const ChartInput& chart)
 {
+    if (chart.show)
+        return documentOfShow(chart);
     const QByteArray record = ChartRecordFile::toJson(chart.record);
     return chart.wall ? record + vardeno::walls::WallFile::toJson(*chart.wall) : record;
 }

@@ -169,9 +169,7 @@ ExitCode runVerify(const Arguments& arguments)
     claims.protect(difference);
     const QImage picture = readPicture(path, pixelLimit);
     const Wanted wanted = wantedChart(picture, path, arguments.record, arguments);
-    claims.readsLogo(wanted.chart.record.logoData);
-    if (!wanted.chart.recordFile.isEmpty())
-        claims.reads(wanted.chart.recordFile, QStringLiteral("the record of the chart"));
+    claimFiles(claims, wanted.chart, QStringLiteral("the record of the chart"));
     claims.protect(difference);
     const QImage expected = ChartRenderer(wanted.language).render(wanted.chart);
     ChartCabinetGrid grid(wanted.chart);

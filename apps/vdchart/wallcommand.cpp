@@ -155,7 +155,8 @@ ExitCode report(const Arguments& arguments)
     const ChartInput chart = requireChart(source, {});
     if (!chart.wall)
         throw Failure{ExitCode::Unreadable,
-                      QStringLiteral("%1: a record, not a wall").arg(inputName(source))};
+                      QStringLiteral("%1: a %2, not a wall")
+                          .arg(inputName(source), QLatin1String(chart.show ? "show" : "record"))};
     FileClaims claims;
     claims.reads(source, QStringLiteral("the wall of the report"));
     claims.reads(chart.recordFile, QStringLiteral("the record of the wall"));

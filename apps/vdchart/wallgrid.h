@@ -8,7 +8,8 @@
 #include <QJsonArray>
 #include <QStringList>
 
-/// The cabinets of a chart as a comparison tells of them, and the cables that they hang on.
+/// The cabinets of a chart as a comparison tells of them, and the cables that they hang on. Those of a show's
+/// output are called by their wall, too: "Left C4".
 class ChartCabinetGrid
 {
 public:
@@ -25,17 +26,40 @@ public:
     QJsonArray json() const;
 
 private:
+    /// A wall of the picture.
+    struct SeenWall
+    {
+        const vardeno::walls::WallDocument& document;
+        QString name; ///< empty for the only one
+        vardeno::walls::CabinetPlan plan;
+        std::vector<QString> names; ///< of its cabinets
+        std::vector<bool> seen;     ///< which of them the picture shows
+        std::vector<bool> bad;
+    };
+    struct SeenCabinet
+    {
+        std::size_t wall;
+        std::size_t cabinet;
+    };
     struct PulledCable
     {
+        QString wall;
         bool isData;
         int number; ///< of its port or circuit, from 1
         QString from;
         int cabinets;
         bool isWhole;
     };
-    void noteCables(const vardeno::walls::CabinetPlan& plan, const std::vector<bool>& bad, bool isData);
+    void addWall(const vardeno::walls::WallDocument& wall,
+                 const vardeno::testcharttools::TestChartToolsData& record, const QString& name);
+    void addCabinet(std::size_t wall, std::size_t cabinet, const QRect& rect);
+    void addShow(const ShowInput& show, int output);
+    void placeCabinets(std::vector<ChartComparison::CabinetPlace>& cabinets) const;
+    void placeFinding(ChartComparison::Finding& finding) const;
+    void noteCables(const SeenWall& wall, bool isData);
 
-    const ChartInput& m_chart;
     ChartComparison::CabinetGrid m_grid;
+    std::vector<SeenWall> m_walls;
+    std::vector<SeenCabinet> m_seen; ///< one for each cabinet of the grid; none for a record
     std::vector<PulledCable> m_pulled;
 };

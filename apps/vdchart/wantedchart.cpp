@@ -65,6 +65,7 @@ Wanted wantedChart(const QImage& picture, const QString& path, const std::string
 {
     if (record.empty())
         return wantedFrom(picture, path, arguments);
-    return {requireChart(QString::fromStdString(record), arguments.changes),
+    const QString source = QString::fromStdString(record);
+    return {chosenPicture(requireChart(source, arguments.changes), arguments.showOutput, source),
             QString::fromStdString(arguments.language)};
 }
