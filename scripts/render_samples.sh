@@ -20,6 +20,9 @@ sample() {
 }
 
 $vdchart render examples/walls/stage.wall.json --compression 9 -o $folder/wall.png
+for show in festival:LED1 sides:'Both sides' belt:Center; do
+  $vdchart render "examples/shows/${show%%:*}.show.json" --of "${show#*:}" --compression 9 -o "$folder/show-${show%%:*}.png"
+done
 sample default 640x360 10x6
 sample numbering 640x360 10x5 --preset numbering-bottom-left --set inLineData.serialSize=22 \
   --set publicData.showOutBorder=true --set 'publicData.outBorderColor=[255,64,64,255]'
