@@ -73,6 +73,11 @@ void prepareTestApplication()
     QApplication::setFont(font);
 }
 
+int rounds(int all)
+{
+    return VD_ALL_ROUNDS || qEnvironmentVariableIsSet("VD_ALL_ROUNDS") ? all : all / 10;
+}
+
 QString sourcePath(const char* path)
 {
     return QStringLiteral(VD_SOURCE_DIR "/") + QLatin1String(path);

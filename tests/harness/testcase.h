@@ -50,6 +50,10 @@ void prepareTestApplication();
 QString sourcePath(const char* path);
 QString programPath(const char* name);
 
+/// How often a test of random input goes round: `all` times with sanitizers, which are what finds the most in
+/// it, and wherever VD_ALL_ROUNDS is set in the environment; otherwise a tenth.
+int rounds(int all);
+
 /// Makes `Class` known to the main function of its test program, which runs the test case that its first
 /// argument names ("tst_ink", after the file), or all of them.
 #define VD_TEST_MAIN(Class)                                                                                  \

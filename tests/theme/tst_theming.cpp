@@ -319,7 +319,7 @@ private Q_SLOTS:
                    : key == QLatin1String("TspSurface01") ? QStringLiteral("#80ff0000")
                                                           : QString();
         };
-        for (int i = 0; i < 100000; ++i) {
+        for (int i = 0; i < rounds(100000); ++i) {
             const QString sheet = randomSheet(random);
             const QString colored = Theming::replaceCssColors(sheet);
             const QString expected =
@@ -353,7 +353,7 @@ private Q_SLOTS:
                                             "[",         "]",
                                             "/",         "a/b",
                                             "QRect("};
-        for (int i = 0; i < 1500; ++i) {
+        for (int i = 0; i < rounds(1500); ++i) {
             QFile file(folder.filePath(QStringLiteral("fuzz%1.testcharttoolstheme").arg(i)));
             QVERIFY(file.open(QIODevice::WriteOnly));
             for (int left = random.bounded(60); left > 0; --left)
