@@ -2,7 +2,8 @@
 # Builds the project and runs every functional test once. With --sanitizers also: the tests under AddressSanitizer and
 # UndefinedBehaviorSanitizer, each fuzz target for half a minute, and the reading of photographs, which needs OpenCV.
 # With --all also: everything with Qt 6, an optimised build with the benchmarks (which scripts/bench.sh runs), the Debian
-# packages, hosts with the sources in their tree, and clang-tidy over the libraries and programs.
+# packages, hosts with the sources in their tree, the reference of the headers, and clang-tidy over the libraries and
+# programs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -71,6 +72,8 @@ if [ -n "$all" ]; then
   scripts/package.sh
   step 'Hosts'
   ctest --preset dev -C Thorough -R '^hosts$'
+  step 'Reference'
+  scripts/reference.sh
   step 'clang-tidy'
   scripts/lint.sh
 fi
