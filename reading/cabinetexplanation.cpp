@@ -267,6 +267,51 @@ bool goesOn(const Evidence& evidence, std::size_t beside, std::size_t plain)
     return compared > 0.2 * strip.area() && alike > Thresholds::mostAlikeBeside * compared;
 }
 
+namespace {
+
+/// The cabinet's picture moved, with the wall's black where it has left.
+cv::Mat movedOnBlack(const Evidence& evidence, const cv::Mat& expected, const cv::Point& by)
+{
+    const Overlap overlap = overlapOf(expected.size(), by);
+    cv::Mat moved(expected.size(), CV_32FC3, cv::Scalar(evidence.light.black));
+    expected(overlap.expected).copyTo(moved(overlap.seen));
+    return moved;
+}
+
+/// By the black that a shift leaves behind: a picture with little in it shows little else. The moves within
+/// `reach` of the best so far, `step` apart.
+void improveOnBlack(const Evidence& evidence, std::size_t cabinet, int reach, int step, Explanation& best)
+{
+    const cv::Mat expected = evidence.expectedAt(cabinet);
+    const cv::Point middle(cvRound(best.shift.x), cvRound(best.shift.y));
+    for (int y = -reach; y <= reach; y += step) {
+        for (int x = -reach; x <= reach; x += step) {
+            const cv::Point by = middle + cv::Point(x, y);
+            const cv::Mat moved = movedOnBlack(evidence, expected, by);
+            const double cost = costOf(evidence, evidence.rects[cabinet], moved);
+            if (cost < best.cost) {
+                best.cost = cost;
+                best.shift = by;
+                best.expected = moved;
+            }
+        }
+    }
+}
+
+} // namespace
+
+std::optional<Explanation> shiftOnBlack(const Evidence& evidence, std::size_t cabinet)
+{
+    const cv::Size size = evidence.rects[cabinet].size();
+    const int reach = int(Thresholds::mostShift * std::min(size.width, size.height));
+    Explanation best;
+    best.kind = Kind::Shifted;
+    for (int step = std::max(1, reach / 6), around = reach; step >= 1; around = step, step /= 2)
+        improveOnBlack(evidence, cabinet, around, step, best);
+    best.shift *= 1 / evidence.scale;
+    return cv::norm(best.shift) < Thresholds::leastShift ? std::nullopt : std::optional<Explanation>(best);
+}
+
 std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet)
 {
     const cv::Mat seen = evidence.seenAt(cabinet);

@@ -36,4 +36,7 @@ bool goesOn(const Evidence& evidence, std::size_t beside, std::size_t plain);
 /// The cabinet's own picture moved within the cabinet.
 std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet);
 
+/// The same, with black where it has moved from, and judged by all of the cabinet.
+std::optional<Explanation> shiftOnBlack(const Evidence& evidence, std::size_t cabinet);
+
 } // namespace WallReading

@@ -122,14 +122,19 @@ private:
             for (auto i = std::size_t(range.start); i < std::size_t(range.end); ++i) {
                 if (m_explanations[i].empty() || usual(m_explanations[i].front().cost) <= explainedCost)
                     continue;
-                m_shifts[i] = shiftOf(m_evidence, i);
-                if (m_shifts[i] && usual(m_shifts[i]->cost) >= explainedCost)
-                    m_shifts[i].reset();
+                m_shifts[i] = explainedOnly(shiftOf(m_evidence, i));
+                if (!m_shifts[i] && !isExplained(i) && m_blocks.share(i) > leastMovedBlocks)
+                    m_shifts[i] = explainedOnly(shiftOnBlack(m_evidence, i));
             }
         });
     }
 
     double usual(double cost) const { return cost / m_usual; }
+
+    std::optional<Explanation> explainedOnly(const std::optional<Explanation>& explanation) const
+    {
+        return explanation && usual(explanation->cost) < explainedCost ? explanation : std::nullopt;
+    }
 
     /// The logarithm of how much likelier `a` is than `b`, both of the same cabinet.
     double lead(std::size_t cabinet, const Explanation& a, const Explanation& b) const
@@ -161,14 +166,32 @@ private:
             return;
         }
         const Explanation& own = all.front();
-        const auto best =
-            std::min_element(all.begin(), all.end(),
-                             [](const Explanation& a, const Explanation& b) { return a.cost < b.cost; });
-        if (!best->isRight && usual(best->cost) < explainedCost && isCertain(cabinet, *best) &&
-            !m_covered[cabinet])
-            accuse(cabinet, *best);
+        const Explanation& best = mildest(cabinet);
+        if (!best.isRight && usual(best.cost) < explainedCost && usual(own.cost) > surelyRightCost &&
+            isCertain(cabinet, best) && !m_covered[cabinet])
+            accuse(cabinet, best);
         else if (usual(own.cost) > explainedCost)
             sayUnexplained(cabinet);
+    }
+
+    /// What costs least; of a cabinet that has become one colour a lesser brightness, if that fits as well:
+    /// of a picture that is nearly one colour little else tells them apart.
+    const Explanation& mildest(std::size_t cabinet) const
+    {
+        const Explanation& best = bestOf(cabinet);
+        if (best.kind != Kind::Flat && best.kind != Kind::Dark)
+            return best;
+        for (const Explanation& other : m_explanations[cabinet]) {
+            if (isDimmed(other) && usual(other.cost) < explainedCost)
+                return other;
+        }
+        return best;
+    }
+
+    bool isDimmed(const Explanation& explanation) const
+    {
+        return explanation.kind == Kind::Brightness && explanation.factor > leastBrightness &&
+               !isWithinUsual(explanation);
     }
 
     /// Whether it beats the cabinet's own picture and all else that says something different.
@@ -182,7 +205,8 @@ private:
         if (leaning.along < leastLeaning || leaning.rest > mostRest)
             return false;
         return std::all_of(all.begin(), all.end(), [&](const Explanation& other) {
-            return isSame(best, other) || lead(cabinet, best, other) > leadOverNext;
+            const bool isMilder = isDimmed(best) && (other.kind == Kind::Flat || other.kind == Kind::Dark);
+            return isSame(best, other) || isMilder || lead(cabinet, best, other) > leadOverNext;
         });
     }
 
@@ -307,15 +331,27 @@ private:
         add(finding);
     }
 
+    /// Whether one colour, or another brightness, explains most of it.
+    bool isNearlyPlain(std::size_t cabinet) const
+    {
+        const std::vector<Explanation>& all = m_explanations[cabinet];
+        return std::any_of(all.begin(), all.end(), [this](const Explanation& explanation) {
+            return (explanation.kind == Kind::Dark || explanation.kind == Kind::Flat ||
+                    explanation.kind == Kind::Brightness) &&
+                   usual(explanation.cost) < nearlyPlainCost;
+        });
+    }
+
     void sayUnexplained(std::size_t cabinet)
     {
         const Explanation& own = m_explanations[cabinet].front();
-        if (m_shifts[cabinet]) {
+        const double share = m_blocks.share(cabinet);
+        if (m_shifts[cabinet] && usual(own.cost) > leastMovedCost && share > leastMovedBlocks) {
             accuse(cabinet, *m_shifts[cabinet]);
             return;
         }
-        const double share = m_blocks.share(cabinet);
-        const bool isAllWrong = share >= nearlyAllBlocks && usual(own.cost) > surelyWrongCost;
+        const bool isAllWrong =
+            share >= nearlyAllBlocks && usual(own.cost) > surelyWrongCost && !isNearlyPlain(cabinet);
         if (isAllWrong && !m_covered[cabinet])
             add(findingAt(cabinet, Kind::Other, 0.9));
         else if (share > fewBlocks)

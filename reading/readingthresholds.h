@@ -54,6 +54,20 @@ constexpr double mostRest = 0.4;
 /// Of white: a cabinet that is brighter in any channel is not dark.
 constexpr float mostDark = 0.34F;
 
+/// What costs less than this is right, whatever else fits still better.
+constexpr double surelyRightCost = 0.5;
+
+/// A cabinet shows something else only where one colour or another brightness cost more: what comes near to
+/// them is a lamp, somebody before the wall, or a flat cabinet with a reflection.
+constexpr double nearlyPlainCost = 10;
+
+/// A cabinet that has moved costs more in its place, and more of its blocks are wrong.
+constexpr double leastMovedCost = 5;
+constexpr double leastMovedBlocks = 0.2;
+
+/// Where one colour fits, a brightness from here on that fits as well is told: it is the smaller fault.
+constexpr double leastBrightness = 0.3;
+
 /// Brightness in values of the picture: less than this change is the camera's.
 constexpr double leastDimming = 0.18;
 

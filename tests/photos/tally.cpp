@@ -151,7 +151,8 @@ Result judged(const Wall& wall, const Photo& photo, double angle, const WallRead
          << photo.scale;
     if (!result.isLocated)
         std::cout << name.str() << ": NOT LOCATED" << (reading.isLocated ? " but elsewhere" : "") << ' '
-                  << reading.score << '\n';
+                  << reading.score << " off by " << result.cornerError << " doubt " << int(reading.doubt)
+                  << '\n';
     else
         std::cout << name.str() << ": ok " << result.cornerError << " score " << reading.score << ' '
                   << reading.seconds << " s doubt " << int(reading.doubt) << '\n';

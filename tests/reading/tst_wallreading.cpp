@@ -128,6 +128,45 @@ private Q_SLOTS:
                            reading.corners[2].y() - scaled.height()) < 1.5);
     }
 
+    /// Walls that were misread: what is said of the cabinet, or that nothing is.
+    void onceMisread_data()
+    {
+        QTest::addColumn<int>("seed");
+        QTest::addColumn<bool>("isCapture");
+        QTest::addColumn<QString>("cabinet");
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("a bar at half brightness is no other colour") << 14 << true << "5/6"
+                                                                     << "brightness";
+        QTest::newRow("a bar that moved leaves black") << 26 << true << "0/6"
+                                                       << "shifted";
+        QTest::newRow("a shoulder is nothing else that is shown") << 49 << false << "3/0" << QString();
+        QTest::newRow("labels alike from the side are not swapped") << 59 << false << "0/8" << QString();
+    }
+
+    void onceMisread()
+    {
+        QFETCH(int, seed);
+        QFETCH(bool, isCapture);
+        QFETCH(QString, cabinet);
+        QFETCH(QString, kind);
+        Photos::Random random{unsigned(seed)};
+        const auto& kinds = Photos::chartKinds();
+        const int faults = Photos::wholeBetween(random, 0, 6);
+        const Photos::Wall wall =
+            Photos::simulatedWall(kinds[std::size_t(seed) % kinds.size()], faults, random);
+        QImage picture;
+        if (isCapture) {
+            picture = Photos::captured(wall, Photos::randomCapture(random)).picture;
+        } else {
+            const Photos::Shot shot = Photos::randomShot(random, 0, 45);
+            picture = Photos::photograph(wall, shot, random).picture;
+        }
+        const Reading reading = read(picture, {wall.chart, wall.cabinets});
+        QVERIFY(reading.isLocated);
+        const QStringList said = accused(reading).filter(QLatin1Char(' ') + cabinet);
+        QCOMPARE(said, kind.isEmpty() ? QStringList() : QStringList(kind + QLatin1Char(' ') + cabinet));
+    }
+
     void saysBetweenWhichCabinetsAndByHowMuch()
     {
         const QImage shown =
