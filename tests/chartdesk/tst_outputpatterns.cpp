@@ -104,6 +104,39 @@ private Q_SLOTS:
         }
     }
 
+    /// Columns and rows of which the last are smaller, and odd ones: each pixel is one cabinet's.
+    void unevenCabinetsAreWalkedWhole_data()
+    {
+        QTest::addColumn<QSize>("chart");
+        QTest::addColumn<QSize>("grid");
+        QTest::newRow("a remainder of columns") << QSize(1003, 540) << QSize(16, 9);
+        QTest::newRow("a remainder of rows") << QSize(960, 547) << QSize(16, 9);
+        QTest::newRow("of both") << QSize(1001, 703) << QSize(7, 11);
+        QTest::newRow("fewer than two pixels each") << QSize(101, 67) << QSize(100, 60);
+    }
+
+    void unevenCabinetsAreWalkedWhole()
+    {
+        QFETCH(QSize, chart);
+        QFETCH(QSize, grid);
+        TestChartToolsData record = wall(grid.height(), grid.width());
+        record.publicData.resolutionWidth = chart.width();
+        record.publicData.resolutionHeight = chart.height();
+        for (const CabinetLook look : {CabinetLook::Alone, CabinetLook::Row, CabinetLook::Column}) {
+            const CabinetPattern pattern(record, look);
+            QRegion walked;
+            int pixels = 0;
+            for (int step = 0; step < pattern.steps(); ++step) {
+                const QRegion place = pattern.chartPart(step, QRect(QPoint(), chart));
+                QVERIFY(!place.isEmpty());
+                pixels += place.boundingRect().width() * place.boundingRect().height();
+                walked += place;
+            }
+            QCOMPARE(walked, QRegion(QRect(QPoint(), chart)));
+            QCOMPARE(pixels, chart.width() * chart.height());
+        }
+    }
+
     void aHighlightedCabinet()
     {
         const CabinetPattern pattern(wall(), CabinetLook::Highlight);

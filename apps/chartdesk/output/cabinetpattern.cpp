@@ -14,6 +14,19 @@ namespace {
 
 constexpr QColor highlightTint(255, 220, 0, 150);
 
+/// Up to the next cabinet, or the edge of the chart: where cabinets do not divide it, what the library tells
+/// of them is cut to whole pixels, and some would be no cabinet's.
+QRect wholeCabinet(const TestChartToolsData& record, int row, int column)
+{
+    const auto& wall = record.publicData;
+    const QPoint begin = ChartCabinets::rect(record, row, column).topLeft();
+    const QPoint below = ChartCabinets::rect(record, row + 1, column).topLeft();
+    const QPoint beside = ChartCabinets::rect(record, row, column + 1).topLeft();
+    const int right = column + 1 < wall.boxCol ? beside.x() : wall.resolutionWidth;
+    const int bottom = row + 1 < wall.boxRow ? below.y() : wall.resolutionHeight;
+    return {begin, QPoint(right - 1, bottom - 1)};
+}
+
 /// A frame of `width` pixels, within `place`, sharp to the pixel.
 void drawFrame(QPainter& painter, const QRect& place, int width, const QColor& color)
 {
@@ -39,7 +52,7 @@ void CabinetPattern::addCabinets(const TestChartToolsData& record, const WalkPat
     const auto& wall = record.publicData;
     for (const CabinetPlace& cabinet :
          walkOrder(wall.boxRow, wall.boxCol, record.inLineData.serialSort, path))
-        m_steps.push_back({ChartCabinets::rect(record, cabinet.row, cabinet.column),
+        m_steps.push_back({wholeCabinet(record, cabinet.row, cabinet.column),
                            ChartCabinets::label(record, cabinet.row, cabinet.column)});
 }
 
@@ -47,8 +60,7 @@ void CabinetPattern::addRows(const TestChartToolsData& record)
 {
     const auto& wall = record.publicData;
     for (const int row : lineOrder(wall.boxRow, countsFromBottom(record.inLineData.serialSort))) {
-        const QRect place =
-            ChartCabinets::rect(record, row, 0) | ChartCabinets::rect(record, row, wall.boxCol - 1);
+        const QRect place = wholeCabinet(record, row, 0) | wholeCabinet(record, row, wall.boxCol - 1);
         m_steps.push_back({place, ChartCabinets::label(record, row, 0).section(QLatin1Char('-'), 0, 0)});
     }
 }
@@ -57,8 +69,7 @@ void CabinetPattern::addColumns(const TestChartToolsData& record)
 {
     const auto& wall = record.publicData;
     for (const int column : lineOrder(wall.boxCol, countsFromRight(record.inLineData.serialSort))) {
-        const QRect place =
-            ChartCabinets::rect(record, 0, column) | ChartCabinets::rect(record, wall.boxRow - 1, column);
+        const QRect place = wholeCabinet(record, 0, column) | wholeCabinet(record, wall.boxRow - 1, column);
         m_steps.push_back({place, ChartCabinets::label(record, 0, column).section(QLatin1Char('-'), 1)});
     }
 }
