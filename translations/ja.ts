@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>Charts</source>
-        <translation>テストパターン</translation>
+        <translation>パターン一覧</translation>
     </message>
     <message>
         <source>Choose the folder of the charts</source>

@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>Charts</source>
-        <translation>测试图</translation>
+        <translation>测试图库</translation>
     </message>
     <message>
         <source>Choose the folder of the charts</source>

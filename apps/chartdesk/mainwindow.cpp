@@ -2,6 +2,7 @@
 
 #include "chartlist.h"
 #include "chartviewer.h"
+#include "deskdialogs.h"
 #include "desklanguage.h"
 #include "desklibrary.h"
 #include "deskoutput.h"
@@ -285,10 +286,10 @@ void MainWindow::setFolder(const QString& folder)
 
 void MainWindow::chooseFolder()
 {
-    const QString folder = QFileDialog::getExistingDirectory(
+    QFileDialog* dialog = DeskDialogs::folderDialog(
         this, hostText(QStringLiteral("Choose the folder of the charts")), m_folder);
-    if (!folder.isEmpty())
-        openFolder(folder);
+    connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::openFolder);
+    dialog->open();
 }
 
 void MainWindow::openFolder(const QString& folder)

@@ -1,5 +1,6 @@
 #include "savequestions.h"
 
+#include "deskdialogs.h"
 #include "editsession.h"
 #include "hosttext.h"
 #include "messagebox.h"
@@ -55,8 +56,8 @@ void SaveQuestions::saveFailed(const QString& imagePath, const QString& reason)
 
 void SaveQuestions::saveElsewhere()
 {
-    const QString folder = QFileDialog::getExistingDirectory(
+    QFileDialog* dialog = DeskDialogs::folderDialog(
         m_window, hostText(QStringLiteral("Choose the folder of the charts")), QDir::homePath());
-    if (!folder.isEmpty())
-        m_session->retry(folder);
+    connect(dialog, &QFileDialog::fileSelected, m_session, &EditSession::retry);
+    dialog->open();
 }

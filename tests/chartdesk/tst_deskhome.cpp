@@ -8,6 +8,7 @@
 #include "nametips.h"
 #include "newfromdialog.h"
 #include "recentfolders.h"
+#include "shortcomings.h"
 #include "showdialog.h"
 #include "testcase.h"
 
@@ -27,6 +28,7 @@
 #include <QTreeWidgetItemIterator>
 
 using namespace deskwindow;
+using namespace shortcomings;
 
 /// What makes the desk a program that one keeps: keys, help, memory, names for everything.
 class TestDeskHome : public TestCase
@@ -36,61 +38,6 @@ class TestDeskHome : public TestCase
 private:
     QScopedPointer<QTemporaryDir> m_folder;
     QScopedPointer<MainWindow> m_window;
-
-    static bool takesInput(const QWidget* widget)
-    {
-        return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
-               qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
-               qobject_cast<const QAbstractItemView*>(widget) || qobject_cast<const QAbstractSlider*>(widget);
-    }
-
-    /// Parts of other controls have no name of their own.
-    static bool isPart(const QWidget* widget)
-    {
-        const QWidget* parent = widget->parentWidget();
-        return !parent || qobject_cast<const QComboBox*>(parent) ||
-               qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QLineEdit*>(parent) ||
-               qobject_cast<const QScrollBar*>(widget) || widget->inherits("QHeaderView") ||
-               widget->inherits("QToolBarExtension") || widget->inherits("QMenuBarExtension") ||
-               parent->inherits("QHeaderView") ||
-               widget->objectName() == QLatin1String("qt_menubar_ext_button") ||
-               widget->objectName() == QLatin1String("qt_toolbar_ext_button");
-    }
-
-    /// The one of its own, or what the desk makes of its name.
-    static QString tipOf(QWidget* widget)
-    {
-        if (!widget->toolTip().isEmpty())
-            return widget->toolTip();
-        QHelpEvent asked(QEvent::ToolTip, widget->rect().center(),
-                         widget->mapToGlobal(widget->rect().center()));
-        QCoreApplication::sendEvent(widget, &asked);
-        return QToolTip::text() == controlName(widget) ? QToolTip::text() : QString();
-    }
-
-    static QString described(const QWidget* widget)
-    {
-        return QStringLiteral("%1 \"%2\" in \"%3\"")
-            .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(),
-                 widget->parentWidget()->objectName());
-    }
-
-    /// What of the window nobody can reach or name.
-    static QStringList shortcomings(const QWidget& window)
-    {
-        QStringList found;
-        for (QWidget* widget : window.findChildren<QWidget*>()) {
-            if (!takesInput(widget) || isPart(widget) || !widget->isVisible() || !widget->isEnabled())
-                continue;
-            if (controlName(widget).isEmpty())
-                found.append(described(widget) + QStringLiteral(" has no name"));
-            if (tipOf(widget).isEmpty())
-                found.append(described(widget) + QStringLiteral(" has no tool tip"));
-            if (!(widget->focusPolicy() & Qt::TabFocus))
-                found.append(described(widget) + QStringLiteral(" cannot be reached by Tab"));
-        }
-        return found;
-    }
 
     template <typename Widget>
     Widget* shown(const char* name) const
@@ -125,16 +72,16 @@ private Q_SLOTS:
         QVERIFY(settle(*m_window));
         QVERIFY(click(*m_window->editor(), QStringLiteral("Confirm")));
         QTRY_VERIFY_WITH_TIMEOUT(isListShown(*m_window), 30000);
-        QVERIFY2(shortcomings(*m_window).isEmpty(),
-                 qPrintable(shortcomings(*m_window).join(QLatin1Char('\n'))));
+        QVERIFY2(shortcomingsOf(*m_window).isEmpty(),
+                 qPrintable(shortcomingsOf(*m_window).join(QLatin1Char('\n'))));
     }
 
     void everyControlOfTheEditorHasAName()
     {
         QVERIFY(trigger(*m_window, QStringLiteral("New chart")));
         QVERIFY(settle(*m_window));
-        QVERIFY2(shortcomings(*m_window).isEmpty(),
-                 qPrintable(shortcomings(*m_window).join(QLatin1Char('\n'))));
+        QVERIFY2(shortcomingsOf(*m_window).isEmpty(),
+                 qPrintable(shortcomingsOf(*m_window).join(QLatin1Char('\n'))));
         m_window->session()->end();
     }
 
@@ -145,7 +92,7 @@ private Q_SLOTS:
         for (QDialog* dialog : {static_cast<QDialog*>(&show), static_cast<QDialog*>(&presets)}) {
             dialog->setAttribute(Qt::WA_DeleteOnClose, false);
             dialog->show();
-            QCOMPARE(shortcomings(*dialog).join(QLatin1Char('\n')), QString());
+            QCOMPARE(shortcomingsOf(*dialog).join(QLatin1Char('\n')), QString());
         }
     }
 
@@ -181,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(keys.value(QStringLiteral("Black")), QStringLiteral("B"));
         QCOMPARE(keys.value(QStringLiteral("Show on…")), QStringLiteral("F11"));
         QCOMPARE(keys.value(QStringLiteral("Leave the output")), QStringLiteral("Esc"));
-        QCOMPARE(shortcomings(*tree->window()).join(QLatin1Char('\n')), QString());
+        QCOMPARE(shortcomingsOf(*tree->window()).join(QLatin1Char('\n')), QString());
     }
 
     /// They are named as the keyboards of the language have them.

@@ -1,5 +1,6 @@
 #include "manualwindow.h"
 
+#include "deskdialogs.h"
 #include "hosttext.h"
 
 #include <QDialogButtonBox>
@@ -29,5 +30,5 @@ ManualWindow::ManualWindow(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(text);
     layout->addWidget(buttons);
-    resize(900, 700);
+    DeskDialogs::resizeWithinScreen(this, QSize(900, 700));
 }

@@ -1,5 +1,6 @@
 #include "shortcutsheet.h"
 
+#include "deskdialogs.h"
 #include "hosttext.h"
 
 #include <QDialogButtonBox>
@@ -72,5 +73,5 @@ ShortcutSheet::ShortcutSheet(const QMenuBar* menus, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tree);
     layout->addWidget(buttons);
-    resize(520, 640);
+    DeskDialogs::resizeWithinScreen(this, QSize(520, 640));
 }

@@ -2,6 +2,7 @@
 
 #include "chartlist.h"
 #include "charttags.h"
+#include "deskdialogs.h"
 #include "hosttext.h"
 #include "newfromdialog.h"
 #include "undobar.h"
@@ -21,19 +22,6 @@ using namespace vardeno::testcharttools;
 namespace {
 
 constexpr const char* librarySource = "sourceText";
-
-/// Asks for a line of text without stopping the desk.
-QInputDialog* ask(QWidget* parent, const QString& title, const QString& label, const QString& text)
-{
-    auto* dialog = new QInputDialog(parent);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(title);
-    dialog->setLabelText(label);
-    dialog->setTextValue(text);
-    dialog->resize(420, dialog->height());
-    dialog->open();
-    return dialog;
-}
 
 } // namespace
 
@@ -111,10 +99,12 @@ void DeskLibrary::duplicate()
 void DeskLibrary::askName()
 {
     const QString image = m_list->selectedChart();
-    auto* dialog = ask(m_window, hostTitle(QStringLiteral("Rename…")), hostText(QStringLiteral("Name:")),
-                       QFileInfo(image).completeBaseName());
+    auto* dialog =
+        DeskDialogs::textDialog(m_window, hostTitle(QStringLiteral("Rename…")),
+                                hostText(QStringLiteral("Name:")), QFileInfo(image).completeBaseName());
     connect(dialog, &QInputDialog::textValueSelected, this,
             [this, image](const QString& name) { done(ChartShelf::rename(image, name.trimmed())); });
+    dialog->open();
 }
 
 void DeskLibrary::remove()
@@ -136,20 +126,20 @@ void DeskLibrary::remove()
 void DeskLibrary::askTags()
 {
     const QString image = m_list->selectedChart();
-    auto* dialog = ask(m_window, hostTitle(QStringLiteral("Tags…")),
-                       hostText(QStringLiteral("Tags, with commas between:")),
-                       ChartTags::of(image).join(QStringLiteral(", ")));
+    auto* dialog = DeskDialogs::textDialog(m_window, hostTitle(QStringLiteral("Tags…")),
+                                           hostText(QStringLiteral("Tags, with commas between:")),
+                                           ChartTags::of(image).join(QStringLiteral(", ")));
     connect(dialog, &QInputDialog::textValueSelected, this, [this, image](const QString& text) {
         done({image, ChartTags::set(image, ChartTags::fromText(text))});
     });
+    dialog->open();
 }
 
 void DeskLibrary::askTarget()
 {
     const QString image = m_list->selectedChart();
-    auto* dialog = new QFileDialog(m_window, hostTitle(QStringLiteral("Export…")), QFileInfo(image).path());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    QFileDialog* dialog =
+        DeskDialogs::saveDialog(m_window, hostTitle(QStringLiteral("Export…")), QFileInfo(image).path());
     dialog->setNameFilters({QStringLiteral("PNG (*.png)"), QStringLiteral("JPEG (*.jpg)"),
                             QStringLiteral("BMP (*.bmp)"), QStringLiteral("JSON (*.json)")});
     dialog->setDefaultSuffix(QStringLiteral("png"));

@@ -1,5 +1,6 @@
 #include "newfromdialog.h"
 
+#include "deskdialogs.h"
 #include "hosttext.h"
 #include "newchart.h"
 #include "presets.h"
@@ -128,9 +129,12 @@ void NewFromDialog::createLayout()
     m_pictures->setResizeMode(QListView::Adjust);
     m_pictures->setIconSize(presetPictureSize);
     m_pictures->setGridSize(presetPictureSize + QSize(20, 16 + fontMetrics().height()));
-    m_pictures->setMinimumSize(4 * m_pictures->gridSize().width() + 40, 3 * m_pictures->gridSize().height());
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    const QSize cell = m_pictures->gridSize();
+    m_pictures->setMinimumSize(cell.width() + 40, cell.height());
+    auto* buttons = new QDialogButtonBox;
     auto* create = buttons->addButton(hostText(QStringLiteral("New chart")), QDialogButtonBox::AcceptRole);
+    buttons->addButton(
+        QDialogButtonBox::Cancel); // Tab would jump over what is there before the default button
     const auto all = buttons->buttons();
     for (QAbstractButton* button : all)
         button->setToolTip(button->text());
@@ -142,6 +146,7 @@ void NewFromDialog::createLayout()
     layout->addWidget(buttons);
     create->setDefault(true); // which a window that it is not in would not know
     m_pictures->setFocus();
+    DeskDialogs::resizeWithinScreen(this, QSize(4 * cell.width() + 60, 3 * cell.height() + 100));
 }
 
 TestChartToolsData NewFromDialog::recordOf(int picture) const

@@ -73,10 +73,11 @@ void ShowDialog::createLayout()
     m_difference->setObjectName(QStringLiteral("difference"));
     m_difference->setMinimumHeight(3 * fontMetrics().lineSpacing()); // the dialog keeps its size
     m_difference->setAlignment(Qt::AlignTop);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    auto* buttons = new QDialogButtonBox; // Tab would jump over what is there before the default button
     m_show = buttons->addButton(hostText(QStringLiteral("Show")), QDialogButtonBox::AcceptRole);
     auto* number =
         buttons->addButton(hostText(QStringLiteral("Number the displays")), QDialogButtonBox::ActionRole);
+    buttons->addButton(QDialogButtonBox::Cancel);
     connect(number, &QPushButton::clicked, this, &DisplayFlash::showAll);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

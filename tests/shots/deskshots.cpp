@@ -1,0 +1,192 @@
+// Takes a picture of every window and dialog of the chart desk, and tells what is cut in them:
+// deskshots FOLDER-OF-CHARTS TARGET THEME LANGUAGE …
+
+#include "chartfont.h"
+#include "chartlist.h"
+#include "cuttexts.h"
+#include "desklibrary.h"
+#include "deskoutput.h"
+#include "deskstyle.h"
+#include "desktheme.h"
+#include "deskwindow.h"
+#include "display.h"
+#include "languages.h"
+#include "mainwindow.h"
+#include "outputwindow.h"
+#include "themepalette.h"
+#include "walk.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QLoggingCategory>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTextStream>
+
+using namespace deskwindow;
+
+namespace {
+
+constexpr int settleTime = 250; ///< ms in which a window is drawn
+
+void need(bool isDone)
+{
+    if (!isDone)
+        qFatal("The desk did not get there.");
+}
+
+/// The pictures of one language.
+class Shots
+{
+public:
+    Shots(const QString& folder, const QString& target, const QString& language)
+        : m_target(target)
+        , m_language(language)
+        , m_window(folder)
+    {
+        QDir().mkpath(target);
+        m_window.switchLanguage(language);
+        m_window.library()->setUsesTrash(false);
+        m_window.show();
+        m_list = m_window.findChild<ChartList*>();
+        need(QTest::qWaitForWindowExposed(&m_window) && isListed(m_window));
+        need(QTest::qWaitFor([this] { return !m_list->item(m_list->count() - 1)->icon().isNull(); }, 20000));
+        m_list->setCurrentRow(1);
+    }
+
+    void take()
+    {
+        shoot("list", m_window);
+        const QList<QAction*> menus = m_window.menuBar()->actions();
+        for (int menu = 0; menu < menus.size(); ++menu)
+            shootMenu(QStringLiteral("menu%1").arg(menu + 1), menus.at(menu));
+        dialog(
+            "newfrom", [this] { m_window.library()->newFrom(); }, 3000);
+        dialog("rename", [this] { m_window.library()->askName(); });
+        dialog("tags", [this] { m_window.library()->askTags(); });
+        dialog("export", [this] { m_window.library()->askTarget(); });
+        dialog(
+            "show", [this] { m_window.output()->showAction()->trigger(); }, 3000);
+        const QList<QAction*> help = menus.last()->menu()->actions();
+        dialog("shortcuts", [&] { help.at(0)->trigger(); });
+        dialog("manual", [&] { help.at(1)->trigger(); });
+        dialog("about", [&] { help.at(2)->trigger(); });
+        takeUndo();
+        takeWalk();
+        takeEditor();
+    }
+
+private:
+    /// The whole screen, as a person sees it.
+    void shoot(const QString& name, const QWidget& window)
+    {
+        QTest::qWait(settleTime);
+        QGuiApplication::primaryScreen()->grabWindow(0).save(path(name));
+        tell(name, window);
+    }
+
+    void tell(const QString& name, const QWidget& window) const
+    {
+        const QStringList cut = cuttexts::in(window);
+        for (const QString& text : cut)
+            QTextStream(stdout) << path(name) << ": " << text << '\n';
+    }
+
+    QString path(const QString& name) const
+    {
+        return m_target + QLatin1Char('/') + name + QLatin1Char('-') + m_language + QLatin1String(".png");
+    }
+
+    void shootMenu(const QString& name, const QAction* menu)
+    {
+        const QRect place = m_window.menuBar()->actionGeometry(const_cast<QAction*>(menu));
+        menu->menu()->popup(m_window.menuBar()->mapToGlobal(place.bottomLeft()));
+        shoot(name, m_window);
+        menu->menu()->hide();
+    }
+
+    template <typename Open>
+    void dialog(const QString& name, const Open& open, int drawing = 0)
+    {
+        open();
+        QTest::qWait(drawing);
+        const auto widgets = QApplication::topLevelWidgets();
+        for (QWidget* widget : widgets) {
+            auto* shown = qobject_cast<QDialog*>(widget);
+            if (!shown || !shown->isVisible())
+                continue;
+            need(QTest::qWaitForWindowExposed(shown));
+            shoot(name, *shown);
+            shown->close();
+        }
+        QTest::qWait(50);
+    }
+
+    void takeUndo()
+    {
+        m_window.library()->remove();
+        need(isListed(m_window));
+        shoot(QStringLiteral("undo"), m_window);
+        const auto buttons =
+            m_window.findChild<QWidget*>(QStringLiteral("undoBar"))->findChildren<QPushButton*>();
+        buttons.first()->click();
+        need(isListed(m_window));
+    }
+
+    /// The output covers its display: the window is drawn by itself.
+    void takeWalk()
+    {
+        Output* output = m_window.output()->output();
+        const QString chart = m_list->selectedChart();
+        m_window.output()->output()->setCharts(m_list->charts());
+        output->start(displays().first().name, QPoint(40, 30), chart);
+        need(QTest::qWaitFor([&] { return !output->window()->chart().isNull(); }, 20000));
+        output->walk()->setMode(Walk::Mode::Cabinets);
+        output->walk()->setRunning(true);
+        QTest::qWait(settleTime);
+        m_window.grab().save(path(QStringLiteral("walk")));
+        tell(QStringLiteral("walk"), m_window);
+        QGuiApplication::primaryScreen()->grabWindow(0).save(path(QStringLiteral("output")));
+        output->stop();
+        QTest::qWait(settleTime);
+    }
+
+    void takeEditor()
+    {
+        m_window.addChart();
+        need(settle(m_window));
+        shoot(QStringLiteral("editor"), m_window);
+        need(setRows(m_window, 4));
+        m_window.close();
+        dialog(QStringLiteral("discard"), [] {});
+        m_window.session()->end();
+    }
+
+    QString m_target;
+    QString m_language;
+    MainWindow m_window;
+    ChartList* m_list = nullptr;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("chartdesk"));
+    QApplication::setStyle(new DeskStyle);
+    QApplication::setFont(chartFont());
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 5)
+        return 2;
+    DeskTheme::choose(arguments.at(3));
+    DeskTheme::apply();
+    for (const QString& language : arguments.mid(4)) {
+        chooseLanguage(language);
+        Shots shots(arguments.at(1), arguments.at(2), language);
+        QApplication::setPalette(themePalette());
+        shots.take();
+    }
+    return 0;
+}
