@@ -904,6 +904,10 @@
         <translation>Ordner öffnen</translation>
     </message>
     <message>
+        <source>There is no file or folder “%1”.</source>
+        <translation>Es gibt keine Datei und keinen Ordner „%1“.</translation>
+    </message>
+    <message>
         <source>Chart</source>
         <translation>Testbild</translation>
     </message>

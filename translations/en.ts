@@ -904,6 +904,10 @@
         <translation>Open folder</translation>
     </message>
     <message>
+        <source>There is no file or folder “%1”.</source>
+        <translation>There is no file or folder “%1”.</translation>
+    </message>
+    <message>
         <source>Chart</source>
         <translation>Chart</translation>
     </message>

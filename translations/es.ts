@@ -904,6 +904,10 @@
         <translation>Abrir carpeta</translation>
     </message>
     <message>
+        <source>There is no file or folder “%1”.</source>
+        <translation>No existe el archivo ni la carpeta «%1».</translation>
+    </message>
+    <message>
         <source>Chart</source>
         <translation>Carta</translation>
     </message>

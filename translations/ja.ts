@@ -904,6 +904,10 @@
         <translation>フォルダーを開く</translation>
     </message>
     <message>
+        <source>There is no file or folder “%1”.</source>
+        <translation>ファイルまたはフォルダー「%1」が見つかりません。</translation>
+    </message>
+    <message>
         <source>Chart</source>
         <translation>テストパターン</translation>
     </message>

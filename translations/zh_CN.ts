@@ -904,6 +904,10 @@
         <translation>打开文件夹</translation>
     </message>
     <message>
+        <source>There is no file or folder “%1”.</source>
+        <translation>找不到文件或文件夹“%1”。</translation>
+    </message>
+    <message>
         <source>Chart</source>
         <translation>测试图</translation>
     </message>

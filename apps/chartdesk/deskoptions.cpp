@@ -42,6 +42,15 @@ struct Parser : QCommandLineParser
         addHelpOption();
         addVersionOption();
         addOptions({folder, language, headless, show, display, at, listDisplays});
+        addPositionalArgument(QStringLiteral("paths"),
+                              QStringLiteral("A folder of charts, or records and pictures, to be opened."),
+                              QStringLiteral("[FOLDER | FILE …]"));
+    }
+
+    /// Without one named, the desk goes on where its user was.
+    QString chosenFolder() const
+    {
+        return isSet(folder) || isSet(headless) ? value(folder) : DeskMemory::folder(value(folder));
     }
 
     QString languageCode() const
@@ -76,8 +85,9 @@ DeskOptions deskOptions(const QCoreApplication& application)
 {
     Parser parser;
     parser.process(application);
-    return {parser.value(parser.folder),
+    return {parser.chosenFolder(),
             parser.languageCode(),
+            parser.positionalArguments(),
             parser.isSet(parser.headless),
             parser.isSet(parser.listDisplays),
             parser.value(parser.show),

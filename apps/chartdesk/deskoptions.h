@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QPoint>
-#include <QString>
+#include <QStringList>
 
 class QCoreApplication;
 
@@ -10,6 +10,7 @@ struct DeskOptions
 {
     QString folder;
     QString language;
+    QStringList paths; ///< to be opened: a folder of charts, records and pictures
     bool headless = false;
     bool listDisplays = false;
     QString shown;   ///< a record or a picture to be shown at once, empty for none

@@ -124,6 +124,7 @@ int run(int& argc, char** argv)
         return confirmDefaultChart(window, application);
     const DeskMemory memory(&window);
     window.show();
+    window.openPaths(options.paths);
     window.offerDrafts();
     return QApplication::exec();
 }

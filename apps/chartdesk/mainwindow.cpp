@@ -17,6 +17,7 @@
 #include "logorefusal.h"
 #include "messagebox.h"
 #include "nametips.h"
+#include "openedpath.h"
 #include "recentfolders.h"
 #include "savequestions.h"
 #include "thememenu.h"
@@ -296,6 +297,20 @@ void MainWindow::openFolder(const QString& folder)
 {
     setFolder(folder);
     m_recent->add(folder);
+}
+
+void MainWindow::openPaths(const QStringList& paths)
+{
+    for (const QString& path : paths) {
+        const OpenedPath opened = OpenedPath::of(path);
+        if (!opened.problem.isEmpty())
+            tell(opened.problem, {});
+        if (!opened.folder.isEmpty() && opened.folder != m_folder)
+            openFolder(opened.folder);
+        m_list->selectChart(opened.chart);
+        if (!opened.taken.isEmpty())
+            m_library->take({opened.taken});
+    }
 }
 
 void MainWindow::refresh()

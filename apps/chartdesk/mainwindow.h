@@ -35,6 +35,10 @@ public:
     /// The language of the window and of the editor: the code of one of `languages()`.
     void switchLanguage(const QString& language);
 
+    /// Opens the folder, the chart or the file at each of `paths`; what cannot be opened is told.
+    void openPaths(const QStringList& paths);
+    QString folder() const { return m_folder; }
+
     void addChart();
     /// Asks what is to become of the edits that were not ended, the latest first.
     void offerDrafts();

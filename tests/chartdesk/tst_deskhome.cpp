@@ -1,3 +1,5 @@
+#include "chartfiles.h"
+#include "chartlist.h"
 #include "deskmemory.h"
 #include "deskoutput.h"
 #include "desksettings.h"
@@ -224,6 +226,71 @@ private Q_SLOTS:
         MainWindow next(m_folder->path());
         const DeskMemory again(&next);
         QCOMPARE(next.size(), QSize(700, 500));
+    }
+
+    void theFolderIsRemembered()
+    {
+        const QString other = QStringLiteral("/another");
+        QCOMPARE(DeskMemory::folder(other), other);
+        const DeskMemory memory(m_window.get());
+        m_window->hide();
+        QCOMPARE(DeskMemory::folder(other), m_folder->path());
+        m_folder.reset(); // a disk that is away
+        QCOMPARE(DeskMemory::folder(other), other);
+    }
+
+    void pathsAreOpened()
+    {
+        const QTemporaryDir charts;
+        const QString first = charts.filePath(QStringLiteral("20260101_120000/a.png"));
+        const QString second = charts.filePath(QStringLiteral("20260101_120001/b.png"));
+        QVERIFY(chartfiles::writeChart(first, Qt::red));
+        QVERIFY(chartfiles::writeChart(second, Qt::blue));
+        const auto* list = m_window->findChild<ChartList*>();
+        m_window->openPaths({charts.path()});
+        QCOMPARE(m_window->folder(), charts.path());
+        QTRY_COMPARE(list->count(), 2);
+        m_window->openPaths({first});
+        QTRY_COMPARE(list->selectedChart(), first);
+        m_window->openPaths({m_folder->path(), ChartFolderList::recordPath(second)});
+        QCOMPARE(m_window->folder(), charts.path());
+        QTRY_COMPARE(list->selectedChart(), second);
+    }
+
+    /// They are copied into the open folder, as if they were dropped there.
+    void filesFromElsewhereAreTakenIn()
+    {
+        const QTemporaryDir elsewhere;
+        const QString picture = elsewhere.filePath(QStringLiteral("photo.png"));
+        QVERIFY(chartfiles::writePicture(picture, Qt::red));
+        m_window->openPaths({picture});
+        QTRY_COMPARE(QFileInfo(m_window->findChild<ChartList*>()->selectedChart()).fileName(),
+                     QStringLiteral("photo.png"));
+        QCOMPARE(m_window->folder(), m_folder->path());
+    }
+
+    void whatIsNoChartIsTold_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("no picture") << "notes.txt";
+        QTest::newRow("no record") << "notes.json";
+        QTest::newRow("nothing there") << "none.png";
+    }
+
+    void whatIsNoChartIsTold()
+    {
+        QFETCH(QString, name);
+        const QTemporaryDir elsewhere;
+        const QString path = elsewhere.filePath(name);
+        if (!name.startsWith(QStringLiteral("none")))
+            QVERIFY(chartfiles::writeFile(path, "Bring the long ladder."));
+        m_window->openPaths({path});
+        QTRY_VERIFY(message(*m_window));
+        const QString told = message(*m_window)->text() + message(*m_window)->informativeText();
+        QVERIFY2(told.contains(name), qPrintable(told));
+        QVERIFY(answer(*m_window, QStringLiteral("OK")));
+        QVERIFY(isListed(*m_window));
+        QCOMPARE(m_window->findChild<ChartList*>()->count(), 0);
     }
 
     void theThemeIsRemembered()

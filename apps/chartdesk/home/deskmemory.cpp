@@ -5,10 +5,12 @@
 #include "mainwindow.h"
 
 #include <QEvent>
+#include <QFileInfo>
 
 namespace {
 
 const QString placeKey = QStringLiteral("window/place");
+const QString folderKey = QStringLiteral("folder");
 const QString languageKey = QStringLiteral("language");
 
 } // namespace
@@ -29,6 +31,12 @@ QString DeskMemory::language(const QString& otherwise)
     return languageCodes().contains(chosen) ? chosen : otherwise;
 }
 
+QString DeskMemory::folder(const QString& otherwise)
+{
+    const QString last = deskSettings().value(folderKey).toString();
+    return QFileInfo(last).isDir() ? last : otherwise;
+}
+
 /// The toolkit keeps it on a display that is there.
 void DeskMemory::restorePlace()
 {
@@ -46,5 +54,7 @@ bool DeskMemory::eventFilter(QObject* watched, QEvent* event)
 
 void DeskMemory::store() const
 {
-    deskSettings().setValue(placeKey, m_window->saveGeometry());
+    QSettings settings = deskSettings();
+    settings.setValue(placeKey, m_window->saveGeometry());
+    settings.setValue(folderKey, QFileInfo(m_window->folder()).absoluteFilePath());
 }
