@@ -26,7 +26,7 @@ public:
                        const QWidget* widget) const override
     {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (element != PE_FrameMenu)
+        if (element != PE_PanelMenu && element != PE_FrameMenu)
             return;
         painter->setPen(QColor(128, 128, 128));
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));

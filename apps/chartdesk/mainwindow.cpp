@@ -243,12 +243,13 @@ QWidget* MainWindow::createEditorPage()
     return scroll;
 }
 
-/// A window with the editor and an even margin around it, or as much of it as the screen has room for.
+/// A window with the editor and an even margin around it, or as much of it as the screen has room for; on a
+/// large one two thirds of it.
 void MainWindow::fitToEditor()
 {
     const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
-    const QSize wanted = editorSize + QSize(2 * margin, 2 * margin + bars);
     const QSize room = screen()->availableSize();
+    const QSize wanted = (editorSize + QSize(2 * margin, 2 * margin + bars)).expandedTo(room * 2 / 3);
     resize(wanted.boundedTo(room));
     if (wanted.boundedTo(room) != wanted)
         setWindowState(Qt::WindowMaximized);
