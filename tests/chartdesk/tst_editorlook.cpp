@@ -1,4 +1,5 @@
 #include "editorlook.h"
+#include "settles.h"
 #include "testcase.h"
 #include "wheel.h"
 
@@ -46,7 +47,7 @@ private Q_SLOTS:
         new EditorLook(&editor);
         editor.show();
         editor.setShowForAdd(true);
-        QTest::qWait(300); // painted and unlocked
+        QVERIFY(settles(editor)); // locked, its buttons have other colours
         const auto adding = visibleButtons(editor);
         QCOMPARE(adding.size(), 2);
         const QRect confirm = adding.last()->geometry();
@@ -55,6 +56,7 @@ private Q_SLOTS:
         editor.setShowForAdd(false);
         QTRY_COMPARE(visibleButtons(editor).size(), 3);
         QTRY_COMPARE(visibleButtons(editor).last()->geometry(), confirm);
+        QVERIFY(settles(editor));
         const auto editing = visibleButtons(editor);
         QCOMPARE(editing.at(2)->text(), QString("Confirm"));
         QCOMPARE(editing.at(1)->text(), QString("Apply"));
@@ -76,7 +78,7 @@ private Q_SLOTS:
         VTestChartTools editor;
         new EditorLook(&editor);
         editor.show();
-        QTest::qWait(300); // painted and unlocked
+        QVERIFY(settles(editor)); // locked, it would not take the wheel
         auto* panel = editor.findChild<InLineSettingBox*>();
         SpinEditBox* field = nullptr;
         for (SpinEditBox* candidate : panel->findChildren<SpinEditBox*>()) {
@@ -115,6 +117,7 @@ private Q_SLOTS:
                 radio->click();
         auto* button = panel->findChild<QPushButton*>("CancleButton");
         QTRY_VERIFY(button->isVisible() && button->isEnabled());
+        QVERIFY(settles(editor)); // the button is where it stays
         CustomDialog* question = nullptr;
         QTRY_VERIFY([&] {
             QTest::mouseClick(button, Qt::LeftButton);
