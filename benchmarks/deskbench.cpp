@@ -1,6 +1,6 @@
 // What a person waits for in the chart desk: opening a folder of 1,000 charts, switching the shown chart, and
-// how evenly and at what cost the walk runs. Needs a display: deskbench [seconds of the walk [what]], of
-// opening, switching, line, counter.
+// how evenly and at what cost the walk runs, and how long the editing of a large wall keeps its user waiting.
+// Needs a display: deskbench [seconds of the walk [what]], of opening, switching, line, counter, wall.
 
 #include "chartlist.h"
 #include "deskoutput.h"
@@ -10,6 +10,9 @@
 #include "output.h"
 #include "outputwindow.h"
 #include "walk.h"
+#include "wallcanvas.h"
+#include "wallmodel.h"
+#include "wallwindow.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -183,6 +186,74 @@ void benchWalk(Walk::Mode mode, const char* name, int seconds)
           << " late, " << int(100 * busy / seconds) << " % of a core\n";
 }
 
+/// The longest that a step takes, with the painting that it asks for.
+void timeSteps(const char* name, int count, const std::function<void(int)>& step)
+{
+    qint64 longest = 0;
+    double busiest = 0;
+    for (int i = 0; i < count; ++i) {
+        QElapsedTimer clock;
+        clock.start();
+        const double begin = processorTime();
+        step(i);
+        QCoreApplication::processEvents();
+        busiest = std::max(busiest, processorTime() - begin);
+        longest = std::max(longest, clock.elapsed());
+    }
+    out() << "wall of 200 x 100, " << name << ": longest of " << count << " steps " << longest << " ms ("
+          << QString::number(busiest, 'f', 1) << " of processor time)\n";
+}
+
+/// 20,000 cabinets, each tenth of them a hole or turned, with names and cables.
+vardeno::walls::WallDocument largeWall()
+{
+    vardeno::walls::WallDocument wall;
+    wall.columnWidths.pixels.assign(200, 160);
+    wall.rowHeights.pixels.assign(100, 80);
+    wall.physical.watts = 200;
+    for (int i = 0; i < 2000; ++i)
+        wall.exceptions.list.push_back({{i * 10 % 200 + i / 20 % 10, i / 20}, i % 7 == 0, 90, 1, 1, {}, {}});
+    return wall;
+}
+
+void timeEdits(WallWindow& window)
+{
+    WallCanvas& canvas = *window.canvas();
+    const auto press = [&canvas](int key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(&canvas, &event);
+    };
+    timeSteps("selecting", 50, [&](int i) { canvas.select({{i, i}}); });
+    timeSteps("selecting all", 3, [&](int) { canvas.selectAll(); });
+    canvas.select({{3, 3}});
+    timeSteps("resizing", 50, [&](int i) { press(i % 2 == 0 ? Qt::Key_Left : Qt::Key_Up); });
+    timeSteps("removing", 20, [&](int i) {
+        canvas.select({{i, 5}});
+        canvas.removeOrRestore();
+    });
+    timeSteps("undoing", 20, [&](int) { window.model()->history()->undo(); });
+    timeSteps("zooming", 10, [&](int i) { canvas.setZoom(canvas.zoom() * (i % 2 == 0 ? 1.25 : 0.8)); });
+}
+
+void benchWall()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("large.wall.json"));
+    const QString problem = vardeno::walls::WallFile::write(path, largeWall());
+    WallWindow window;
+    if (!problem.isEmpty() || !window.open(path).isEmpty()) {
+        out() << "the wall is not there: " << problem << '\n';
+        return;
+    }
+    window.show();
+    for (const double zoom : {0.0, 0.2, 1.0}) {
+        zoom > 0 ? window.canvas()->setZoom(zoom) : window.canvas()->showWhole();
+        QCoreApplication::processEvents();
+        out() << "at " << int(100 * window.canvas()->zoom()) << " %\n";
+        timeEdits(window);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -193,6 +264,8 @@ int main(int argc, char** argv)
     chooseLanguage(QStringLiteral("en"));
     const int seconds = argc > 1 ? QByteArray(argv[1]).toInt() : 60;
     const auto isWanted = [&](const char* what) { return argc < 3 || qstrcmp(argv[2], what) == 0; };
+    if (isWanted("wall"))
+        benchWall();
     if (isWanted("opening"))
         benchOpening();
     if (isWanted("switching"))

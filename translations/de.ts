@@ -1091,5 +1091,201 @@
         <source>%1 x %2 pixels, %3 x %4 cabinets</source>
         <translation>%1 x %2 Pixel, %3 x %4 Cabinets</translation>
     </message>
+    <message>
+        <source>This wall cannot be read:</source>
+        <translation>Diese Wand kann nicht gelesen werden:</translation>
+    </message>
+    <message>
+        <source>The wall could not be saved:</source>
+        <translation>Die Wand konnte nicht gespeichert werden:</translation>
+    </message>
+    <message>
+        <source>New wall</source>
+        <translation>Neue Wand</translation>
+    </message>
+    <message>
+        <source>Remove or restore</source>
+        <translation>Entfernen / einsetzen</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Draw data cable</source>
+        <translation>Datenkabel ziehen</translation>
+    </message>
+    <message>
+        <source>Draw power cable</source>
+        <translation>Stromkabel ziehen</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>Wand</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Selected cabinets</source>
+        <translation>Ausgewählte Cabinets</translation>
+    </message>
+    <message>
+        <source>Width of the columns</source>
+        <translation>Breite der Spalten</translation>
+    </message>
+    <message>
+        <source>Height of the rows</source>
+        <translation>Höhe der Zeilen</translation>
+    </message>
+    <message>
+        <source>Name of the cabinet</source>
+        <translation>Name des Cabinets</translation>
+    </message>
+    <message>
+        <source>No cabinet here</source>
+        <translation>Hier kein Cabinet</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>Beginnt</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Goes along</source>
+        <translation>Folgt den</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>One way</source>
+        <translation>In eine Richtung</translation>
+    </message>
+    <message>
+        <source>Each by itself</source>
+        <translation>Jede für sich</translation>
+    </message>
+    <message>
+        <source>Data cables</source>
+        <translation>Datenkabel</translation>
+    </message>
+    <message>
+        <source>Pixels of a port</source>
+        <translation>Pixel je Port</translation>
+    </message>
+    <message>
+        <source>Bits of a color</source>
+        <translation>Bit je Farbe</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>Bilder je Sekunde</translation>
+    </message>
+    <message>
+        <source>Backup ports</source>
+        <translation>Backup-Ports</translation>
+    </message>
+    <message>
+        <source>Power cables</source>
+        <translation>Stromkabel</translation>
+    </message>
+    <message>
+        <source>Watts of a cabinet</source>
+        <translation>Watt je Cabinet</translation>
+    </message>
+    <message>
+        <source>Watts of a circuit</source>
+        <translation>Watt je Stromkreis</translation>
+    </message>
+    <message>
+        <source>Drawn over the chart</source>
+        <translation>Über dem Testbild</translation>
+    </message>
+    <message>
+        <source>Black where no cabinet is</source>
+        <translation>Schwarz, wo kein Cabinet ist</translation>
+    </message>
+    <message>
+        <source>Outlines</source>
+        <translation>Umrisse</translation>
+    </message>
+    <message>
+        <source>Frames of one pixel</source>
+        <translation>Rahmen von einem Pixel</translation>
+    </message>
+    <message>
+        <source>Names of cabinets</source>
+        <translation>Namen der Cabinets</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Whole wall</source>
+        <translation>Ganze Wand</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Cables by the pattern</source>
+        <translation>Kabel nach Muster</translation>
+    </message>
+    <message>
+        <source>Arrows change the size by one pixel, with Shift by ten</source>
+        <translation>Pfeiltasten ändern die Größe um ein Pixel, mit Umschalt um zehn</translation>
+    </message>
+    <message>
+        <source>Edit wall</source>
+        <translation>Wand bearbeiten</translation>
+    </message>
+    <message>
+        <source>Save the changes of this wall?</source>
+        <translation>Die Änderungen dieser Wand speichern?</translation>
+    </message>
 </context>
 </TS>

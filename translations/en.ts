@@ -1091,5 +1091,201 @@
         <source>%1 x %2 pixels, %3 x %4 cabinets</source>
         <translation>%1 x %2 pixels, %3 x %4 cabinets</translation>
     </message>
+    <message>
+        <source>This wall cannot be read:</source>
+        <translation>This wall cannot be read:</translation>
+    </message>
+    <message>
+        <source>The wall could not be saved:</source>
+        <translation>The wall could not be saved:</translation>
+    </message>
+    <message>
+        <source>New wall</source>
+        <translation>New wall</translation>
+    </message>
+    <message>
+        <source>Remove or restore</source>
+        <translation>Remove or restore</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Turn</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Draw data cable</source>
+        <translation>Draw data cable</translation>
+    </message>
+    <message>
+        <source>Draw power cable</source>
+        <translation>Draw power cable</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>Wall</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rows</translation>
+    </message>
+    <message>
+        <source>Selected cabinets</source>
+        <translation>Selected cabinets</translation>
+    </message>
+    <message>
+        <source>Width of the columns</source>
+        <translation>Width of the columns</translation>
+    </message>
+    <message>
+        <source>Height of the rows</source>
+        <translation>Height of the rows</translation>
+    </message>
+    <message>
+        <source>Name of the cabinet</source>
+        <translation>Name of the cabinet</translation>
+    </message>
+    <message>
+        <source>No cabinet here</source>
+        <translation>No cabinet here</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>Begins at</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Top left</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Top right</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Bottom left</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Bottom right</translation>
+    </message>
+    <message>
+        <source>Goes along</source>
+        <translation>Goes along</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Pattern</translation>
+    </message>
+    <message>
+        <source>One way</source>
+        <translation>One way</translation>
+    </message>
+    <message>
+        <source>Each by itself</source>
+        <translation>Each by itself</translation>
+    </message>
+    <message>
+        <source>Data cables</source>
+        <translation>Data cables</translation>
+    </message>
+    <message>
+        <source>Pixels of a port</source>
+        <translation>Pixels of a port</translation>
+    </message>
+    <message>
+        <source>Bits of a color</source>
+        <translation>Bits of a color</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>Frames per second</translation>
+    </message>
+    <message>
+        <source>Backup ports</source>
+        <translation>Backup ports</translation>
+    </message>
+    <message>
+        <source>Power cables</source>
+        <translation>Power cables</translation>
+    </message>
+    <message>
+        <source>Watts of a cabinet</source>
+        <translation>Watts of a cabinet</translation>
+    </message>
+    <message>
+        <source>Watts of a circuit</source>
+        <translation>Watts of a circuit</translation>
+    </message>
+    <message>
+        <source>Drawn over the chart</source>
+        <translation>Drawn over the chart</translation>
+    </message>
+    <message>
+        <source>Black where no cabinet is</source>
+        <translation>Black where no cabinet is</translation>
+    </message>
+    <message>
+        <source>Outlines</source>
+        <translation>Outlines</translation>
+    </message>
+    <message>
+        <source>Frames of one pixel</source>
+        <translation>Frames of one pixel</translation>
+    </message>
+    <message>
+        <source>Names of cabinets</source>
+        <translation>Names of cabinets</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordinates</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>Whole wall</source>
+        <translation>Whole wall</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Cables by the pattern</source>
+        <translation>Cables by the pattern</translation>
+    </message>
+    <message>
+        <source>Arrows change the size by one pixel, with Shift by ten</source>
+        <translation>Arrows change the size by one pixel, with Shift by ten</translation>
+    </message>
+    <message>
+        <source>Edit wall</source>
+        <translation>Edit wall</translation>
+    </message>
+    <message>
+        <source>Save the changes of this wall?</source>
+        <translation>Save the changes of this wall?</translation>
+    </message>
 </context>
 </TS>

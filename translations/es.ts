@@ -1091,5 +1091,201 @@
         <source>%1 x %2 pixels, %3 x %4 cabinets</source>
         <translation>%1 x %2 píxeles, %3 x %4 gabinetes</translation>
     </message>
+    <message>
+        <source>This wall cannot be read:</source>
+        <translation>Esta pantalla no se puede leer:</translation>
+    </message>
+    <message>
+        <source>The wall could not be saved:</source>
+        <translation>No se pudo guardar la pantalla:</translation>
+    </message>
+    <message>
+        <source>New wall</source>
+        <translation>Nueva pantalla</translation>
+    </message>
+    <message>
+        <source>Remove or restore</source>
+        <translation>Quitar o restaurar</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Girar</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Draw data cable</source>
+        <translation>Trazar cable de datos</translation>
+    </message>
+    <message>
+        <source>Draw power cable</source>
+        <translation>Trazar cable de corriente</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Filas</translation>
+    </message>
+    <message>
+        <source>Selected cabinets</source>
+        <translation>Gabinetes seleccionados</translation>
+    </message>
+    <message>
+        <source>Width of the columns</source>
+        <translation>Ancho de las columnas</translation>
+    </message>
+    <message>
+        <source>Height of the rows</source>
+        <translation>Alto de las filas</translation>
+    </message>
+    <message>
+        <source>Name of the cabinet</source>
+        <translation>Nombre del gabinete</translation>
+    </message>
+    <message>
+        <source>No cabinet here</source>
+        <translation>Aquí no hay gabinete</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>Empieza</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>Goes along</source>
+        <translation>Recorre</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>One way</source>
+        <translation>En un sentido</translation>
+    </message>
+    <message>
+        <source>Each by itself</source>
+        <translation>Cada una por separado</translation>
+    </message>
+    <message>
+        <source>Data cables</source>
+        <translation>Cables de datos</translation>
+    </message>
+    <message>
+        <source>Pixels of a port</source>
+        <translation>Píxeles por puerto</translation>
+    </message>
+    <message>
+        <source>Bits of a color</source>
+        <translation>Bits por color</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>Cuadros por segundo</translation>
+    </message>
+    <message>
+        <source>Backup ports</source>
+        <translation>Puertos de respaldo</translation>
+    </message>
+    <message>
+        <source>Power cables</source>
+        <translation>Cables de corriente</translation>
+    </message>
+    <message>
+        <source>Watts of a cabinet</source>
+        <translation>Vatios por gabinete</translation>
+    </message>
+    <message>
+        <source>Watts of a circuit</source>
+        <translation>Vatios por circuito</translation>
+    </message>
+    <message>
+        <source>Drawn over the chart</source>
+        <translation>Sobre la carta</translation>
+    </message>
+    <message>
+        <source>Black where no cabinet is</source>
+        <translation>Negro donde no hay gabinete</translation>
+    </message>
+    <message>
+        <source>Outlines</source>
+        <translation>Contornos</translation>
+    </message>
+    <message>
+        <source>Frames of one pixel</source>
+        <translation>Marcos de un píxel</translation>
+    </message>
+    <message>
+        <source>Names of cabinets</source>
+        <translation>Nombres de los gabinetes</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordenadas</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Whole wall</source>
+        <translation>Pantalla entera</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <source>Cables by the pattern</source>
+        <translation>Cables según el patrón</translation>
+    </message>
+    <message>
+        <source>Arrows change the size by one pixel, with Shift by ten</source>
+        <translation>Las flechas cambian el tamaño en un píxel, con Mayús en diez</translation>
+    </message>
+    <message>
+        <source>Edit wall</source>
+        <translation>Editar pantalla</translation>
+    </message>
+    <message>
+        <source>Save the changes of this wall?</source>
+        <translation>¿Guardar los cambios de esta pantalla?</translation>
+    </message>
 </context>
 </TS>

@@ -1091,5 +1091,201 @@
         <source>%1 x %2 pixels, %3 x %4 cabinets</source>
         <translation>%1 x %2 ピクセル、%3 x %4 キャビネット</translation>
     </message>
+    <message>
+        <source>This wall cannot be read:</source>
+        <translation>このウォールを読み込めません:</translation>
+    </message>
+    <message>
+        <source>The wall could not be saved:</source>
+        <translation>ウォールを保存できませんでした:</translation>
+    </message>
+    <message>
+        <source>New wall</source>
+        <translation>新規ウォール</translation>
+    </message>
+    <message>
+        <source>Remove or restore</source>
+        <translation>取り外す／戻す</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Draw data cable</source>
+        <translation>データケーブルを引く</translation>
+    </message>
+    <message>
+        <source>Draw power cable</source>
+        <translation>電源ケーブルを引く</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>ウォール</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Selected cabinets</source>
+        <translation>選択したキャビネット</translation>
+    </message>
+    <message>
+        <source>Width of the columns</source>
+        <translation>列の幅</translation>
+    </message>
+    <message>
+        <source>Height of the rows</source>
+        <translation>行の高さ</translation>
+    </message>
+    <message>
+        <source>Name of the cabinet</source>
+        <translation>キャビネットの名前</translation>
+    </message>
+    <message>
+        <source>No cabinet here</source>
+        <translation>キャビネットなし</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>開始位置</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Goes along</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>One way</source>
+        <translation>一方向</translation>
+    </message>
+    <message>
+        <source>Each by itself</source>
+        <translation>それぞれ個別</translation>
+    </message>
+    <message>
+        <source>Data cables</source>
+        <translation>データケーブル</translation>
+    </message>
+    <message>
+        <source>Pixels of a port</source>
+        <translation>ポートあたりの画素</translation>
+    </message>
+    <message>
+        <source>Bits of a color</source>
+        <translation>色ごとのビット</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>毎秒フレーム数</translation>
+    </message>
+    <message>
+        <source>Backup ports</source>
+        <translation>バックアップポート</translation>
+    </message>
+    <message>
+        <source>Power cables</source>
+        <translation>電源ケーブル</translation>
+    </message>
+    <message>
+        <source>Watts of a cabinet</source>
+        <translation>キャビネットのワット数</translation>
+    </message>
+    <message>
+        <source>Watts of a circuit</source>
+        <translation>回路のワット数</translation>
+    </message>
+    <message>
+        <source>Drawn over the chart</source>
+        <translation>テストパターンの上に描画</translation>
+    </message>
+    <message>
+        <source>Black where no cabinet is</source>
+        <translation>キャビネットのない所は黒</translation>
+    </message>
+    <message>
+        <source>Outlines</source>
+        <translation>輪郭</translation>
+    </message>
+    <message>
+        <source>Frames of one pixel</source>
+        <translation>一画素の枠</translation>
+    </message>
+    <message>
+        <source>Names of cabinets</source>
+        <translation>キャビネットの名前</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>座標</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Whole wall</source>
+        <translation>ウォール全体</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Cables by the pattern</source>
+        <translation>パターンどおりの配線</translation>
+    </message>
+    <message>
+        <source>Arrows change the size by one pixel, with Shift by ten</source>
+        <translation>矢印キーで一画素、Shift を押しながらで十画素ずつサイズを変更</translation>
+    </message>
+    <message>
+        <source>Edit wall</source>
+        <translation>ウォールを編集</translation>
+    </message>
+    <message>
+        <source>Save the changes of this wall?</source>
+        <translation>このウォールの変更を保存しますか?</translation>
+    </message>
 </context>
 </TS>

@@ -1091,5 +1091,201 @@
         <source>%1 x %2 pixels, %3 x %4 cabinets</source>
         <translation>%1 x %2 像素，%3 x %4 箱体</translation>
     </message>
+    <message>
+        <source>This wall cannot be read:</source>
+        <translation>无法读取此屏:</translation>
+    </message>
+    <message>
+        <source>The wall could not be saved:</source>
+        <translation>无法保存此屏:</translation>
+    </message>
+    <message>
+        <source>New wall</source>
+        <translation>新建屏</translation>
+    </message>
+    <message>
+        <source>Remove or restore</source>
+        <translation>移除或恢复</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>尺寸</translation>
+    </message>
+    <message>
+        <source>Draw data cable</source>
+        <translation>绘制数据线</translation>
+    </message>
+    <message>
+        <source>Draw power cable</source>
+        <translation>绘制电源线</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>屏</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Selected cabinets</source>
+        <translation>所选箱体</translation>
+    </message>
+    <message>
+        <source>Width of the columns</source>
+        <translation>列宽</translation>
+    </message>
+    <message>
+        <source>Height of the rows</source>
+        <translation>行高</translation>
+    </message>
+    <message>
+        <source>Name of the cabinet</source>
+        <translation>箱体名称</translation>
+    </message>
+    <message>
+        <source>No cabinet here</source>
+        <translation>此处无箱体</translation>
+    </message>
+    <message>
+        <source>Begins at</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Goes along</source>
+        <translation>沿</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>方式</translation>
+    </message>
+    <message>
+        <source>One way</source>
+        <translation>单向</translation>
+    </message>
+    <message>
+        <source>Each by itself</source>
+        <translation>各自独立</translation>
+    </message>
+    <message>
+        <source>Data cables</source>
+        <translation>数据线</translation>
+    </message>
+    <message>
+        <source>Pixels of a port</source>
+        <translation>每端口像素</translation>
+    </message>
+    <message>
+        <source>Bits of a color</source>
+        <translation>每色位数</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>每秒帧数</translation>
+    </message>
+    <message>
+        <source>Backup ports</source>
+        <translation>备份端口</translation>
+    </message>
+    <message>
+        <source>Power cables</source>
+        <translation>电源线</translation>
+    </message>
+    <message>
+        <source>Watts of a cabinet</source>
+        <translation>每箱体瓦数</translation>
+    </message>
+    <message>
+        <source>Watts of a circuit</source>
+        <translation>每回路瓦数</translation>
+    </message>
+    <message>
+        <source>Drawn over the chart</source>
+        <translation>绘于测试图上</translation>
+    </message>
+    <message>
+        <source>Black where no cabinet is</source>
+        <translation>无箱体处为黑</translation>
+    </message>
+    <message>
+        <source>Outlines</source>
+        <translation>轮廓</translation>
+    </message>
+    <message>
+        <source>Frames of one pixel</source>
+        <translation>一像素边框</translation>
+    </message>
+    <message>
+        <source>Names of cabinets</source>
+        <translation>箱体名称</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>坐标</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Whole wall</source>
+        <translation>整屏</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Cables by the pattern</source>
+        <translation>按方式布线</translation>
+    </message>
+    <message>
+        <source>Arrows change the size by one pixel, with Shift by ten</source>
+        <translation>方向键每次改变一个像素，按住 Shift 改变十个</translation>
+    </message>
+    <message>
+        <source>Edit wall</source>
+        <translation>编辑屏</translation>
+    </message>
+    <message>
+        <source>Save the changes of this wall?</source>
+        <translation>保存对此屏的更改?</translation>
+    </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 
 #include "chartdelegate.h"
 #include "chartfolderlist.h"
+#include "walldocuments.h"
 
 #include <QDir>
 #include <QDragEnterEvent>
@@ -70,13 +71,26 @@ QStringList ChartList::charts() const
 {
     QStringList images;
     for (int row = 0; row < count(); ++row) {
-        if (!item(row)->isHidden())
-            images.append(item(row)->data(ImagePathRole).toString());
+        const QString path = item(row)->data(ImagePathRole).toString();
+        if (!item(row)->isHidden() && !WallDocuments::isDocument(path))
+            images.append(path);
     }
     return images;
 }
 
 QString ChartList::selectedChart() const
+{
+    const QString path = selectedPath();
+    return WallDocuments::isDocument(path) ? QString() : path;
+}
+
+QString ChartList::selectedDocument() const
+{
+    const QString path = selectedPath();
+    return WallDocuments::isDocument(path) ? path : QString();
+}
+
+QString ChartList::selectedPath() const
 {
     const QListWidgetItem* chart = currentItem();
     const bool isSelected = chart && chart->isSelected() && !chart->isHidden();
@@ -181,7 +195,7 @@ void ChartList::placeChart(int row, const ListedChart& chart)
 QListWidgetItem* ChartList::takeChart(const QString& imagePath)
 {
     if (QListWidgetItem* known = m_items.value(imagePath)) {
-        if (m_toSelect.isEmpty() && selectedChart() == imagePath)
+        if (m_toSelect.isEmpty() && selectedPath() == imagePath)
             m_toSelect = imagePath;
         return takeItem(row(known));
     }

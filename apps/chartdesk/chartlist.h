@@ -46,6 +46,8 @@ public:
     QStringList charts() const;
     /// The image of the selected chart, empty without one.
     QString selectedChart() const;
+    /// The file of the selected wall or show, empty without one.
+    QString selectedDocument() const;
     /// As soon as it is listed, unless another is selected before. Nothing happens without such a chart.
     void selectChart(const QString& imagePath);
     /// How long, in ms, the list is filled at a time before it hears its user again.
@@ -71,6 +73,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    QString selectedPath() const;
     void beginFilling(const ListedCharts& charts);
     void fillPiece();
     bool fillNext();

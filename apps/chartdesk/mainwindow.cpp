@@ -6,6 +6,7 @@
 #include "desklanguage.h"
 #include "desklibrary.h"
 #include "deskoutput.h"
+#include "deskwalls.h"
 #include "draftoffer.h"
 #include "editorlook.h"
 #include "editsession.h"
@@ -86,6 +87,7 @@ MainWindow::MainWindow(const QString& folder)
     statusBar()->setContentsMargins(margin - 5, 0, margin, 0);
     createOutput();
     createLibrary();
+    createWalls();
     createMenus();
     loadLanguages();
 
@@ -143,13 +145,29 @@ void MainWindow::createLibrary()
     connect(m_library, &DeskLibrary::failed, this, &MainWindow::tell);
 }
 
+void MainWindow::createWalls()
+{
+    m_walls = new DeskWalls(m_list, this);
+    connect(m_walls, &DeskWalls::failed, this, &MainWindow::tell);
+    connect(m_walls, &DeskWalls::chartWanted, this, [this](const TestChartToolsData& record) {
+        if (m_session->isOpen())
+            return m_walls->endChart();
+        raise();
+        activateWindow();
+        addChartFrom(record);
+    });
+    connect(m_session, &EditSession::saved, m_walls, &DeskWalls::takeChart);
+    connect(m_session, &EditSession::ended, m_walls, &DeskWalls::endChart);
+}
+
 /// What can be done with a chart goes by the selection, and by whether one is being edited.
 void MainWindow::updateActions()
 {
     const bool isEditing = m_session->isOpen();
     m_new->setEnabled(!isEditing);
     m_choose->setEnabled(!isEditing);
-    m_edit->setEnabled(!isEditing && !m_list->selectedChart().isEmpty());
+    const bool isAny = !m_list->selectedChart().isEmpty() || !m_list->selectedDocument().isEmpty();
+    m_edit->setEnabled(!isEditing && isAny);
     m_library->update(isEditing);
     m_output->update();
 }
@@ -183,7 +201,7 @@ QAction* MainWindow::createAction(const QKeySequence& shortcut, void (MainWindow
 void MainWindow::createMenus()
 {
     QMenu* charts = menuBar()->addMenu(QString());
-    charts->addActions({m_new, m_edit, m_choose});
+    charts->addActions({m_new, m_walls->newAction(), m_edit, m_choose});
     charts->addMenu(m_recent);
     charts->addAction(m_refresh);
     charts->addSeparator();
@@ -265,6 +283,7 @@ void MainWindow::retranslate()
     menuBar()->actions().first()->setText(hostText(QStringLiteral("Charts")));
     m_recent->setTitle(hostText(QStringLiteral("Recent folders")));
     m_library->retranslate();
+    m_walls->retranslate();
     m_output->retranslate();
     m_languages->retranslate();
     m_themes->retranslate();
@@ -280,6 +299,7 @@ void MainWindow::setFolder(const QString& folder)
 {
     m_folder = folder;
     m_library->setFolder(folder);
+    m_walls->setFolder(folder);
     m_list->setFolder(folder);
     showCount();
     updateActions();
@@ -335,7 +355,7 @@ void MainWindow::addChart()
 
 void MainWindow::editSelectedChart()
 {
-    if (m_list->selectedChart().isEmpty())
+    if (m_walls->openSelected() || m_list->selectedChart().isEmpty())
         return;
     const QStringList problems = m_session->edit(m_folder, m_list->selectedChart());
     if (m_session->isOpen())
@@ -380,6 +400,10 @@ void MainWindow::endEdit()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!m_walls->closeAll()) {
+        event->ignore();
+        return;
+    }
     m_isClosing = true;
     if (m_session->isSaving()) {
         event->ignore(); // what becomes of it is told

@@ -7,6 +7,7 @@
 class ChartList;
 class DeskLibrary;
 class DeskOutput;
+class DeskWalls;
 class DraftOffer;
 class EditSession;
 class HelpMenu;
@@ -46,6 +47,7 @@ public:
     EditSession* session() const { return m_session; }
     DeskOutput* output() const { return m_output; }
     DeskLibrary* library() const { return m_library; }
+    DeskWalls* walls() const { return m_walls; }
 
 Q_SIGNALS:
     /// Somebody has chosen this language.
@@ -63,6 +65,7 @@ private:
     void connectSession();
     void createOutput();
     void createLibrary();
+    void createWalls();
     void updateActions();
     void addChartFrom(const vardeno::testcharttools::TestChartToolsData& record);
     void fitToEditor();
@@ -92,6 +95,7 @@ private:
     SaveQuestions* m_questions = nullptr;
     DeskOutput* m_output = nullptr;
     DeskLibrary* m_library = nullptr;
+    DeskWalls* m_walls = nullptr;
     ListBar* m_listBar = nullptr;
     DraftOffer* m_drafts;
     QAction* m_new;

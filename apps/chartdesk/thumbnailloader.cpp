@@ -3,6 +3,7 @@
 #include "chartfolderlist.h"
 #include "samplechart.h"
 #include "thumbnailcache.h"
+#include "walldocuments.h"
 
 #include <chartrecordfile.h>
 
@@ -46,8 +47,27 @@ QImage scaled(QIODevice* file, const QString& path, const QSize& size)
     return canvas;
 }
 
+/// In the middle of black.
+QImage ofDocument(const QString& path, const QSize& size)
+{
+    const ThumbnailCache cache(ThumbnailCache::usersFolder());
+    const QByteArray contents = WallDocuments::contents(path);
+    QImage canvas = cache.find(contents, size);
+    if (!canvas.isNull())
+        return canvas;
+    canvas = QImage(size, QImage::Format_RGB32);
+    canvas.fill(Qt::black);
+    const QImage picture = WallDocuments::picture(path, size);
+    QPainter(&canvas).drawImage((size.width() - picture.width()) / 2, (size.height() - picture.height()) / 2,
+                                picture);
+    cache.insert(contents, canvas);
+    return canvas;
+}
+
 QImage thumbnail(const QString& path, const QSize& size)
 {
+    if (WallDocuments::isDocument(path))
+        return ofDocument(path, size);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > longestRead)
         return scaled(&file, path, size);

@@ -1,6 +1,7 @@
 #include "chartdetails.h"
 
 #include "chartfolderlist.h"
+#include "walldocuments.h"
 
 #include <chartrecordfile.h>
 
@@ -10,6 +11,8 @@
 
 ChartDetails ChartDetails::read(const QString& imagePath)
 {
+    if (WallDocuments::isDocument(imagePath))
+        return WallDocuments::details(imagePath);
     ChartDetails details;
     details.size = QImageReader(imagePath).size();
     const QString record = ChartFolderList::recordPath(imagePath);

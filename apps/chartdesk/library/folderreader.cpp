@@ -2,6 +2,7 @@
 
 #include "chartfolderlist.h"
 #include "charttags.h"
+#include "walldocuments.h"
 
 #include <QCollator>
 #include <QDateTime>
@@ -17,6 +18,16 @@ ListedChart listed(const QFileInfo& image)
     const QString stamp =
         QStringLiteral("%1 %2").arg(image.size()).arg(image.lastModified().toMSecsSinceEpoch());
     return {image.filePath(), stamp, ChartTags::of(image.filePath())};
+}
+
+/// Walls and shows stand before the charts, by name.
+ListedCharts documents(const QString& folder)
+{
+    ListedCharts found;
+    const QStringList paths = WallDocuments::in(folder);
+    for (const QString& path : paths)
+        found.append(listed(QFileInfo(path)));
+    return found;
 }
 
 /// They come with the newest first.
@@ -60,7 +71,7 @@ public:
                 charts.append(listed(image));
         }
         sort(charts, wish);
-        return charts;
+        return documents(wish.folder) + charts;
     }
 
 private:
