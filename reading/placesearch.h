@@ -4,6 +4,7 @@
 #include "lens.h"
 #include "wallreading.h"
 
+#include <atomic>
 #include <chrono>
 
 namespace WallReading {
@@ -12,11 +13,18 @@ namespace WallReading {
 class Deadline
 {
 public:
-    bool isOver() const { return seconds() > mostSeconds; }
+    explicit Deadline(const std::atomic<bool>* canceled = nullptr)
+        : m_canceled(canceled)
+    {
+    }
+
+    bool isOver() const { return isCanceled() || seconds() > mostSeconds; }
+    bool isCanceled() const { return m_canceled && *m_canceled; }
     double seconds() const;
 
 private:
     static constexpr double mostSeconds = 16; ///< with what is left to do then it stays below 20
+    const std::atomic<bool>* m_canceled;
     std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
 };
 

@@ -81,9 +81,9 @@ void lookAtWhole(Reading& reading, const FoundPlace& place, const QSize& picture
 
 } // namespace
 
-Reading read(const QImage& picture, const Chart& chart)
+Reading read(const QImage& picture, const Chart& chart, const std::atomic<bool>* canceled)
 {
-    const Deadline deadline;
+    const Deadline deadline(canceled);
     Reading reading;
     if (picture.isNull() || chart.picture.isNull() || chart.cabinets.cabinets.empty()) {
         reading.doubt = Doubt::NoPicture;
@@ -92,6 +92,10 @@ Reading read(const QImage& picture, const Chart& chart)
     const cv::Mat seen = toMat(picture);
     const cv::Mat expected = toMat(chart.picture);
     const FoundPlace place = placeOf(expected, chart.cabinets, seen, deadline);
+    if (deadline.isCanceled()) {
+        reading.doubt = Doubt::OutOfTime;
+        return reading;
+    }
     reading.isLocated = place.isFound;
     reading.doubt = place.doubt;
     reading.alike = place.alike;

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QStringList>
 
+#include <atomic>
 #include <vector>
 
 /// Reads a wall from photographs, captures and video frames. Functions of values, for any thread; nothing is
@@ -38,8 +39,10 @@ struct Reading
     VDREADING_EXPORT QStringList sentences() const;
 };
 
-/// Looks for the chart in `picture`, and at each of its cabinets.
-VDREADING_EXPORT Reading read(const QImage& picture, const Chart& chart);
+/// Looks for the chart in `picture`, and at each of its cabinets. It ends soon, as if out of time, once
+/// `canceled` is true.
+VDREADING_EXPORT Reading read(const QImage& picture, const Chart& chart,
+                              const std::atomic<bool>* canceled = nullptr);
 
 /// What several pictures of one wall say together: what one of them does not show, or shows not well enough,
 /// another one may. Where they contradict one another nobody is accused. Place and straightened picture are

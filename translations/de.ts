@@ -704,6 +704,34 @@
         <translation>Graustufen</translation>
     </message>
     <message>
+        <source>Read a photo…</source>
+        <translation>Foto lesen…</translation>
+    </message>
+    <message>
+        <source>Walk the wrong ones</source>
+        <translation>Die falschen abgehen</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Show this chart on a display first.</source>
+        <translation>Dieses Bild zuerst auf einem Display zeigen.</translation>
+    </message>
+    <message>
+        <source>This picture has no record, so its cabinets are not known.</source>
+        <translation>Dieses Bild hat keine Aufzeichnung; seine Cabinets sind nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>This photo has too many pixels.</source>
+        <translation>Dieses Foto hat zu viele Pixel.</translation>
+    </message>
+    <message>
+        <source>This program was built without OpenCV, which reads photos.</source>
+        <translation>Dieses Programm wurde ohne OpenCV gebaut, das Fotos liest.</translation>
+    </message>
+    <message>
         <source>Walk through the cabinets</source>
         <translation>Cabinets abgehen</translation>
     </message>

@@ -704,6 +704,34 @@
         <translation>Grey steps</translation>
     </message>
     <message>
+        <source>Read a photo…</source>
+        <translation>Read a photo…</translation>
+    </message>
+    <message>
+        <source>Walk the wrong ones</source>
+        <translation>Walk the wrong ones</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Reading %1…</translation>
+    </message>
+    <message>
+        <source>Show this chart on a display first.</source>
+        <translation>Show this chart on a display first.</translation>
+    </message>
+    <message>
+        <source>This picture has no record, so its cabinets are not known.</source>
+        <translation>This picture has no record, so its cabinets are not known.</translation>
+    </message>
+    <message>
+        <source>This photo has too many pixels.</source>
+        <translation>This photo has too many pixels.</translation>
+    </message>
+    <message>
+        <source>This program was built without OpenCV, which reads photos.</source>
+        <translation>This program was built without OpenCV, which reads photos.</translation>
+    </message>
+    <message>
         <source>Walk through the cabinets</source>
         <translation>Walk through the cabinets</translation>
     </message>

@@ -704,6 +704,34 @@
         <translation>Escalones de gris</translation>
     </message>
     <message>
+        <source>Read a photo…</source>
+        <translation>Leer una foto…</translation>
+    </message>
+    <message>
+        <source>Walk the wrong ones</source>
+        <translation>Recorrer los erróneos</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Leyendo %1…</translation>
+    </message>
+    <message>
+        <source>Show this chart on a display first.</source>
+        <translation>Muestre primero esta carta en una pantalla.</translation>
+    </message>
+    <message>
+        <source>This picture has no record, so its cabinets are not known.</source>
+        <translation>Esta imagen no tiene registro; no se conocen sus gabinetes.</translation>
+    </message>
+    <message>
+        <source>This photo has too many pixels.</source>
+        <translation>Esta foto tiene demasiados píxeles.</translation>
+    </message>
+    <message>
+        <source>This program was built without OpenCV, which reads photos.</source>
+        <translation>Este programa se compiló sin OpenCV, que lee las fotos.</translation>
+    </message>
+    <message>
         <source>Walk through the cabinets</source>
         <translation>Recorrer los gabinetes</translation>
     </message>

@@ -704,6 +704,34 @@
         <translation>グレーの段階</translation>
     </message>
     <message>
+        <source>Read a photo…</source>
+        <translation>写真を読み取る…</translation>
+    </message>
+    <message>
+        <source>Walk the wrong ones</source>
+        <translation>誤りのものを順に表示</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 を読み取り中…</translation>
+    </message>
+    <message>
+        <source>Show this chart on a display first.</source>
+        <translation>先にこのチャートをディスプレイに表示してください。</translation>
+    </message>
+    <message>
+        <source>This picture has no record, so its cabinets are not known.</source>
+        <translation>この画像には記録がないため、キャビネットが分かりません。</translation>
+    </message>
+    <message>
+        <source>This photo has too many pixels.</source>
+        <translation>この写真はピクセル数が多すぎます。</translation>
+    </message>
+    <message>
+        <source>This program was built without OpenCV, which reads photos.</source>
+        <translation>このプログラムは写真の読み取りに必要な OpenCV なしでビルドされています。</translation>
+    </message>
+    <message>
         <source>Walk through the cabinets</source>
         <translation>キャビネットを巡回</translation>
     </message>

@@ -704,6 +704,34 @@
         <translation>灰阶</translation>
     </message>
     <message>
+        <source>Read a photo…</source>
+        <translation>读取照片…</translation>
+    </message>
+    <message>
+        <source>Walk the wrong ones</source>
+        <translation>依次显示有误的箱体</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>正在读取 %1…</translation>
+    </message>
+    <message>
+        <source>Show this chart on a display first.</source>
+        <translation>请先在显示器上显示此图。</translation>
+    </message>
+    <message>
+        <source>This picture has no record, so its cabinets are not known.</source>
+        <translation>此图片没有记录，因此不知道其箱体。</translation>
+    </message>
+    <message>
+        <source>This photo has too many pixels.</source>
+        <translation>这张照片的像素过多。</translation>
+    </message>
+    <message>
+        <source>This program was built without OpenCV, which reads photos.</source>
+        <translation>此程序构建时未包含读取照片所需的 OpenCV。</translation>
+    </message>
+    <message>
         <source>Walk through the cabinets</source>
         <translation>逐个走查箱体</translation>
     </message>

@@ -6,10 +6,11 @@
 #include "imageoutput.h"
 #include "outputfile.h"
 #include "readingjson.h"
-#include "readingpicture.h"
 #include "readingreport.h"
 #include "recordinput.h"
 #include "wantedchart.h"
+
+#include <readingpicture.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -104,7 +105,7 @@ ExitCode runRead(const Arguments& arguments)
     const WallReading::Reading reading = WallReading::combined(readings, chart);
     print(reading, pictures.size() == 1 ? inputName(first) : QStringLiteral("the wall"), arguments);
     if (!difference.isEmpty() && reading.isLocated)
-        writeOutput(difference, encodeImage(markedPicture(reading, chart), format));
+        writeOutput(difference, encodeImage(WallReading::markedPicture(reading, chart), format));
     if (!arguments.page.empty())
         writeOutput(QString::fromStdString(arguments.page), readingReport(reading, chart, first));
     return codeOf(reading);

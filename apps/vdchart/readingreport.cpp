@@ -1,6 +1,6 @@
 #include "readingreport.h"
 
-#include "readingpicture.h"
+#include <readingpicture.h>
 
 #include <QBuffer>
 
@@ -85,8 +85,10 @@ QString badCabinets(const Reading& reading, const Chart& chart)
             continue;
         rows += QStringLiteral("<tr class=\"pair\"><td>%1</td><td>%2</td><td>%3</td></tr>\n")
                     .arg(sentence(finding).toHtmlEscaped(),
-                         imageTag(cutOut(reading.rectified, chart, finding.cabinet), QStringLiteral("shown")),
-                         imageTag(cutOut(chart.picture, chart, finding.cabinet), QStringLiteral("expected")));
+                         imageTag(WallReading::cutOut(reading.rectified, chart, finding.cabinet),
+                                  QStringLiteral("shown")),
+                         imageTag(WallReading::cutOut(chart.picture, chart, finding.cabinet),
+                                  QStringLiteral("expected")));
     }
     if (rows.isEmpty())
         return rows;
@@ -105,9 +107,9 @@ QByteArray readingReport(const Reading& reading, const Chart& chart, const QStri
     text += sentenceList(reading);
     if (reading.isLocated) {
         text += plan(reading, chart);
-        text +=
-            QStringLiteral("<h2>What the wall shows</h2>\n<figure>%1</figure>\n")
-                .arg(imageTag(markedPicture(reading, chart), QStringLiteral("the straightened photograph")));
+        text += QStringLiteral("<h2>What the wall shows</h2>\n<figure>%1</figure>\n")
+                    .arg(imageTag(WallReading::markedPicture(reading, chart),
+                                  QStringLiteral("the straightened photograph")));
         text += badCabinets(reading, chart);
     }
     return (text + QStringLiteral("</body></html>\n")).toUtf8();

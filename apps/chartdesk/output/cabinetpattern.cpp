@@ -44,14 +44,19 @@ CabinetPattern::CabinetPattern(const TestChartToolsData& record, CabinetLook loo
     else if (look == CabinetLook::Column)
         addColumns(record);
     else
-        addCabinets(record, path);
+        addCabinets(record, walkOrder(record.publicData.boxRow, record.publicData.boxCol,
+                                      record.inLineData.serialSort, path));
 }
 
-void CabinetPattern::addCabinets(const TestChartToolsData& record, const WalkPath& path)
+CabinetPattern::CabinetPattern(const TestChartToolsData& record, const std::vector<CabinetPlace>& cabinets)
+    : m_look(CabinetLook::Highlight)
 {
-    const auto& wall = record.publicData;
-    for (const CabinetPlace& cabinet :
-         walkOrder(wall.boxRow, wall.boxCol, record.inLineData.serialSort, path))
+    addCabinets(record, cabinets);
+}
+
+void CabinetPattern::addCabinets(const TestChartToolsData& record, const std::vector<CabinetPlace>& cabinets)
+{
+    for (const CabinetPlace& cabinet : cabinets)
         m_steps.push_back({wholeCabinet(record, cabinet.row, cabinet.column),
                            ChartCabinets::label(record, cabinet.row, cabinet.column)});
 }

@@ -25,6 +25,10 @@ public:
     CabinetPattern(const vardeno::testcharttools::TestChartToolsData& record, CabinetLook look,
                    const WalkPath& path = {});
 
+    /// Highlights these, in their order.
+    CabinetPattern(const vardeno::testcharttools::TestChartToolsData& record,
+                   const std::vector<CabinetPlace>& cabinets);
+
     /// Of a step, in chart pixels.
     QRect place(int step) const { return m_steps.at(size_t(step)).place; }
     /// "B-3"; of a row or a column its part of the label.
@@ -43,7 +47,8 @@ private:
         QString label;
     };
 
-    void addCabinets(const vardeno::testcharttools::TestChartToolsData& record, const WalkPath& path);
+    void addCabinets(const vardeno::testcharttools::TestChartToolsData& record,
+                     const std::vector<CabinetPlace>& cabinets);
     void addRows(const vardeno::testcharttools::TestChartToolsData& record);
     void addColumns(const vardeno::testcharttools::TestChartToolsData& record);
 

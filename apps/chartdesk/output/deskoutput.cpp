@@ -4,10 +4,12 @@
 #include "editsession.h"
 #include "hosttext.h"
 #include "messagebox.h"
+#include "readdialog.h"
 #include "showdialog.h"
 #include "walk.h"
 
 #include <QAction>
+#include <QFileDialog>
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QLabel>
@@ -125,6 +127,8 @@ void DeskOutput::createMenu()
         else
             m_menu->addSeparator();
     }
+    m_menu->addSeparator();
+    m_read = add(hostSource("Read a photo…"), Qt::CTRL | Qt::SHIFT | Qt::Key_R, [this] { askPhoto(); });
 }
 
 void DeskOutput::retranslate()
@@ -145,6 +149,7 @@ void DeskOutput::update()
 {
     const bool hasChart = m_session->isOpen() || !m_charts.selected().isEmpty();
     m_show->setEnabled(hasChart || m_output.isOn());
+    m_read->setEnabled(!m_session->isOpen() && !m_charts.selected().isEmpty());
     m_live.setOn(m_output.isOn() && m_session->isOpen());
     if (m_output.isOn()) {
         m_output.setCharts(m_charts.all());
@@ -172,6 +177,25 @@ void DeskOutput::askPlace()
                      settings.value(QStringLiteral("output/place")).toPoint());
     connect(dialog, &QDialog::accepted, this, [this, dialog] { start(dialog->display(), dialog->place()); });
     dialog->open();
+}
+
+void DeskOutput::askPhoto()
+{
+    if (!canReadWalls()) {
+        readPhoto(QString());
+        return;
+    }
+    auto* dialog = new QFileDialog(m_window, hostTitle(QStringLiteral("Read a photo…")));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilter(QStringLiteral("*.jpg *.jpeg *.png *.bmp"));
+    connect(dialog, &QFileDialog::fileSelected, this, &DeskOutput::readPhoto);
+    dialog->open();
+}
+
+void DeskOutput::readPhoto(const QString& photo)
+{
+    (new ReadDialog(photo, m_charts.selected(), &m_output, m_window))->open();
 }
 
 void DeskOutput::start(const QString& display, const QPoint& at)

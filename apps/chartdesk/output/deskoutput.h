@@ -34,6 +34,9 @@ public:
     QMenu* menu() const { return m_menu; }
     QAction* showAction() const { return m_show; }
 
+    /// Tells what `photo` says of the selected chart.
+    void readPhoto(const QString& photo);
+
     void retranslate();
     /// Another chart is selected, another edit is open, or the list is another.
     void update();
@@ -43,6 +46,7 @@ private:
     QAction* addKey(const char* text, int key);
     void createMenu();
     void askPlace();
+    void askPhoto();
     QString chosenChart() const;
     void start(const QString& display, const QPoint& at);
     void showState();
@@ -55,5 +59,6 @@ private:
     QMenu* m_menu;
     QLabel* m_status;
     QAction* m_show = nullptr;
+    QAction* m_read = nullptr;
     QList<QAction*> m_whileOn;
 };

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -33,7 +34,7 @@ bool runsAtOnce(Walk::Mode mode)
 bool needsCabinets(Walk::Mode mode)
 {
     return mode == Walk::Mode::Cabinets || mode == Walk::Mode::Alone || mode == Walk::Mode::Row ||
-           mode == Walk::Mode::Column;
+           mode == Walk::Mode::Column || mode == Walk::Mode::Chosen;
 }
 
 LineDirection after(LineDirection direction)
@@ -53,7 +54,8 @@ void Walk::setChart(const ShownChart& chart)
 {
     const bool isSameWall = chart.record == m_chart.record && chart.picture.size() == m_chart.picture.size();
     m_chart = chart;
-    if (needsCabinets(m_mode) && !hasCabinets())
+    const bool isOfAnotherWall = m_mode == Mode::Chosen && !isSameWall;
+    if (isOfAnotherWall || (needsCabinets(m_mode) && !hasCabinets()))
         setMode(Mode::None);
     else if (!isSameWall)
         renewPattern();
@@ -76,6 +78,19 @@ void Walk::setMode(Mode mode)
     setRunning(runsAtOnce(mode)); // from the picture on, which may take longer than a frame
 }
 
+void Walk::walkThrough(const std::vector<CabinetPlace>& cabinets)
+{
+    if (!hasCabinets())
+        return;
+    const auto& wall = m_chart.record->publicData;
+    m_chosen.clear();
+    std::copy_if(cabinets.begin(), cabinets.end(), std::back_inserter(m_chosen), [&](const auto& cabinet) {
+        return cabinet.row >= 0 && cabinet.row < wall.boxRow && cabinet.column >= 0 &&
+               cabinet.column < wall.boxCol;
+    });
+    setMode(m_chosen.empty() ? Mode::None : Mode::Chosen);
+}
+
 std::shared_ptr<const OutputPattern> Walk::createPattern() const
 {
     const QSize size = m_chart.picture.size();
@@ -90,6 +105,8 @@ std::shared_ptr<const OutputPattern> Walk::createPattern() const
         return std::make_shared<CabinetPattern>(*m_chart.record, CabinetLook::Highlight, m_path);
     case Mode::Alone:
         return std::make_shared<CabinetPattern>(*m_chart.record, CabinetLook::Alone, m_path);
+    case Mode::Chosen:
+        return std::make_shared<CabinetPattern>(*m_chart.record, m_chosen);
     case Mode::Row:
         return std::make_shared<CabinetPattern>(*m_chart.record, CabinetLook::Row);
     case Mode::Column:

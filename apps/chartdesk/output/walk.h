@@ -24,6 +24,7 @@ public:
         White,
         Cabinets,
         Alone,
+        Chosen, ///< cabinets that somebody chose
         Row,
         Column,
         Line,
@@ -41,6 +42,8 @@ public:
     /// Begins at the first step, runs where that belongs to it; nothing happens without what it needs.
     void setMode(Mode mode);
     Mode mode() const { return m_mode; }
+    /// Begins to step through these cabinets; those that the chart does not have are left out.
+    void walkThrough(const std::vector<CabinetPlace>& cabinets);
     /// Whether keys step through something: not on the chart, on black or on white.
     bool isWalking() const;
     /// Whether the shown chart has cabinets.
@@ -85,6 +88,7 @@ private:
     ShownChart m_chart;
     Mode m_mode = Mode::None;
     WalkPath m_path;
+    std::vector<CabinetPlace> m_chosen;
     LineDirection m_direction = LineDirection::Horizontal;
     std::shared_ptr<const OutputPattern> m_pattern;
     FramePacer m_pacer;

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-using namespace WallReading;
+namespace WallReading {
 
 namespace {
 
@@ -41,3 +41,5 @@ QImage cutOut(const QImage& picture, const Chart& chart, const Place& cabinet)
 {
     return picture.copy(rectIn(picture, chart, cabinet).toAlignedRect());
 }
+
+} // namespace WallReading

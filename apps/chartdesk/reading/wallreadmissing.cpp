@@ -1,0 +1,17 @@
+#include "wallread.h"
+
+#include "hosttext.h"
+
+/// Where the program was built without OpenCV.
+bool canReadWalls()
+{
+    return false;
+}
+
+WallRead readWall(const QString&, const QString&, const vardeno::testcharttools::ChartCaptions&,
+                  const std::atomic<bool>&)
+{
+    WallRead read;
+    read.problem = hostText(QStringLiteral("This program was built without OpenCV, which reads photos."));
+    return read;
+}
