@@ -94,6 +94,21 @@ QString known(qint64 number)
     return number > 0 ? QString::number(number) : QString();
 }
 
+QByteArray cableLine(const char* kind, const CableRow& row)
+{
+    QStringList cells = {QLatin1String(kind),
+                         QString::number(row.number),
+                         cell(row.first),
+                         cell(row.last),
+                         QString::number(row.cabinets),
+                         QString::number(row.pixels),
+                         QString::number(100 * row.load, 'f', 1),
+                         known(row.watts)};
+    cells.append(row.watts > 0 ? QString::number(row.amperes, 'f', 2) : QString());
+    cells.append({known(row.linkLength), known(row.longestLink)});
+    return cells.join(QLatin1Char(',')).toUtf8() + "\r\n";
+}
+
 } // namespace
 
 std::vector<CableRow> dataRows(const WallDocument& wall, const testcharttools::TestChartToolsData& record)
@@ -131,6 +146,17 @@ QByteArray csv(const WallDocument& wall, const testcharttools::TestChartToolsDat
             cells.append(known(number));
         table += cells.join(QLatin1Char(',')).toUtf8() + "\r\n";
     }
+    return table;
+}
+
+QByteArray cableCsv(const WallDocument& wall, const testcharttools::TestChartToolsData& record)
+{
+    QByteArray table =
+        "cable,number,first,last,cabinets,pixels,load percent,watts,amperes,links mm,longest link mm\r\n";
+    for (const CableRow& row : dataRows(wall, record))
+        table += cableLine("port", row);
+    for (const CableRow& row : powerRows(wall, record))
+        table += cableLine("circuit", row);
     return table;
 }
 

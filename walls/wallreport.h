@@ -38,6 +38,11 @@ VDWALLS_EXPORT std::vector<CableRow> powerRows(const WallDocument& wall,
 /// the place in the cable, watts and grams. What is not known is empty.
 VDWALLS_EXPORT QByteArray csv(const WallDocument& wall, const testcharttools::TestChartToolsData& record);
 
+/// A table of the ports and circuits likewise: what feeds which cabinets, its load in percent, watts, amperes
+/// and the lengths of its links in millimetres.
+VDWALLS_EXPORT QByteArray cableCsv(const WallDocument& wall,
+                                   const testcharttools::TestChartToolsData& record);
+
 /// The wall as it looks from the back: left and right exchanged, every cabinet with the name and in the
 /// cables that it has in front.
 VDWALLS_EXPORT WallDocument mirrored(const WallDocument& wall,

@@ -17,6 +17,7 @@ struct WallArguments
     bool backAndForth = false;
     bool eachLine = false;
     bool backup = false;
+    bool cableTable = false; ///< of a report: ports and circuits instead of cabinets
     int portPixels = 655360;
     int bitDepth = 8;
     int frameRate = 60;

@@ -274,6 +274,7 @@ void CommandLine::addWall()
         ->check(problemOfPath);
     command->add_option("-o,--output", m_arguments.output, "The report: .pdf, or .csv for its cabinets")
         ->type_name("FILE");
+    command->add_flag("--cables", wall.cableTable, "With .csv: a table of ports and circuits");
     command->add_option("-n,--name", wall.name, "What the wall is called")->type_name("NAME");
     command
         ->add_option("--cabinet", wall.cabinet,

@@ -151,6 +151,8 @@ ExitCode report(const Arguments& arguments)
         throw Failure{ExitCode::Usage, QStringLiteral("wall report: WALL and -o FILE are needed")};
     if (!isCsv && !path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
         throw Failure{ExitCode::Usage, QStringLiteral("%1: a report ends in .pdf or .csv").arg(path)};
+    if (arguments.wall.cableTable && !isCsv)
+        throw Failure{ExitCode::Usage, QStringLiteral("%1: --cables is for .csv").arg(path)};
     const QString source = QString::fromStdString(arguments.record);
     const ChartInput chart = requireChart(source, {});
     if (!chart.wall)
@@ -163,7 +165,8 @@ ExitCode report(const Arguments& arguments)
     claims.protect(path);
     const ChartApplication application; // for the fonts of the pages
     if (isCsv) {
-        writeOutput(path, WallReport::csv(*chart.wall, chart.record));
+        writeOutput(path, arguments.wall.cableTable ? WallReport::cableCsv(*chart.wall, chart.record)
+                                                    : WallReport::csv(*chart.wall, chart.record));
         return ExitCode::Good;
     }
     const QString problem = WallReport::writePdf(path, *chart.wall, chart.record);

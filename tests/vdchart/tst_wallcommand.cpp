@@ -207,6 +207,9 @@ private Q_SLOTS:
         QCOMPARE(run({"wall", "report", "r.wall.json", "-o", "r.csv"}).code, 0);
         QCOMPARE(read("r.csv").split('\n').size(), 6 + 2); // a head, six cabinets, and nothing
         QVERIFY(read("r.csv").startsWith("name,"));
+        QCOMPARE(run({"wall", "report", "--cables", "r.wall.json", "-o", "c.csv"}).code, 0);
+        QVERIFY(read("c.csv").contains("\r\nport,1,"));
+        QCOMPARE(run({"wall", "report", "--cables", "r.wall.json", "-o", "r.pdf"}).code, 2);
         QCOMPARE(run({"wall", "report", "r.wall.json", "-o", "r.pdf"}).code, 0);
         QVERIFY(read("r.pdf").startsWith("%PDF"));
     }

@@ -75,6 +75,24 @@ private Q_SLOTS:
         QCOMPARE(lines[2], QByteArray("\"Left, \"\"upper\"\"\",2,1,1,1,100,0,50,50,90,1,1,,,,2001\r"));
     }
 
+    void cables()
+    {
+        WallDocument wall = wallOf({100, 50}, {50});
+        wall.physical.pitch = 10000;
+        wall.physical.watts = 230;
+        wall.exceptions.list = {spanning(1, 0, 1, 1)};
+        wall.exceptions.list.front().name = "Left, 2";
+        wall.data.portPixels = 10000;
+        const QList<QByteArray> lines = WallReport::cableCsv(wall, {}).split('\n');
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines[0].startsWith("cable,number,first,"));
+        QCOMPARE(lines[1], QByteArray("port,1,A-A,\"Left, 2\",2,7500,75.0,345,1.50,750,750\r"));
+        QCOMPARE(lines[2], QByteArray("circuit,1,A-A,\"Left, 2\",2,7500,11.5,345,1.50,750,750\r"));
+        wall.physical = {};
+        QCOMPARE(WallReport::cableCsv(wall, {}).split('\n').at(1),
+                 QByteArray("port,1,A-A,\"Left, 2\",2,7500,75.0,,,,\r"));
+    }
+
     /// Names and cables stay with their cabinets.
     void theBack()
     {
