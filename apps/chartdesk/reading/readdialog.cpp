@@ -83,6 +83,8 @@ void ReadDialog::show(const WallRead& read)
         m_plan->show();
     }
     adjustSize();
+    if (parentWidget()) // it has grown from where it was
+        move(parentWidget()->geometry().center() - rect().center());
     updateWalk();
 }
 
