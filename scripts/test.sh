@@ -70,8 +70,8 @@ if [ -n "$all" ]; then
   cmake --build --preset benchmarks
   step 'Packages'
   scripts/package.sh
-  step 'Hosts'
-  ctest --preset dev -C Thorough -R '^hosts$'
+  step 'Hosts, kills and full disks'
+  ctest --preset dev -C Thorough -R '^(hosts|kills|fulldisk)$'
   step 'Reference'
   scripts/reference.sh
   step 'clang-tidy'

@@ -1,10 +1,11 @@
 #include "cableruns.h"
+#include "records/documentfile.h"
 #include "wallpicture.h"
 #include "wallreport.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 #include <map>
 
@@ -285,9 +286,8 @@ void writePages(QPdfWriter& writer, const WallDocument& wall, const TestChartToo
 
 QString writePdf(const QString& path, const WallDocument& wall, const TestChartToolsData& record)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
+    QBuffer file; // what the writer could not write it does not tell
+    file.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&file);
         writer.setResolution(dotsPerInch);
@@ -297,7 +297,7 @@ QString writePdf(const QString& path, const WallDocument& wall, const TestChartT
         writer.setTitle(QString::fromStdString(wall.name));
         writePages(writer, wall, record);
     }
-    return file.commit() ? QString() : file.errorString();
+    return saveDocument(path, file.data());
 }
 
 } // namespace vardeno::walls::WallReport

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QSysInfo>
 #include <QUuid>
@@ -115,6 +116,46 @@ void removeEmptyFolders(QString folder, const QString& last)
         folder = QFileInfo(folder).path();
 }
 
+/// What belongs to a chart alone, the picture that is seen first.
+QStringList filesOf(const QFileInfo& image)
+{
+    const QString folder = image.path();
+    const QFileInfo record(ChartFolderList::recordPath(image.filePath()));
+    const QString picture =
+        QString::fromStdString(ChartRecordFile::read(record.filePath()).record.logoData.picturePath);
+    QStringList files = {image.filePath()};
+    if (!isRecordShared(image))
+        files += record.filePath();
+    if (!isRecordShared(image) && !pathWithin(folder, picture).isEmpty() &&
+        !isOfAnotherChart(picture, record))
+        files += QDir::cleanPath(picture);
+    const QFileInfoList images = ChartFolderList::imagesIn(folder);
+    if (std::all_of(images.cbegin(), images.cend(), [&](const QFileInfo& other) { return other == image; }))
+        files += folder + QLatin1Char('/') + ChartTags::fileName();
+    return files;
+}
+
+bool holdsOnly(const QString& folder, const QStringList& files)
+{
+    QDirIterator all(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                     QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+        const QString path = QDir::cleanPath(all.next());
+        if ((!all.fileInfo().isDir() || all.fileInfo().isSymLink()) && !files.contains(path))
+            return false;
+    }
+    return true;
+}
+
+/// Takes a folder out of sight with all that is in it, and then apart: whatever happens meanwhile leaves all
+/// of it or what the next start sweeps.
+bool removeAtOnce(const QString& folder)
+{
+    ChartStore store(QFileInfo(folder).path());
+    const QString hidden = store.nextSaveRoot();
+    return QDir().mkpath(QFileInfo(hidden).path()) && QDir().rename(folder, hidden);
+}
+
 } // namespace
 
 ChartStore::ChartStore(const QString& folder)
@@ -206,21 +247,14 @@ QByteArray recordDigest(const QString& imagePath)
 
 void removeChartFiles(const QString& imagePath)
 {
-    const QFileInfo image(imagePath);
-    const QFileInfo record(ChartFolderList::recordPath(imagePath));
-    const QString folder = image.path();
-    const QString picture =
-        QString::fromStdString(ChartRecordFile::read(record.filePath()).record.logoData.picturePath);
-    QFile::remove(imagePath);
-    if (!isRecordShared(image)) {
-        const bool isOwn = !pathWithin(folder, picture).isEmpty() && !isOfAnotherChart(picture, record);
-        QFile::remove(record.filePath());
-        if (isOwn && QFile::remove(picture))
-            removeEmptyFolders(QFileInfo(picture).path(), folder);
+    const QString folder = QFileInfo(imagePath).path();
+    const QStringList files = filesOf(QFileInfo(imagePath));
+    if (holdsOnly(folder, files) && removeAtOnce(folder))
+        return;
+    for (const QString& file : files) {
+        QFile::remove(file);
+        removeEmptyFolders(QFileInfo(file).path(), folder);
     }
-    if (ChartFolderList::imagesIn(folder).isEmpty())
-        QFile::remove(folder + QLatin1Char('/') + ChartTags::fileName());
-    QDir().rmdir(folder);
 }
 
 QString pathWithin(const QString& folder, const QString& picture)

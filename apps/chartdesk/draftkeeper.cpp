@@ -97,7 +97,7 @@ bool DraftFolder::write(const Draft& draft) const
 {
     QSaveFile file(draftPath());
     return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(toJson(draft)).toJson()) > 0 &&
-           file.commit();
+           file.flush() && file.commit(); // which alone does not see a full disk
 }
 
 void DraftFolder::remove()

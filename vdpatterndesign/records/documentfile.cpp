@@ -9,6 +9,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cerrno>
 
 namespace vardeno::testcharttools {
 
@@ -124,9 +125,14 @@ QString saveDocument(const QString& path, const QByteArray& json)
     if (isSpecial(QFileInfo(path)))
         return QStringLiteral("not a regular file"); // which a new file would replace
     QSaveFile file(path);
+    errno = 0;
     const bool written =
         file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.flush() && file.commit();
-    return written ? QString() : file.errorString();
+    const int errorNumber = errno;
+    if (written)
+        return {};
+    // A write that the disk takes in part leaves the file without a reason.
+    return file.error() == QFileDevice::NoError ? qt_error_string(errorNumber) : file.errorString();
 }
 
 } // namespace vardeno::testcharttools

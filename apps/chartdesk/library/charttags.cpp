@@ -46,9 +46,10 @@ QString set(const QString& imagePath, const QStringList& tags)
         return {};
     }
     QSaveFile file(pathOf(imagePath));
-    if (file.open(QIODevice::WriteOnly))
-        file.write(tags.join(QLatin1Char('\n')).toUtf8() + '\n');
-    return file.commit() ? QString() : file.fileName() + QLatin1String(": ") + file.errorString();
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.write(tags.join(QLatin1Char('\n')).toUtf8() + '\n') > 0 && file.flush() &&
+                           file.commit();
+    return isWritten ? QString() : file.fileName() + QLatin1String(": ") + file.errorString();
 }
 
 } // namespace ChartTags

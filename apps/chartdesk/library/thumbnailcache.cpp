@@ -20,7 +20,7 @@ void ThumbnailCache::insert(const QByteArray& bytes, const QImage& picture) cons
 {
     QDir().mkpath(m_folder);
     QSaveFile file(path(bytes, picture.size())); // another desk may write the same
-    if (file.open(QIODevice::WriteOnly) && picture.save(&file, "png", 80))
+    if (file.open(QIODevice::WriteOnly) && picture.save(&file, "png", 80) && file.flush())
         file.commit();
 }
 
