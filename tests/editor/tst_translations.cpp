@@ -142,9 +142,9 @@ QStringList hostSources()
         "\\(((?:\\s*\"[^\"]*\")+)\\)"));
     QStringList found;
     QFileInfoList sources = {QFileInfo(sourcePath("vdpatterndesign/support/chartlanguages.cpp"))};
-    for (const char* folder : {"apps/chartdesk", "apps/chartdesk/home", "apps/chartdesk/library",
-                               "apps/chartdesk/output", "apps/chartdesk/reading", "apps/chartdesk/walls",
-                               "apps/common"})
+    for (const char* folder :
+         {"apps/chartdesk", "apps/chartdesk/home", "apps/chartdesk/library", "apps/chartdesk/output",
+          "apps/chartdesk/reading", "apps/chartdesk/walls", "apps/common"})
         sources += QDir(sourcePath(folder)).entryInfoList({QStringLiteral("*.cpp")}, QDir::Files);
     for (const QFileInfo& info : qAsConst(sources)) {
         QFile file(info.filePath());
