@@ -182,6 +182,14 @@ struct VDWALLS_EXPORT WallDocument
     WallSwitches layers;
 };
 
+/// Whether all that a document says of them is the same.
+VDWALLS_EXPORT bool operator==(const WallDocument& a, const WallDocument& b);
+
+inline bool operator!=(const WallDocument& a, const WallDocument& b)
+{
+    return !(a == b);
+}
+
 } // namespace vardeno::walls
 
 Q_DECLARE_METATYPE(vardeno::walls::WallDocument)

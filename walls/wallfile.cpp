@@ -52,6 +52,13 @@ QStringList documentOrder()
     return order;
 }
 
+QJsonObject documentOf(const WallDocument& wall, const QJsonObject& original)
+{
+    fieldvisitors::DocumentWriter writer(original);
+    visitWall(writer, wall);
+    return writer.document;
+}
+
 ChartRecordFile::Reading inlineRecord(const InlineRecord& record, const QString& folder = {})
 {
     return ChartRecordFile::fromJson(QJsonDocument(record.document).toJson(QJsonDocument::Compact), folder);
@@ -109,9 +116,7 @@ bool isWall(const QByteArray& json)
 
 QByteArray toJson(const WallDocument& wall, const QJsonObject& original)
 {
-    fieldvisitors::DocumentWriter writer(withHead(original, wallKind));
-    visitWall(writer, wall);
-    return jsonText(writer.document, documentOrder());
+    return jsonText(documentOf(wall, withHead(original, wallKind)), documentOrder());
 }
 
 Reading fromJson(const QByteArray& json)
@@ -176,3 +181,8 @@ Chart chartOf(const WallDocument& wall, const QString& folder)
 }
 
 } // namespace vardeno::walls::WallFile
+
+bool vardeno::walls::operator==(const WallDocument& a, const WallDocument& b)
+{
+    return WallFile::documentOf(a, {}) == WallFile::documentOf(b, {});
+}

@@ -151,6 +151,22 @@ private Q_SLOTS:
     }
 
     /// What the defaults are, a document of the head alone has.
+    void equalWallsHaveEqualDocuments()
+    {
+        const WallDocument wall;
+        WallDocument other;
+        QVERIFY(wall == other);
+        other.exceptions.list.push_back({{1, 1}, false, 90, 1, 1, {}, {}});
+        QVERIFY(wall != other);
+        WallDocument turned = other;
+        QVERIFY(turned == other);
+        turned.exceptions.list.front().turned = 180;
+        QVERIFY(turned != other);
+        other = wall;
+        other.layers.nameColor.blue = 1;
+        QVERIFY(wall != other);
+    }
+
     void theHeadIsEnough()
     {
         const WallFile::Reading reading = WallFile::fromJson(document(""));

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int leastNamed = 30;    ///< of a cabinet that shows its name, in pixels of the screen
 constexpr int leastOutlined = 4;  ///< likewise, that has lines around it
+constexpr int leastCabled = 12;   ///< likewise, whose cables are more than thin lines
 constexpr int leastPixelGrid = 8; ///< of a pixel of the wall, likewise
 
 const QColor darkCabinet(38, 43, 54);
@@ -126,13 +127,17 @@ void WallCanvas::drawRuns(QPainter& painter, bool isData)
     const int side = std::min(usual.width(), usual.height());
     const int away = isData ? -side / 10 : side / 10;
     const QPoint shift(away, away);
-    painter.setRenderHint(QPainter::Antialiasing, side >= 12);
+    const bool isThin = side < leastCabled; // antialiased or dotted they would take the longest of all
+    painter.setRenderHint(QPainter::Antialiasing, !isThin);
     for (std::size_t i = 0; i < runs.size(); ++i) {
         QPolygon line;
         for (const int cabinet : runs[i].cabinets)
             line.append(toView(m_model->plan().cabinets()[std::size_t(cabinet)].rect).center() + shift);
+        if (!line.boundingRect().adjusted(-side, -side, side, side).intersects(viewport()->rect()))
+            continue;
         const QColor color = cableColor(i, isData);
-        painter.setPen(QPen(color, std::clamp(side / 24.0, 1.0, 4.0), isData ? Qt::SolidLine : Qt::DotLine));
+        painter.setPen(QPen(color, isThin ? 1 : std::clamp(side / 24.0, 1.0, 4.0),
+                            isData || isThin ? Qt::SolidLine : Qt::DotLine));
         painter.setBrush(color);
         painter.drawPolyline(line);
         const int mark = std::clamp(side / 9, 1, 7);
@@ -151,6 +156,8 @@ void WallCanvas::drawSelection(QPainter& painter)
     painter.setPen(QPen(color, 2));
     for (const Place place : m_selection) {
         const QRect view = rectOf(place);
+        if (!view.intersects(viewport()->rect()))
+            continue;
         painter.fillRect(view, veil);
         if (view.width() > 8 && view.height() > 8)
             painter.drawRect(view.adjusted(1, 1, -2, -2));

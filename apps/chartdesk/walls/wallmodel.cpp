@@ -94,7 +94,7 @@ const std::vector<CableRun>& WallModel::powerRuns()
 
 void WallModel::change(const QString& text, const WallDocument& wall, const QString& series)
 {
-    if (WallFile::toJson(wall) != WallFile::toJson(*m_wall))
+    if (wall != *m_wall)
         m_history.push(new WallChange(*this, text, std::make_shared<const WallDocument>(wall), series));
 }
 
