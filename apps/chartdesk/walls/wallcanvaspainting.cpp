@@ -14,7 +14,7 @@ namespace {
 
 constexpr int leastNamed = 30;    ///< of a cabinet that shows its name, in pixels of the screen
 constexpr int leastOutlined = 4;  ///< likewise, that has lines around it
-constexpr int leastCabled = 12;   ///< likewise, whose cables are more than thin lines
+constexpr int leastCabled = 20;   ///< likewise, whose cables are more than thin lines
 constexpr int leastPixelGrid = 8; ///< of a pixel of the wall, likewise
 
 const QColor darkCabinet(38, 43, 54);
@@ -40,6 +40,14 @@ QPolygon turnedCorner(const QRect& view, int degrees)
     const QPoint across(corner.x() == view.left() ? side : -side, 0);
     const QPoint down(0, corner.y() == view.top() ? side : -side);
     return QPolygon(QVector<QPoint>{corner, corner + across, corner + down});
+}
+
+/// A round mark where a cable begins, a square one where it ends.
+void drawEnds(QPainter& painter, const QPolygon& line, int mark)
+{
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(line.first(), mark, mark);
+    painter.drawRect(QRect(line.last() - QPoint(mark, mark) / 2, QSize(mark, mark)));
 }
 
 } // namespace
@@ -119,7 +127,7 @@ void WallCanvas::drawNames(QPainter& painter, const QRect& seen)
     }
 }
 
-/// From middle to middle, those of data a little above those of power: from a round mark to a square one.
+/// From middle to middle, those of data a little above those of power.
 void WallCanvas::drawRuns(QPainter& painter, bool isData)
 {
     const std::vector<CableRun>& runs = isData ? m_model->dataRuns() : m_model->powerRuns();
@@ -140,10 +148,8 @@ void WallCanvas::drawRuns(QPainter& painter, bool isData)
                             isData || isThin ? Qt::SolidLine : Qt::DotLine));
         painter.setBrush(color);
         painter.drawPolyline(line);
-        const int mark = std::clamp(side / 9, 1, 7);
-        painter.setPen(Qt::NoPen);
-        painter.drawEllipse(line.first(), mark, mark);
-        painter.drawRect(QRect(line.last() - QPoint(mark, mark) / 2, QSize(mark, mark)));
+        if (!isThin)
+            drawEnds(painter, line, std::clamp(side / 9, 1, 7));
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
