@@ -12,7 +12,7 @@ using namespace vardeno::walls;
 
 namespace {
 
-constexpr int leastNamed = 30;    ///< of a cabinet that shows its name, in pixels of the screen
+constexpr int leastNamed = 44;    ///< of a cabinet that shows its name, in pixels of the screen
 constexpr int leastOutlined = 4;  ///< likewise, that has lines around it
 constexpr int leastCabled = 20;   ///< likewise, whose cables are more than thin lines
 constexpr int leastPixelGrid = 8; ///< of a pixel of the wall, likewise
@@ -133,6 +133,8 @@ void WallCanvas::drawRuns(QPainter& painter, bool isData)
     const std::vector<CableRun>& runs = isData ? m_model->dataRuns() : m_model->powerRuns();
     const QSize usual = m_model->plan().usualCabinet() * m_zoom;
     const int side = std::min(usual.width(), usual.height());
+    if (side < leastOutlined)
+        return; // they would only cover the wall
     const int away = isData ? -side / 10 : side / 10;
     const QPoint shift(away, away);
     const bool isThin = side < leastCabled; // antialiased or dotted they would take the longest of all
