@@ -10,20 +10,6 @@ class TestEditSession : public EditTestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { makeHome(); }
-
-    void init()
-    {
-        TestCase::init();
-        makeFolder();
-    }
-
-    void cleanup()
-    {
-        leave();
-        TestCase::cleanup();
-    }
-
     void neighboursStay_data()
     {
         QTest::addColumn<QString>("button");

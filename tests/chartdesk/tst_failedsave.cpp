@@ -10,20 +10,6 @@ class TestFailedSave : public EditTestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { makeHome(); }
-
-    void init()
-    {
-        TestCase::init();
-        makeFolder();
-    }
-
-    void cleanup()
-    {
-        leave();
-        TestCase::cleanup();
-    }
-
     void aFailedSaveCanBeRepeated_data()
     {
         QTest::addColumn<QString>("button");

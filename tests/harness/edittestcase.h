@@ -16,6 +16,8 @@
 /// A desk with a home and a folder of its own, for tests of edits.
 class EditTestCase : public TestCase
 {
+    Q_OBJECT
+
 protected:
     QTemporaryDir m_home;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -108,7 +110,8 @@ protected:
         return false;
     }
 
-    void makeHome()
+protected Q_SLOTS:
+    void initTestCase()
     {
         qputenv("HOME", m_home.path().toUtf8());
         for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
@@ -118,12 +121,17 @@ protected:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }
 
-    void makeFolder() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void init()
+    {
+        TestCase::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+    }
 
-    void leave()
+    void cleanup()
     {
         m_window.reset();
         QDir(draftsRoot()).removeRecursively();
         TranslateManager1::instance().switchLanguage(QString());
+        TestCase::cleanup();
     }
 };
