@@ -146,10 +146,7 @@ Reading read(const QString& path)
 QString write(const QString& path, const WallDocument& wall, const QJsonObject& original)
 {
     const QByteArray json = toJson(wall, original);
-    const QStringList problems = fromJson(json).problems;
-    const QString problem =
-        problems.isEmpty() ? saveDocument(path, json) : problems.join(QLatin1String("; "));
-    return problem.isEmpty() ? QString() : path + QLatin1String(": ") + problem;
+    return saveReadable(path, json, fromJson(json).problems);
 }
 
 QByteArray schema()

@@ -175,10 +175,7 @@ QString write(const QString& path, const TestChartToolsData& record, const QJson
 {
     const QString folder = QFileInfo(path).absolutePath();
     const QByteArray json = toJson(storedRecord(record, folder, original), original);
-    const QStringList problems = fromJson(json).problems;
-    const QString problem =
-        problems.isEmpty() ? saveDocument(path, json) : problems.join(QLatin1String("; "));
-    return problem.isEmpty() ? QString() : path + QLatin1String(": ") + problem;
+    return saveReadable(path, json, fromJson(json).problems);
 }
 
 QString setField(TestChartToolsData& record, const QString& assignment)

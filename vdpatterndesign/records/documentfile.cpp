@@ -135,4 +135,11 @@ QString saveDocument(const QString& path, const QByteArray& json)
     return file.error() == QFileDevice::NoError ? qt_error_string(errorNumber) : file.errorString();
 }
 
+QString saveReadable(const QString& path, const QByteArray& json, const QStringList& problems)
+{
+    const QString problem =
+        problems.isEmpty() ? saveDocument(path, json) : problems.join(QLatin1String("; "));
+    return problem.isEmpty() ? QString() : path + QLatin1String(": ") + problem;
+}
+
 } // namespace vardeno::testcharttools

@@ -52,4 +52,9 @@ VDCHARTCORE_EXPORT DocumentBytes readDocument(const QString& path);
 /// Writes the file `path`, whole or not at all. Returns the reason where it is not written.
 VDCHARTCORE_EXPORT QString saveDocument(const QString& path, const QByteArray& json);
 
+/// The same with a document in which its own reader finds `problems`: one that could not be read again is not
+/// written. Returns "wall.json: " and why it is not.
+VDCHARTCORE_EXPORT QString saveReadable(const QString& path, const QByteArray& json,
+                                        const QStringList& problems);
+
 } // namespace vardeno::testcharttools
