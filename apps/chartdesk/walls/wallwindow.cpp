@@ -1,5 +1,6 @@
 #include "wallwindow.h"
 
+#include "deskdialogs.h"
 #include "hosttext.h"
 #include "messagebox.h"
 #include "wallcanvas.h"
@@ -65,7 +66,7 @@ WallWindow::WallWindow(QWidget* parent)
     });
     connect(&TranslateManager1::instance(), &TranslateManager1::languageChanged, this,
             &WallWindow::retranslate);
-    resize(windowSize);
+    DeskDialogs::resizeWithinScreen(this, windowSize);
     retranslate();
     m_canvas->setFocus();
 }
