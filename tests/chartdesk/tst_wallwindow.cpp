@@ -54,14 +54,20 @@ private:
         QTest::mouseClick(canvas().viewport(), Qt::LeftButton, keys, middle(column, row));
     }
 
+    void press(const QPoint& at) const { QTest::mousePress(canvas().viewport(), Qt::LeftButton, {}, at); }
+
+    void pull(const QPoint& to) const
+    {
+        QMouseEvent move(QEvent::MouseMove, to, canvas().viewport()->mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QCoreApplication::sendEvent(canvas().viewport(), &move);
+    }
+
     void drag(const QPoint& from, const std::vector<QPoint>& way) const
     {
-        QTest::mousePress(canvas().viewport(), Qt::LeftButton, {}, from);
-        for (const QPoint& to : way) {
-            QMouseEvent move(QEvent::MouseMove, to, canvas().viewport()->mapToGlobal(to), Qt::NoButton,
-                             Qt::LeftButton, {});
-            QCoreApplication::sendEvent(canvas().viewport(), &move);
-        }
+        press(from);
+        for (const QPoint& to : way)
+            pull(to);
         QTest::mouseRelease(canvas().viewport(), Qt::LeftButton, {}, way.back());
     }
 
@@ -148,15 +154,43 @@ private Q_SLOTS:
         QCOMPARE(WallEdit::exceptionAt(wall(), {2, 0}).turned, 90);
     }
 
-    void edgesAreDragged()
+    void theWindowFitsItsScreen()
     {
         openWall();
+        const QSize room = m_window->screen()->availableSize();
+        QVERIFY(m_window->width() <= room.width() && m_window->height() <= room.height());
+    }
+
+    void edgesAreDragged_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("as it opens") << QSize();
+        QTest::newRow("the wall as wide as its window") << QSize(800, 900);
+        QTest::newRow("the wall as high as its window") << QSize(1280, 560);
+    }
+
+    void edgesAreDragged()
+    {
+        QFETCH(QSize, size);
+        openWall();
+        if (size.isValid()) {
+            m_window->resize(size);
+            QTRY_COMPARE(m_window->size(), size);
+        }
         const QRect column = canvas().rectOf({1, 1});
         const QPoint edge(column.right() + 1, column.center().y());
         const int pixels = qRound(30 / canvas().zoom());
-        drag(edge, {edge + QPoint(10, 0), edge + QPoint(30, 0)});
+        const double whole = canvas().zoom();
+        press(edge);
+        for (const int way : {10, 60, 30}) {
+            pull(edge + QPoint(way, 0));
+            QVERIFY(std::abs(canvas().rectOf({1, 1}).right() + 1 - edge.x() - way) <= canvas().zoom());
+        }
+        QTest::mouseRelease(canvas().viewport(), Qt::LeftButton, {}, edge + QPoint(30, 0));
         QCOMPARE(wall().columnWidths.pixels, (std::vector<int>{64, 64 + pixels, 64, 64}));
         QCOMPARE(model().history()->count(), 1); // one step, however the mouse went
+        QVERIFY(canvas().zoom() <= whole);       // and afterwards the whole is seen again
+        QVERIFY(canvas().viewport()->rect().contains(canvas().rectOf({3, 2})));
         const QRect row = canvas().rectOf({1, 1});
         drag({row.center().x(), row.bottom() + 1}, {{row.center().x(), row.bottom() - 19}});
         QVERIFY(wall().rowHeights.pixels[1] < 64);

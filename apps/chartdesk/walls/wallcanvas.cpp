@@ -66,13 +66,20 @@ void WallCanvas::takeWall()
         m_current = {};
     const bool isOther = kept.size() != m_selection.size();
     m_selection = kept;
+    if (!m_isHeld)
+        fit();
+    redraw();
+    if (isOther)
+        Q_EMIT selectionChanged();
+}
+
+/// The view follows the size of the wall and of the window.
+void WallCanvas::fit()
+{
     if (m_isWhole)
         showWhole();
     else
         updateBars();
-    redraw();
-    if (isOther)
-        Q_EMIT selectionChanged();
 }
 
 void WallCanvas::redraw()
@@ -97,6 +104,8 @@ void WallCanvas::updateBars()
 /// Where the wall's first pixel lies in the viewport; a small wall in the middle.
 QPointF WallCanvas::origin() const
 {
+    if (m_isHeld)
+        return m_heldOrigin;
     const QSizeF wall = QSizeF(m_model->plan().size()) * m_zoom;
     const auto begin = [](double side, int room, const QScrollBar* bar) {
         return bar->maximum() > 0 ? double(canvasMargin - bar->value()) : std::floor((room - side) / 2);
@@ -281,10 +290,7 @@ void WallCanvas::zoomAt(double zoom, const QPointF& at)
 void WallCanvas::resizeEvent(QResizeEvent* event)
 {
     QAbstractScrollArea::resizeEvent(event);
-    if (m_isWhole)
-        showWhole();
-    else
-        updateBars();
+    fit();
     redraw();
 }
 
@@ -347,8 +353,7 @@ void WallCanvas::keyPressEvent(QKeyEvent* event)
         else
             resizeSelection(columns * (isShift ? 10 : 1), rows * (isShift ? 10 : 1));
     } else if (key == Qt::Key_Escape && (m_drag != Drag::None || !m_selection.empty())) {
-        m_drag = Drag::None;
-        m_cable.clear();
+        endDrag();
         select({});
     } else if (!handleZoomKey(key)) {
         QAbstractScrollArea::keyPressEvent(event);
@@ -376,6 +381,8 @@ void WallCanvas::beginDrag(const QPoint& at, Qt::KeyboardModifiers keys)
     if (column >= 0 || row >= 0) {
         m_drag = column >= 0 ? Drag::Column : Drag::Row;
         m_dragged = column >= 0 ? column : row;
+        m_heldOrigin = origin();
+        m_isHeld = true;
         return;
     }
     Place place;
@@ -439,6 +446,17 @@ void WallCanvas::drag(const QPoint& at)
     }
 }
 
+void WallCanvas::endDrag()
+{
+    m_drag = Drag::None;
+    m_cable.clear();
+    if (!m_isHeld)
+        return;
+    m_isHeld = false;
+    fit();
+    redraw();
+}
+
 void WallCanvas::addToCable(const QPoint& at)
 {
     Place place;
@@ -455,8 +473,7 @@ void WallCanvas::mouseReleaseEvent(QMouseEvent* event)
         return;
     const std::vector<Place> cable = m_cable;
     const bool isCable = m_drag == Drag::Cable && !cable.empty();
-    m_drag = Drag::None;
-    m_cable.clear();
+    endDrag();
     if (!isCable)
         return;
     const bool isData = m_tool == Tool::DataCable;

@@ -75,6 +75,7 @@ private:
         Cable
     };
     void takeWall();
+    void fit();
     void updateBars();
     void redraw();
     QPointF origin() const;
@@ -88,6 +89,7 @@ private:
     void zoomAt(double zoom, const QPointF& at);
     void beginDrag(const QPoint& at, Qt::KeyboardModifiers keys);
     void drag(const QPoint& at);
+    void endDrag();
     void addToCable(const QPoint& at);
     void moveCurrent(int columns, int rows, bool extends);
     void resizeSelection(int columns, int rows);
@@ -112,6 +114,8 @@ private:
     Drag m_drag = Drag::None;
     int m_dragged = 0; ///< the column or row
     QPoint m_dragBegan;
+    bool m_isHeld = false; ///< while an edge is dragged, the wall stays where it is under the pointer
+    QPointF m_heldOrigin;
     vardeno::walls::WallDocument m_before; ///< the drag
     std::vector<WallEdit::Place> m_cable;
     QPixmap m_scene;
