@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
