@@ -30,7 +30,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
   "${exactly}, qtbase5-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "Headers, CMake package and pkg-config file for hosts that embed the editor of
-test charts.")
+test charts, and the plugin of Qt Designer that offers it for forms.")
 
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_NAME chartdesk)
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SECTION graphics)

@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/setup.sh desktop-file-utils appstream lintian dpkg-dev
+scripts/setup.sh desktop-file-utils appstream lintian dpkg-dev qttools5-dev
 cmake --preset package
 cmake --build --preset package
 (cd build/package && rm -f ./*.deb && cpack -G DEB)

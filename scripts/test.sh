@@ -42,7 +42,7 @@ packages=(mold python3-minimal xvfb clang-format fonts-noto-cjk xserver-xorg-cor
   x11-xserver-utils)
 [ -z "$sanitizers" ] || packages+=(clang libclang-rt-dev
   libopencv-core-dev libopencv-imgproc-dev libopencv-features2d-dev libopencv-calib3d-dev)
-[ -z "$all" ] || packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy)
+[ -z "$all" ] || packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy qttools5-dev)
 scripts/setup.sh "${packages[@]}"
 scripts/format.sh --check
 step 'Build'
