@@ -197,6 +197,60 @@ private Q_SLOTS:
         QVERIFY(wall().rowHeights.pixels[1] < 64);
     }
 
+    /// What a drag has changed so far is gone, and so is its step; those before it stay.
+    void escapeTakesADragBack_data()
+    {
+        QTest::addColumn<bool>("isColumn");
+        QTest::newRow("column") << true;
+        QTest::newRow("row") << false;
+    }
+
+    void escapeTakesADragBack()
+    {
+        QFETCH(bool, isColumn);
+        openWall();
+        click(1, 1);
+        key(Qt::Key_Right);
+        const WallDocument before = wall();
+        const QRect cabinet = canvas().rectOf({1, 1});
+        const QPoint edge = isColumn ? QPoint(cabinet.right() + 1, cabinet.center().y())
+                                     : QPoint(cabinet.center().x(), cabinet.bottom() + 1);
+        for (int round = 0; round < 2; ++round) { // from the same pixel again
+            press(edge);
+            pull(edge + QPoint(40, 40));
+            QVERIFY(wall() != before);
+            key(Qt::Key_Escape);
+            QVERIFY(wall() == before);
+            pull(edge + QPoint(60, 60)); // the button is down yet
+            QTest::mouseRelease(canvas().viewport(), Qt::LeftButton, {}, edge + QPoint(60, 60));
+            QVERIFY(wall() == before);
+            QCOMPARE(model().history()->count(), 1);
+        }
+        QVERIFY(!model().history()->canRedo());
+        QVERIFY(canvas().selection() == (WallEdit::Places{{1, 1}}));
+    }
+
+    /// With nothing moved there is nothing to take back, and two drags are two steps.
+    void eachDragIsAStep()
+    {
+        openWall();
+        const auto edge = [this] {
+            const QRect cabinet = canvas().rectOf({0, 1});
+            return QPoint(cabinet.right() + 1, cabinet.center().y());
+        };
+        const QPoint at = edge();
+        drag(at, {at + QPoint(20, 0)});
+        const int wide = wall().columnWidths.pixels[0];
+        press(edge());
+        key(Qt::Key_Escape);
+        QCOMPARE(wall().columnWidths.pixels[0], wide);
+        QTest::mouseRelease(canvas().viewport(), Qt::LeftButton, {}, edge());
+        QCOMPARE(model().history()->count(), 1);
+        m_window->canvas()->showWhole();
+        drag(edge(), {edge() - QPoint(20, 0)});
+        QCOMPARE(model().history()->count(), 2);
+    }
+
     void cablesAreDrawn()
     {
         openWall();

@@ -352,6 +352,9 @@ void WallCanvas::keyPressEvent(QKeyEvent* event)
             moveCurrent(columns, rows, isShift);
         else
             resizeSelection(columns * (isShift ? 10 : 1), rows * (isShift ? 10 : 1));
+    } else if (key == Qt::Key_Escape && m_isHeld) {
+        m_model->takeBack(m_dragSeries);
+        endDrag();
     } else if (key == Qt::Key_Escape && (m_drag != Drag::None || !m_selection.empty())) {
         endDrag();
         select({});
@@ -369,6 +372,7 @@ void WallCanvas::mousePressEvent(QMouseEvent* event)
 void WallCanvas::beginDrag(const QPoint& at, Qt::KeyboardModifiers keys)
 {
     m_dragBegan = at;
+    m_dragSeries = QStringLiteral("drag %1").arg(++m_drags);
     m_before = m_model->wall();
     if (m_tool != Tool::Select) {
         m_drag = Drag::Cable;
@@ -422,8 +426,6 @@ void WallCanvas::mouseMoveEvent(QMouseEvent* event)
 void WallCanvas::drag(const QPoint& at)
 {
     const QPointF moved = QPointF(at - m_dragBegan) / m_zoom;
-    const QString series =
-        QStringLiteral("drag %1 %2,%3").arg(m_dragged).arg(m_dragBegan.x()).arg(m_dragBegan.y());
     Place place;
     switch (m_drag) {
     case Drag::Selection:
@@ -432,11 +434,11 @@ void WallCanvas::drag(const QPoint& at)
         break;
     case Drag::Column:
         m_model->change(hostText(QStringLiteral("Size")),
-                        WallEdit::widened(m_before, {{m_dragged, 0}}, qRound(moved.x())), series);
+                        WallEdit::widened(m_before, {{m_dragged, 0}}, qRound(moved.x())), m_dragSeries);
         break;
     case Drag::Row:
         m_model->change(hostText(QStringLiteral("Size")),
-                        WallEdit::heightened(m_before, {{0, m_dragged}}, qRound(moved.y())), series);
+                        WallEdit::heightened(m_before, {{0, m_dragged}}, qRound(moved.y())), m_dragSeries);
         break;
     case Drag::Cable:
         addToCable(at);

@@ -114,6 +114,8 @@ private:
     Drag m_drag = Drag::None;
     int m_dragged = 0; ///< the column or row
     QPoint m_dragBegan;
+    int m_drags = 0;       ///< so far
+    QString m_dragSeries;  ///< of changes: each drag is one step
     bool m_isHeld = false; ///< while an edge is dragged, the wall stays where it is under the pointer
     QPointF m_heldOrigin;
     vardeno::walls::WallDocument m_before; ///< the drag

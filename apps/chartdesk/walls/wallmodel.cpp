@@ -20,8 +20,13 @@ public:
     {
     }
 
-    void undo() override { m_model.show(m_before); }
+    void undo() override
+    {
+        setObsolete(m_model.m_isTakingBack); // the history drops it then
+        m_model.show(m_before);
+    }
     void redo() override { m_model.show(m_after); }
+    const QString& series() const { return m_series; }
     int id() const override { return m_series.isEmpty() ? -1 : 1; }
 
     bool mergeWith(const QUndoCommand* other) override
@@ -96,6 +101,16 @@ void WallModel::change(const QString& text, const WallDocument& wall, const QStr
 {
     if (wall != *m_wall)
         m_history.push(new WallChange(*this, text, std::make_shared<const WallDocument>(wall), series));
+}
+
+void WallModel::takeBack(const QString& series)
+{
+    const auto* last = static_cast<const WallChange*>(m_history.command(m_history.index() - 1));
+    if (!last || last->series() != series)
+        return;
+    m_isTakingBack = true;
+    m_history.undo();
+    m_isTakingBack = false;
 }
 
 void WallModel::show(const Shared& wall)

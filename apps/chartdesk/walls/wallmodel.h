@@ -35,6 +35,8 @@ public:
     /// A change that the user can take back; `text` names it. Changes of one `series` that follow one another
     /// are one step; an empty one is a series of its own. Nothing happens where `wall` is the wall as it is.
     void change(const QString& text, const vardeno::walls::WallDocument& wall, const QString& series = {});
+    /// Undoes the last step where it is of that series, and forgets it: it cannot be redone.
+    void takeBack(const QString& series);
     QUndoStack* history() { return &m_history; }
 
 Q_SIGNALS:
@@ -53,4 +55,5 @@ private:
     std::unique_ptr<std::vector<vardeno::walls::CableRun>> m_data;
     std::unique_ptr<std::vector<vardeno::walls::CableRun>> m_power;
     QUndoStack m_history;
+    bool m_isTakingBack = false;
 };
