@@ -1,7 +1,7 @@
 #include "batch.h"
 
 #include "arguments.h"
-#include "carriedrecord.h"
+#include "carriedchart.h"
 #include "chartrenderer.h"
 #include "imageoutput.h"
 #include "outputfile.h"
@@ -142,9 +142,9 @@ void Batch::finish(PlannedPicture& planned, const PictureRows& picture)
     PngOptions options;
     options.compression = m_arguments.compression;
     options.threads = std::max(1, QThread::idealThreadCount() / m_atOnce);
-    if (!m_arguments.withoutRecord && !planned.chart.wall && !planned.chart.show)
+    if (!m_arguments.withoutRecord)
         options.texts =
-            CarriedRecord::texts(planned.chart.record, QString::fromStdString(m_arguments.language), path);
+            CarriedChart::texts(planned.chart, QString::fromStdString(m_arguments.language), path);
     qint64 size = 0;
     QCryptographicHash hash(QCryptographicHash::Sha256);
     write(path, [&](const ByteSink& sink) {

@@ -1,5 +1,6 @@
 #include "chartinput.h"
 
+#include "carriedchart.h"
 #include "fileclaims.h"
 #include "recordinput.h"
 
@@ -42,22 +43,6 @@ void forbidChanges(const ChartInput& chart, bool isChanged, const Failure& blame
             QStringLiteral("%1: a show has several records; change those of its walls").arg(blame.message)};
 }
 
-ChartReading readWall(const QByteArray& json, const QString& folder)
-{
-    walls::WallFile::Reading wall = walls::WallFile::fromJson(json);
-    ChartReading reading;
-    reading.problems = wall.problems;
-    reading.unknown = wall.unknown;
-    if (!wall.problems.isEmpty())
-        return reading;
-    const walls::WallFile::Chart chart = walls::WallFile::chartOf(wall.wall, folder);
-    reading.problems = chart.problems;
-    if (!chart.file.isEmpty())
-        reading.unknown += chart.unknown; // those of the document have been told
-    reading.chart = {chart.record, std::move(wall.wall), chart.file};
-    return reading;
-}
-
 ChartReading readShow(const QByteArray& json, const QString& folder)
 {
     walls::ShowFile::Reading show = walls::ShowFile::fromJson(json);
@@ -79,21 +64,57 @@ ChartReading readAnyChart(const QByteArray& json, const QString& folder)
         return readShow(json, folder);
     if (walls::WallFile::isWall(json))
         return readWall(json, folder);
-    const ChartRecordFile::Reading record = ChartRecordFile::fromJson(json, folder);
-    return {{record.record, std::nullopt, {}}, record.problems, record.unknown};
+    return readRecordOf(json, folder);
+}
+
+/// A picture may be much larger than a document, but of it only the texts are read.
+ChartReading readFile(const QString& path)
+{
+    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
+    if (!CarriedChart::isPng(path))
+        return readAnyChart(readInput(path, recordLimit), folder);
+    const CarriedChart::Texts texts = CarriedChart::textsOf(path);
+    if (!CarriedChart::isIn(texts))
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: a picture that carries no record").arg(path)};
+    return CarriedChart::read(texts, folder);
 }
 
 } // namespace
 
-ChartReading readChart(const QString& path, const Changes& changes)
+ChartReading readRecordOf(const QByteArray& json, const QString& folder)
 {
-    const QByteArray json = readInput(path, recordLimit);
-    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
-    ChartReading reading = readAnyChart(json, folder);
+    const ChartRecordFile::Reading record = ChartRecordFile::fromJson(json, folder);
+    return {{record.record, std::nullopt, {}}, record.problems, record.unknown};
+}
+
+ChartReading readWall(const QByteArray& json, const QString& folder)
+{
+    walls::WallFile::Reading wall = walls::WallFile::fromJson(json);
+    ChartReading reading;
+    reading.problems = wall.problems;
+    reading.unknown = wall.unknown;
+    if (!wall.problems.isEmpty())
+        return reading;
+    const walls::WallFile::Chart chart = walls::WallFile::chartOf(wall.wall, folder);
+    reading.problems = chart.problems;
+    if (!chart.file.isEmpty())
+        reading.unknown += chart.unknown; // those of the document have been told
+    reading.chart = {chart.record, std::move(wall.wall), chart.file};
+    return reading;
+}
+
+void applyChanges(ChartReading& reading, const Changes& changes, const QString& path)
+{
     const Failure blame = {ExitCode::Usage, inputName(path)};
     forbidChanges(reading.chart,
                   !changes.settings.empty() || !changes.grid.empty() || !changes.cabinet.empty(), blame);
     change(reading.chart, blame, [&](TestChartToolsData& record) { applyChanges(record, changes); });
+}
+
+ChartReading readChart(const QString& path, const Changes& changes)
+{
+    ChartReading reading = readFile(path);
+    applyChanges(reading, changes, path);
     return reading;
 }
 
@@ -164,7 +185,8 @@ void claimFiles(FileClaims& claims, const ChartInput& chart, const QString& what
     if (!chart.show)
         return;
     for (const walls::ShowFile::PlacedWall& wall : chart.show->walls) {
-        claims.reads(wall.file, QStringLiteral("a wall of the show"));
+        if (!wall.file.isEmpty())
+            claims.reads(wall.file, QStringLiteral("a wall of the show"));
         if (!wall.recordFile.isEmpty())
             claims.reads(wall.recordFile, what);
         claims.readsLogo(wall.record.logoData);

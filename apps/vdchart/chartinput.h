@@ -35,9 +35,17 @@ struct ChartReading
     QStringList unknown;
 };
 
-/// The record, the wall or the show at `path`, told apart by what is in it, with `changes` made to the
-/// record; what is wrong is told with it. Throws Failure for a file that cannot be read, and for changes that
-/// a wall or a show forbids.
+/// Of the document `json`, whose relative paths are from `folder`.
+ChartReading readRecordOf(const QByteArray& json, const QString& folder);
+ChartReading readWall(const QByteArray& json, const QString& folder);
+
+/// Makes `changes` to the record of what was read from `path`. Throws Failure where a wall or a show forbids
+/// them.
+void applyChanges(ChartReading& reading, const Changes& changes, const QString& path);
+
+/// The record, the wall or the show at `path`, or the one that a PNG picture there carries, told apart by
+/// what is in it, with `changes` made to the record; what is wrong is told with it. Throws Failure for a file
+/// that cannot be read, and for changes that a wall or a show forbids.
 ChartReading readChart(const QString& path, const Changes& changes);
 
 /// The same. Throws Failure where anything is wrong with it; of what is unknown in it the standard error is

@@ -7,8 +7,6 @@
 #include <cstdio>
 #include <iostream>
 
-using namespace vardeno::testcharttools;
-
 namespace {
 
 constexpr qint64 partSize = 1024LL * 1024; ///< bytes that are read at once
@@ -30,12 +28,6 @@ bool openInput(QFile& file, const QString& path)
 {
     return path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
                                       : file.open(QIODevice::ReadOnly);
-}
-
-TestChartToolsData accepted(const ChartRecordFile::Reading& reading, const QString& name)
-{
-    requireAccepted(reading.problems, reading.unknown, name);
-    return reading.record;
 }
 
 } // namespace
@@ -73,26 +65,4 @@ QByteArray readInput(const QString& path, qint64 limit)
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: %2").arg(inputName(path), file.errorString())};
     return bytes;
-}
-
-ChartRecordFile::Reading readRecord(const QString& path, const Changes& changes)
-{
-    const QByteArray json = readInput(path, recordLimit);
-    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
-    ChartRecordFile::Reading reading = ChartRecordFile::fromJson(json, folder);
-    applyChanges(reading.record, changes);
-    return reading;
-}
-
-TestChartToolsData requireRecord(const QByteArray& json, const QString& name, const QString& folder,
-                                 const Changes& changes)
-{
-    ChartRecordFile::Reading reading = ChartRecordFile::fromJson(json, folder);
-    applyChanges(reading.record, changes);
-    return accepted(reading, name);
-}
-
-TestChartToolsData requireRecord(const QString& path, const Changes& changes)
-{
-    return accepted(readRecord(path, changes), inputName(path));
 }

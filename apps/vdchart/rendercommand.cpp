@@ -1,5 +1,5 @@
 #include "arguments.h"
-#include "carriedrecord.h"
+#include "carriedchart.h"
 #include "chartinput.h"
 #include "chartrenderer.h"
 #include "commands.h"
@@ -52,8 +52,8 @@ void writePicture(const ChartRenderer& renderer, const ChartInput& chart, const 
     const PictureRows picture = renderer.rows(chart);
     PngOptions options;
     options.compression = arguments.compression;
-    if (!arguments.withoutRecord && !chart.wall && !chart.show)
-        options.texts = CarriedRecord::texts(chart.record, QString::fromStdString(arguments.language), path);
+    if (!arguments.withoutRecord)
+        options.texts = CarriedChart::texts(chart, QString::fromStdString(arguments.language), path);
     options.threads = QThread::idealThreadCount();
     const QString format = imageFormat(path);
     writeOutput(path, [&](const ByteSink& sink) { encodePicture(picture, format, options, sink); });

@@ -1,7 +1,7 @@
 #include "wantedchart.h"
 
 #include "arguments.h"
-#include "carriedrecord.h"
+#include "carriedchart.h"
 #include "exitcode.h"
 #include "languages.h"
 #include "recordinput.h"
@@ -16,9 +16,9 @@ namespace {
 
 constexpr qint64 fileLimit = 512LL * 1024 * 1024; ///< bytes
 
-QString carriedLanguage(const QImage& picture, const QString& path)
+QString carriedLanguage(const CarriedChart::Texts& texts, const QString& path)
 {
-    const QString language = CarriedRecord::language(picture);
+    const QString language = CarriedChart::language(texts);
     if (language.isEmpty() || languageCodes().contains(language))
         return language;
     throw Failure{ExitCode::Unreadable,
@@ -26,15 +26,25 @@ QString carriedLanguage(const QImage& picture, const QString& path)
                       .arg(inputName(path), language)};
 }
 
+ChartInput carriedChart(const CarriedChart::Texts& texts, const QString& path, const Arguments& arguments)
+{
+    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
+    ChartReading reading = CarriedChart::read(texts, folder);
+    applyChanges(reading, arguments.changes, path);
+    requireAccepted(reading.problems, reading.unknown, inputName(path));
+    const std::string output =
+        arguments.showOutput.empty() ? CarriedChart::output(texts).toStdString() : arguments.showOutput;
+    return chosenPicture(reading.chart, output, path);
+}
+
 Wanted wantedFrom(const QImage& picture, const QString& path, const Arguments& arguments)
 {
-    const QByteArray json = CarriedRecord::json(picture);
-    if (json.isEmpty())
+    const CarriedChart::Texts texts = [&picture](const QString& keyword) { return picture.text(keyword); };
+    if (!CarriedChart::isIn(texts))
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: it carries no record; name one behind it").arg(inputName(path))};
-    const QString folder = path == QLatin1String("-") ? QString() : QFileInfo(path).absolutePath();
-    const QString language = arguments.isLanguageGiven ? QString() : carriedLanguage(picture, path);
-    return {{requireRecord(json, inputName(path), folder, arguments.changes), std::nullopt, {}},
+    const QString language = arguments.isLanguageGiven ? QString() : carriedLanguage(texts, path);
+    return {carriedChart(texts, path, arguments),
             language.isEmpty() ? QString::fromStdString(arguments.language) : language};
 }
 

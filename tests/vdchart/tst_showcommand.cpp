@@ -201,6 +201,56 @@ private Q_SLOTS:
                     .output.contains("1 kept"));
     }
 
+    /// Each picture of a show stands alone: with the whole show, and with the output that it is of.
+    void picturesCarryTheirShow()
+    {
+        makeShow({"--on", "Left=300x200", "--on", "Right=160x400"});
+        QCOMPARE(run({"render", "a.show.json", "-o", "show.png"}).code, 0);
+        QCOMPARE(run({"batch", "a.show.json", "-o", "alone"}).code, 0);
+        for (const char* name : {"a.show.json", "main.wall.json", "side.wall.json"})
+            QVERIFY(QFile::remove(path(name)));
+        for (const char* name : {"show-Left.png", "show-Right.png", "alone/a.show-Right.png"}) {
+            const Outcome outcome = run({"verify", name});
+            QCOMPARE(outcome.errors, QString());
+            QVERIFY2(outcome.output.endsWith(": this is the chart, pixel for pixel\n"), outcome.output);
+        }
+        QCOMPARE(run({"verify", "show-Left.png", "--of", "Right"}).code, 1);
+        QCOMPARE(run({"verify", "show-Left.png", "--of", "Middle"}).code, 2);
+        QCOMPARE(run({"verify", "show-Left.png", "-s", "rows=3"}).code, 2);
+
+        const Outcome checked = run({"check", "show-Right.png"});
+        QCOMPARE(checked.code, 0);
+        QCOMPARE(run({"render", "show-Right.png", "-o", "again.png"}).code, 0);
+        VD_COMPARE_IMAGES(QImage(path("again-Left.png")), QImage(path("show-Left.png")));
+
+        QImage dark = QImage(path("show-Left.png")).convertToFormat(QImage::Format_RGB32);
+        const QString show = dark.text("testchart-show");
+        QVERIFY(!show.isEmpty() && dark.text("testchart-wall-2").contains("\"Side\""));
+        QPainter(&dark).fillRect(192, 64, 64, 64, Qt::black);
+        QVERIFY(dark.save(path("dark.png"))); // with its texts
+        const Outcome bad = run({"verify", "dark.png"});
+        QCOMPARE(bad.code, 1);
+        QVERIFY2(bad.output.contains("Main C8"), bad.output);
+    }
+
+    /// A show whose picture lacks a wall tells which.
+    void aPictureThatLacksAWall()
+    {
+        makeShow({"--on", "Left=300x200", "--on", "Right=160x400"});
+        QCOMPARE(run({"render", "a.show.json", "-o", "show.png"}).code, 0);
+        const QImage whole(path("show-Left.png"));
+        QImage less = QImage(whole.size(), QImage::Format_RGB32);
+        less.fill(Qt::black);
+        for (const QString& key : whole.textKeys()) {
+            if (key != "testchart-wall-2")
+                less.setText(key, whole.text(key));
+        }
+        QVERIFY(less.save(path("less.png")));
+        const Outcome outcome = run({"verify", "less.png"});
+        QCOMPARE(outcome.code, 3);
+        QVERIFY2(outcome.errors.contains("less.png: show.walls: (wall 2) "), qPrintable(outcome.errors));
+    }
+
     void wrongPictures_data()
     {
         QTest::addColumn<QStringList>("arguments");

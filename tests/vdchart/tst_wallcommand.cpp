@@ -147,6 +147,65 @@ private Q_SLOTS:
         QVERIFY(QImage(path("made/a.wall.png")) != picture);
     }
 
+    /// A picture stands alone, wherever it is taken to: with the record, its changes and its language.
+    void picturesCarryTheirWall_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<int>("code");
+        const QString away = QStringLiteral("mkdir away && mv w.png away && rm -f carried.json && ");
+        const QString render = QStringLiteral("$vdchart render carried.wall.json -o w.png ");
+        QTest::newRow("verified") << render + "&& " + away + "$vdchart verify away/w.png" << 0;
+        QTest::newRow("of a batch") << "$vdchart batch carried.wall.json -o away && rm carried.json && "
+                                       "$vdchart verify away/carried.wall.png"
+                                    << 0;
+        QTest::newRow("changed") << render + "-s publicData.brightness=50 && " + away +
+                                        "$vdchart verify away/w.png"
+                                 << 0;
+        QTest::newRow("against another brightness")
+            << render + "&& $vdchart verify w.png -s publicData.brightness=50" << 1;
+        QTest::newRow("with changes of the wall") << render + "&& $vdchart verify w.png -s width=320" << 2;
+        QTest::newRow("in its language") << render + "-l de && $vdchart verify w.png" << 0;
+        QTest::newRow("in another language") << render + "-l de && $vdchart verify w.png -l en" << 1;
+        QTest::newRow("without") << render + "--no-record && $vdchart verify w.png" << 3;
+        QTest::newRow("checked") << render + "&& " + away + "$vdchart check --errors away/w.png" << 0;
+        QTest::newRow("checked without") << render + "--no-record && $vdchart check w.png" << 3;
+        QTest::newRow("rendered again")
+            << render + "&& " + away + "$vdchart render away/w.png -o b.png && cmp away/w.png b.png" << 0;
+        QTest::newRow("with its logo")
+            << "mkdir here && $vdchart render carried.wall.json -o w.png && cp w.png here/logo.png && "
+               "$vdchart render carried.wall.json -s logoData.picturePath=here/logo.png "
+               "-s logoData.showLogo=true -o here/w.png && mv here there && $vdchart verify there/w.png"
+            << 0;
+    }
+
+    void picturesCarryTheirWall()
+    {
+        QFETCH(QString, script);
+        TestChartToolsData record = smallRecord();
+        record.logoData.showLogo = false;
+        record.selfData.showResolution = true;
+        QCOMPARE(ChartRecordFile::write(path("carried.json"), record), QString());
+        write("carried.wall.json", wallJson(chart(R"({"path": "carried.json"})")));
+        for (const char* folder : {"away", "here", "there"})
+            QDir(path(folder)).removeRecursively();
+        const Outcome outcome = runInShell(script);
+        QTEST(outcome.code, "code");
+        QCOMPARE(outcome.errors.contains(QLatin1String("carries no record")), outcome.code == 3);
+    }
+
+    /// What stands in the picture is a document that can be taken out of it.
+    void aCarriedWallIsADocument()
+    {
+        write("a.wall.json", wallJson(R"(, "wall": {"name": "Main"})"));
+        QCOMPARE(run({"render", "a.wall.json", "-o", "a.png"}).code, 0);
+        const QImage picture(path("a.png"));
+        const auto wall = vardeno::walls::WallFile::fromJson(picture.text("testchart-wall").toUtf8());
+        QCOMPARE(wall.problems, QStringList());
+        QCOMPARE(wall.wall.name, std::string("Main"));
+        QVERIFY(wall.wall.chart.path.empty() && !wall.wall.chart.record.document.isEmpty());
+        QCOMPARE(picture.text("testchart-language"), QString("en"));
+    }
+
     void changes()
     {
         write("a.wall.json", wallJson());
