@@ -1060,6 +1060,18 @@
         <translation>Zuletzt benutzte Ordner</translation>
     </message>
     <message>
+        <source>Taken in:</source>
+        <translation>Übernommen:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its chart:</source>
+        <translation>Mit seinem Testbild übernommen:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its walls:</source>
+        <translation>Mit ihren Wänden übernommen:</translation>
+    </message>
+    <message>
         <source>Two clicks edit a chart</source>
         <translation>Ein Doppelklick bearbeitet ein Testbild</translation>
     </message>

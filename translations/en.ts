@@ -1060,6 +1060,18 @@
         <translation>Recent folders</translation>
     </message>
     <message>
+        <source>Taken in:</source>
+        <translation>Taken in:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its chart:</source>
+        <translation>Taken in, with its chart:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its walls:</source>
+        <translation>Taken in, with its walls:</translation>
+    </message>
+    <message>
         <source>Two clicks edit a chart</source>
         <translation>Two clicks edit a chart</translation>
     </message>

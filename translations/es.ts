@@ -1060,6 +1060,18 @@
         <translation>Carpetas recientes</translation>
     </message>
     <message>
+        <source>Taken in:</source>
+        <translation>Incorporado:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its chart:</source>
+        <translation>Incorporado con su carta:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its walls:</source>
+        <translation>Incorporado con sus pantallas:</translation>
+    </message>
+    <message>
         <source>Two clicks edit a chart</source>
         <translation>Doble clic para editar una carta</translation>
     </message>

@@ -1060,6 +1060,18 @@
         <translation>最近使ったフォルダー</translation>
     </message>
     <message>
+        <source>Taken in:</source>
+        <translation>取り込みました:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its chart:</source>
+        <translation>テストチャートを含めて取り込みました:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its walls:</source>
+        <translation>ウォールを含めて取り込みました:</translation>
+    </message>
+    <message>
         <source>Two clicks edit a chart</source>
         <translation>ダブルクリックで編集します</translation>
     </message>

@@ -1060,6 +1060,18 @@
         <translation>最近的文件夹</translation>
     </message>
     <message>
+        <source>Taken in:</source>
+        <translation>已收入:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its chart:</source>
+        <translation>已连同测试图收入:</translation>
+    </message>
+    <message>
+        <source>Taken in, with its walls:</source>
+        <translation>已连同其屏收入:</translation>
+    </message>
+    <message>
         <source>Two clicks edit a chart</source>
         <translation>双击可编辑测试图</translation>
     </message>

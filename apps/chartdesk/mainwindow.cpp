@@ -143,6 +143,8 @@ void MainWindow::createLibrary()
     m_library = new DeskLibrary(m_list, undo, this);
     connect(m_library, &DeskLibrary::newWanted, this, &MainWindow::addChartFrom);
     connect(m_library, &DeskLibrary::failed, this, &MainWindow::tell);
+    connect(m_library, &DeskLibrary::noted, this,
+            [this](const QString& note) { statusBar()->showMessage(note, 10000); });
 }
 
 void MainWindow::createWalls()

@@ -269,6 +269,20 @@ private Q_SLOTS:
         QCOMPARE(m_window->folder(), m_folder->path());
     }
 
+    void wallsFromElsewhereAreTakenIn()
+    {
+        const QTemporaryDir elsewhere;
+        const QString wall = elsewhere.filePath(QStringLiteral("stage.wall.json"));
+        QVERIFY(chartfiles::writeFile(wall, R"({"format": "testwall", "version": 1})"));
+        m_window->openPaths({wall});
+        const QString taken = QDir(m_folder->path()).filePath(QStringLiteral("stage.wall.json"));
+        QTRY_COMPARE(m_window->findChild<ChartList*>()->selectedDocument(), taken);
+        m_window->openPaths({taken}); // which is here already
+        QTest::qWait(0);
+        QTRY_COMPARE(m_window->findChild<ChartList*>()->selectedDocument(), taken);
+        QCOMPARE(m_window->findChild<ChartList*>()->count(), 1);
+    }
+
     void whatIsNoChartIsTold_data()
     {
         QTest::addColumn<QString>("name");

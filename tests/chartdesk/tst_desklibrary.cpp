@@ -16,6 +16,7 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -64,6 +65,17 @@ private:
         entry->clear();
         QTRY_COMPARE(button->property("opacity").toReal(), 0.0);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void dropFile(const QString& file) const
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_list->viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_list->viewport(), &drop);
     }
 
 private Q_SLOTS:
@@ -190,16 +202,39 @@ private Q_SLOTS:
         const QString record = elsewhere.filePath(QStringLiteral("show.json"));
         const QByteArray size = R"("publicData": {"resolutionWidth": 64, "resolutionHeight": 36})";
         QVERIFY(writeFile(record, R"({"format": "testchart", "version": 1, )" + size + "}"));
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(record)});
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_list->viewport(), &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_list->viewport(), &drop);
+        dropFile(record);
         QTRY_VERIFY_WITH_TIMEOUT(names().contains(QStringLiteral("show")) || message(*m_window), 30000);
         QVERIFY(!message(*m_window));
         QTRY_COMPARE(QImage(m_list->selectedChart()).size(), QSize(64, 36));
+    }
+
+    void aWallIsDropped()
+    {
+        const QTemporaryDir elsewhere;
+        const QString wall = elsewhere.filePath(QStringLiteral("stage.wall.json"));
+        const QByteArray json = R"({"format": "testwall", "version": 1, "chart": {"path": "chart.json"}})";
+        QVERIFY(writeFile(wall, json));
+        QVERIFY(writeFile(elsewhere.filePath(QStringLiteral("chart.json")),
+                          R"({"format": "testchart", "version": 1})"));
+        dropFile(wall);
+        QTRY_COMPARE(m_list->selectedDocument(), m_folder->filePath(QStringLiteral("stage.wall.json")));
+        QCOMPARE(m_window->statusBar()->currentMessage(),
+                 QStringLiteral("Taken in, with its chart: stage.wall.json"));
+        QVERIFY(!message(*m_window));
+    }
+
+    void aWallThatCannotBeReadIsTold()
+    {
+        const QTemporaryDir elsewhere;
+        const QString wall = elsewhere.filePath(QStringLiteral("broken.wall.json"));
+        QVERIFY(writeFile(wall, R"({"format": "testwall", "version": 1, "data": {"bitDepth": 7}})"));
+        m_window->library()->take({wall});
+        QTRY_VERIFY(message(*m_window));
+        QCOMPARE(message(*m_window)->informativeText(),
+                 QStringLiteral("broken.wall.json: data.bitDepth: 7 is not in 8..16"));
+        QVERIFY(answer(*m_window, QStringLiteral("OK")));
+        QVERIFY(isListed(*m_window));
+        QCOMPARE(m_list->count(), 3);
     }
 
     void aRecordThatCannotBeReadIsTold()

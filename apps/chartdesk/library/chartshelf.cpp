@@ -4,6 +4,7 @@
 #include "chartstore.h"
 #include "charttags.h"
 #include "hosttext.h"
+#include "wallshelf.h"
 
 #include <chartrecordfile.h>
 
@@ -51,7 +52,7 @@ QString pictureOf(const QString& imagePath, const TestChartToolsData& record)
 
 ChartShelf::Outcome outcome(const ChartStore::Published& published)
 {
-    return {published.image, published.problem};
+    return {published.image, published.problem, nullptr};
 }
 
 /// Where a chart called `name` is put together before it joins the others.
@@ -136,6 +137,8 @@ Outcome rename(const QString& imagePath, const QString& name)
 
 Outcome take(const QString& folder, const QString& file, const ChartCaptions& captions)
 {
+    if (isRecord(file) && WallShelf::isDocument(file))
+        return WallShelf::take(folder, file);
     ChartStore store(folder);
     return isRecord(file) ? takeRecord(store, file, captions) : takePicture(store, file);
 }

@@ -13,6 +13,8 @@ struct Outcome
 {
     QString image;
     QString problem;
+    const char* note =
+        nullptr; ///< to be told before the name: the English text of the host; null for nothing
 };
 
 /// A copy of the chart, with all that belongs to it, under the next free number: "wall 2".
@@ -21,7 +23,8 @@ Outcome duplicate(const QString& folder, const QString& imagePath);
 /// Gives the chart's files another name, without ending. Nothing is written over.
 Outcome rename(const QString& imagePath, const QString& name);
 
-/// Takes a file in: a picture as a chart without a record, a record as the chart that it describes.
+/// Takes a file in: a picture as a chart without a record, a record as the chart that it describes, a wall or
+/// a show with what it refers to.
 Outcome take(const QString& folder, const QString& file,
              const vardeno::testcharttools::ChartCaptions& captions);
 

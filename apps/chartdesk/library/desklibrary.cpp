@@ -195,6 +195,9 @@ void DeskLibrary::done(const ChartShelf::Outcome& outcome)
 {
     m_list->refresh();
     m_list->selectChart(outcome.image);
+    if (outcome.note)
+        Q_EMIT noted(hostText(QString::fromUtf8(outcome.note)) + QLatin1Char(' ') +
+                     QFileInfo(outcome.image).fileName());
     if (!outcome.problem.isEmpty())
         Q_EMIT failed(hostText(QStringLiteral("That could not be done.")), outcome.problem);
 }

@@ -52,6 +52,8 @@ Q_SIGNALS:
     /// A new chart is wanted that begins with `record`.
     void newWanted(const vardeno::testcharttools::TestChartToolsData& record);
     void failed(const QString& what, const QString& details);
+    /// What was done besides what is seen.
+    void noted(const QString& what);
 
 private:
     QAction* add(const char* text, const QKeySequence& shortcut, void (DeskLibrary::*does)());
