@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# The promises about loss in full, which docs/reliability.md has the figures of: hours. `ctest -C Thorough` has them in
-# small.
+# The promises of docs/reliability.md in full: hours. The tests have them in small, some with `ctest -C Thorough`.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh python3-minimal
@@ -8,3 +7,6 @@ cmake --preset dev > /dev/null
 cmake --build --preset dev
 tests/reliability/kills.py build/dev/bin 1000
 tests/reliability/fulldisk.py build/dev/bin 512
+cmake --preset asan > /dev/null
+cmake --build --preset asan --target reliability_destroyer
+LSAN_OPTIONS=suppressions=tests/harness/lsan.supp:print_suppressions=0 build/asan/bin/reliability_destroyer 1000

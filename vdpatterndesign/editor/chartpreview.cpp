@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QWheelEvent>
 
 namespace vardeno::testcharttools {
@@ -117,8 +118,10 @@ void ChartPreview::showChart(const std::function<void(QImage&)>& compose)
     d->label->clear(); // lets go of the chart, whose memory is used again
     compose(d->chart);
     d->label->setPixmap(QPixmap::fromImage(d->chart));
+    const QPointer<ChartPreview> alive(this); // a host may delete the tool when it is told
     showZoom();
-    tellPointed();
+    if (alive)
+        tellPointed();
 }
 
 void ChartPreview::hideChart()
@@ -280,8 +283,10 @@ void ChartPreview::changeZoom(const std::function<void()>& change)
     if (!d->zooms)
         return;
     change();
+    const QPointer<ChartPreview> alive(this);
     showZoom();
-    tellPointed();
+    if (alive)
+        tellPointed();
 }
 
 void ChartPreview::showZoom()

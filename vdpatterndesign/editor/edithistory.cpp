@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QTimer>
 
 namespace vardeno::testcharttools {
@@ -121,9 +122,10 @@ bool EditHistory::keysOn() const
 
 void EditHistory::undo()
 {
+    const QPointer<EditHistory> alive(this); // a host may delete the tool when it is told
     const bool typed = d->endTyping();
-    const bool changed = note();
-    if (typed && !changed)
+    const bool changed = alive && note();
+    if (!alive || (typed && !changed))
         return; // it was no number, and is taken back
     if (canUndo())
         change([this] { d->show(d->history.undo()); });
@@ -131,9 +133,11 @@ void EditHistory::undo()
 
 void EditHistory::redo()
 {
+    const QPointer<EditHistory> alive(this);
     d->endTyping();
-    note();
-    if (canRedo())
+    if (alive)
+        note();
+    if (alive && canRedo())
         change([this] { d->show(d->history.redo()); });
 }
 
@@ -181,9 +185,10 @@ bool EditHistory::note()
     const TestChartToolsData record = d->collect();
     if (record == d->history.current())
         return false;
-    change([&] { d->history.note(record, d->goesOn()); });
+    const bool goesOn = d->goesOn();
     d->sinceLast.start();
     d->dragging = QGuiApplication::mouseButtons() != Qt::NoButton;
+    change([&] { d->history.note(record, goesOn); });
     return true;
 }
 
@@ -191,10 +196,11 @@ void EditHistory::change(const std::function<void()>& step)
 {
     const bool couldUndo = canUndo();
     const bool couldRedo = canRedo();
+    const QPointer<EditHistory> alive(this);
     step();
-    if (canUndo() != couldUndo)
+    if (alive && canUndo() != couldUndo)
         Q_EMIT canUndoChanged(canUndo());
-    if (canRedo() != couldRedo)
+    if (alive && canRedo() != couldRedo)
         Q_EMIT canRedoChanged(canRedo());
 }
 

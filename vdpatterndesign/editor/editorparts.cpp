@@ -218,9 +218,11 @@ void EditorParts::fitToResolution()
 
 void EditorParts::takeSnapshot()
 {
-    // What is shown at once is no cycle, and ends none.
-    const QScopedValueRollback<bool> ignored(updating, updating || cycle.showsAtOnce());
-    preview->showChart([this](QImage& chart) { layers.compose(chart); });
+    preview->showChart([this](QImage& chart) {
+        // What is shown at once is no cycle, and ends none.
+        const QScopedValueRollback<bool> ignored(updating, updating || cycle.showsAtOnce());
+        layers.compose(chart);
+    });
 }
 
 /// The layers' reports while they paint for saving are not those of a repaint cycle.

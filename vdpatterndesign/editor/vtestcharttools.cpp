@@ -16,6 +16,7 @@
 
 #include <QDebug>
 #include <QHideEvent>
+#include <QPointer>
 #include <QPushButton>
 #include <QScopedValueRollback>
 
@@ -80,7 +81,10 @@ void VTestChartTools::applyRecord(const TestChartToolsData& record)
 
 void VTestChartTools::amendRecord(const TestChartToolsData& record)
 {
+    const QPointer<VTestChartTools> alive(this); // the host is told of what may be undone
     d->history.settle();
+    if (!alive)
+        return;
     d->applyWhole(record);
     d->history.amend();
 }
