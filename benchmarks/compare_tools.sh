@@ -1,21 +1,22 @@
 #!/usr/bin/env bash
-# Times vdchart, ImageMagick and ffmpeg, each as a whole process, drawing the same chart into a PNG file: a chessboard of
-# 16 x 9 cabinets at 3840 x 2160 with a label in each, both diagonals, two circles and a border. Rounds are run in turn;
-# prints medians and ratios. benchmarks/compare_tools.sh [rounds]
+# Measures vdchart, Pillow, pycairo, ImageMagick and ffmpeg, each as a whole process, drawing the same chart into a PNG
+# file: a chessboard of 16 x 9 cabinets at 3840 x 2160 with a label in each, both diagonals, two circles and a border.
+# Rounds are run in turn; prints medians of time, processor time and peak memory, and how long `vdchart --version` takes.
+# benchmarks/compare_tools.sh [rounds]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 rounds=${1:-7}
-scripts/setup.sh imagemagick ffmpeg fontconfig >&2
-cmake --preset release -DVD_BUILD_TESTS=OFF -DVD_BUILD_BENCHMARKS=OFF >/dev/null
-cmake --build --preset release --target vdchart >&2
+scripts/setup.sh imagemagick ffmpeg fontconfig libbenchmark-dev python3-cairo python3-pil time >&2
+cmake --preset benchmarks >/dev/null
+cmake --build --preset benchmarks --target vdchart >&2
 
 width=3840 height=2160 columns=16 rows=9
 cell=$((width / columns)) radius=$((height / 2)) text=74
 font=$(fc-match -f '%{file}' 'DejaVu Sans')
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
-vdchart=build/release/bin/vdchart
+vdchart=build/benchmarks/bin/vdchart
 
 label() { printf "\\$(printf %03o $((65 + $1)))-\\$(printf %03o $((65 + $2)))"; }
 
@@ -65,31 +66,49 @@ source="color=0x55aaff:size=${width}x$height,format=rgb24"
 echo "$source$boxes$circle$border$labels" >"$folder/whole.txt"
 echo "$source$boxes$border$labels" >"$folder/part.txt"
 
-run_vdchart() { $vdchart render "$folder/chart.json" -o "$folder/vdchart.png"; }
-run_imagemagick() {
-  convert -size ${width}x$height xc:'#55aaff' -font "$font" -draw "$(cat "$folder/draw.txt")" "$folder/imagemagick.png"
-}
-run_ffmpeg() { ffmpeg -v error -y -f lavfi -i "$(cat "$folder/whole.txt")" -frames:v 1 "$folder/ffmpeg.png"; }
-run_ffmpeg_without_lines() {
-  ffmpeg -v error -y -f lavfi -i "$(cat "$folder/part.txt")" -frames:v 1 "$folder/ffmpeg_without_lines.png"
-}
+vdchart_command=($vdchart render "$folder/chart.json" -o "$folder/vdchart.png")
+pillow_command=(benchmarks/with_pillow.py "$font" "$folder/pillow.png")
+cairo_command=(benchmarks/with_cairo.py "DejaVu Sans" "$folder/cairo.png")
+imagemagick_command=(convert -size ${width}x$height xc:'#55aaff' -font "$font" -draw "$(cat "$folder/draw.txt")"
+  "$folder/imagemagick.png")
+ffmpeg_command=(ffmpeg -v error -y -f lavfi -i "$(cat "$folder/whole.txt")" -frames:v 1 "$folder/ffmpeg.png")
+ffmpeg_without_lines_command=(ffmpeg -v error -y -f lavfi -i "$(cat "$folder/part.txt")" -frames:v 1
+  "$folder/ffmpeg_without_lines.png")
 
-tools="vdchart imagemagick ffmpeg ffmpeg_without_lines"
+tools="${TOOLS:-vdchart pillow cairo imagemagick ffmpeg ffmpeg_without_lines}"
 for ((round = 0; round <= rounds; ++round)); do
   for tool in $tools; do
-    begin=$EPOCHREALTIME
-    "run_$tool"
-    end=$EPOCHREALTIME
+    declare -n command="${tool}_command"
+    /usr/bin/time -o "$folder/time" -f '%e %U %S %M' "${command[@]}"
     # The first round warms up.
-    [ $round = 0 ] || echo "$tool $(((${end/[.,]/} - ${begin/[.,]/}) / 1000))"
+    [ $round = 0 ] || echo "$tool $(cat "$folder/time")"
   done
-done | sort -k1,1 -k2,2n | awk '
-  { count[$1]++; time[$1, count[$1]] = $2 }
+done | awk '
+  function median(values, count,   i, j, kept) {
+    for (i = 2; i <= count; ++i)
+      for (j = i; j > 1 && values[j] < values[j - 1]; --j) { kept = values[j]; values[j] = values[j - 1]; values[j - 1] = kept }
+    return values[int((count + 1) / 2)]
+  }
+  function middle(table, tool,   i, values) {
+    for (i = 1; i <= count[tool]; ++i) values[i] = table[tool, i]
+    return median(values, count[tool])
+  }
+  { n = ++count[$1]; wall[$1, n] = $2 * 1000; busy[$1, n] = ($3 + $4) * 1000; memory[$1, n] = $5 / 1024 }
   END {
-    for (tool in count) median[tool] = time[tool, int((count[tool] + 1) / 2)]
-    for (tool in count) printf "%-22s %5d ms  %4.1f times vdchart\n", tool, median[tool], median[tool] / median["vdchart"]
-  }' | sort -k2,2n
+    own = middle(busy, "vdchart")
+    print "| program | ms | processor ms | times vdchart | peak MiB |"
+    for (tool in count)
+      printf "| %s | %d | %d | %.1f | %d |\n", tool, middle(wall, tool), middle(busy, tool), middle(busy, tool) / own,
+        middle(memory, tool) | "sort -t \"|\" -k4n"
+  }'
 for tool in $tools; do
   echo "$tool: $(wc -c <"$folder/$tool.png") bytes"
 done
+
+for ((round = 0; round < 200; ++round)); do
+  begin=$EPOCHREALTIME
+  $vdchart --version >/dev/null
+  end=$EPOCHREALTIME
+  echo $((${end/[.,]/} - ${begin/[.,]/}))
+done | sort -n | awk '{ time[NR] = $1 } END { printf "vdchart --version: median of %d %.1f ms\n", NR, time[int(NR / 2)] / 1000 }'
 [ -z "${KEEP:-}" ] || cp "$folder"/*.png "$KEEP"
