@@ -1,10 +1,10 @@
 #include "arguments.h"
-#include "cabinetgrid.h"
 #include "chartrenderer.h"
 #include "commands.h"
 #include "fileclaims.h"
 #include "imageoutput.h"
 #include "outputfile.h"
+#include "readinggrid.h"
 #include "readingjson.h"
 #include "readingreport.h"
 #include "recordinput.h"
@@ -63,13 +63,29 @@ void protectInputs(const Inputs& inputs, const Arguments& arguments)
     }
 }
 
-void print(const WallReading::Reading& reading, const QString& name, const Arguments& arguments)
+/// Nor that of what the chart is made of.
+void protectParts(const ChartInput& chart, const Arguments& arguments)
 {
-    if (arguments.report == "json") {
-        std::cout << QJsonDocument(readingJson(reading)).toJson().toStdString();
-        return;
-    }
-    for (const QString& sentence : reading.sentences())
+    FileClaims claims;
+    claimFiles(claims, chart, QStringLiteral("the record of the chart"));
+    for (const std::string& output : {arguments.difference, arguments.page})
+        claims.protect(QString::fromStdString(output));
+}
+
+void printJson(const WallReading::Reading& reading, const std::vector<PulledCable>& cables)
+{
+    QJsonObject document = readingJson(reading);
+    if (!cables.empty())
+        document.insert(QStringLiteral("pulledCables"), jsonOf(cables));
+    std::cout << QJsonDocument(document).toJson().toStdString();
+}
+
+void print(const WallReading::Reading& reading, const std::vector<PulledCable>& cables, const QString& name,
+           const Arguments& arguments)
+{
+    if (arguments.report == "json")
+        return printJson(reading, cables);
+    for (const QString& sentence : reading.sentences() + sentencesOf(cables))
         std::cout << name.toStdString() << ": " << sentence.toStdString() << '\n';
 }
 
@@ -93,17 +109,21 @@ ExitCode runRead(const Arguments& arguments)
         pictures.push_back(readPicture(QString::fromStdString(picture), pixelLimit));
     const QString first = QString::fromStdString(inputs.pictures.front());
     const Wanted wanted = wantedChart(pictures.front(), first, inputs.record, arguments);
-    if (wanted.chart.wall || wanted.chart.show)
-        throw Failure{ExitCode::Unreadable,
-                      QStringLiteral("%1: a wall of cabinets; photographs are read by records only")
-                          .arg(inputName(QString::fromStdString(inputs.record)))};
-    const WallReading::Chart chart{ChartRenderer(wanted.language).render(wanted.chart),
-                                   cabinetsOf(wanted.chart.record)};
+    if (wanted.chart.show)
+        throw Failure{
+            ExitCode::Unreadable,
+            QStringLiteral("%1: a show; photographs are read by records and walls only")
+                .arg(inputName(inputs.record.empty() ? first : QString::fromStdString(inputs.record)))};
+    protectParts(wanted.chart, arguments);
+    ReadingGrid grid(wanted.chart);
+    const WallReading::Chart chart{ChartRenderer(wanted.language).render(wanted.chart), grid.cabinets()};
     std::vector<WallReading::Reading> readings;
     for (const QImage& picture : pictures)
         readings.push_back(WallReading::read(picture, chart));
-    const WallReading::Reading reading = WallReading::combined(readings, chart);
-    print(reading, pictures.size() == 1 ? inputName(first) : QStringLiteral("the wall"), arguments);
+    WallReading::Reading reading = WallReading::combined(readings, chart);
+    grid.take(reading);
+    print(reading, grid.pulled(), pictures.size() == 1 ? inputName(first) : QStringLiteral("the wall"),
+          arguments);
     if (!difference.isEmpty() && reading.isLocated)
         writeOutput(difference, encodeImage(WallReading::markedPicture(reading, chart), format));
     if (!arguments.page.empty())

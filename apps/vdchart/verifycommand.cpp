@@ -176,14 +176,14 @@ ExitCode runVerify(const Arguments& arguments)
     ChartComparison::Result result =
         ChartComparison::compare(expected, picture, grid.cabinets(), arguments.tolerance);
     std::optional<SecondLook> look;
-    if (!wanted.chart.wall && isLossyOrWarped(result, grid.cabinets()))
+    if (!wanted.chart.wall && !wanted.chart.show && isLossyOrWarped(result, grid.cabinets()))
         look = secondLook(expected, picture, grid.cabinets());
     grid.take(result);
     const Verdict verdict{path,
                           std::move(result),
                           translucentPixels(picture),
-                          grid.sentences(),
-                          grid.json(),
+                          sentencesOf(grid.pulledCables()),
+                          jsonOf(grid.pulledCables()),
                           arguments.tolerance,
                           std::move(look)};
     if (arguments.report == "json")

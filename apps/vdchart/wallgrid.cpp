@@ -2,13 +2,7 @@
 
 #include "cabinetgrid.h"
 
-#include <cabinetorder.h>
 #include <placedpart.h>
-#include <runfaults.h>
-
-#include <QJsonObject>
-
-#include <algorithm>
 
 using namespace vardeno::walls;
 
@@ -42,11 +36,7 @@ ChartCabinetGrid::ChartCabinetGrid(const ChartInput& chart)
 void ChartCabinetGrid::addWall(const WallDocument& wall,
                                const vardeno::testcharttools::TestChartToolsData& record, const QString& name)
 {
-    CabinetPlan plan(wall);
-    std::vector<QString> names = cabinetNames(wall, plan, record);
-    const std::size_t count = names.size();
-    m_walls.push_back({wall, name, std::move(plan), std::move(names), std::vector<bool>(count, false),
-                       std::vector<bool>(count, false)});
+    m_walls.emplace_back(wall, record, name);
 }
 
 void ChartCabinetGrid::addCabinet(std::size_t wall, std::size_t cabinet, const QRect& rect)
@@ -111,59 +101,7 @@ void ChartCabinetGrid::take(ChartComparison::Result& result)
         placeFinding(finding);
     }
     for (const SeenWall& wall : m_walls) {
-        noteCables(wall, true);
-        noteCables(wall, false);
+        for (const PulledCable& cable : ::pulledCables(wall))
+            m_pulled.push_back(cable);
     }
-}
-
-/// Of cables that go on where the picture ends, what it shows of them.
-void ChartCabinetGrid::noteCables(const SeenWall& wall, bool isData)
-{
-    std::vector<CableRun> runs =
-        isData ? dataRuns(wall.document, wall.plan) : powerRuns(wall.document, wall.plan);
-    for (CableRun& run : runs) {
-        const auto isUnseen = [&](int cabinet) { return !wall.seen[std::size_t(cabinet)]; };
-        run.cabinets.erase(std::remove_if(run.cabinets.begin(), run.cabinets.end(), isUnseen),
-                           run.cabinets.end());
-    }
-    for (const RunFault& fault : faultyRuns(runs, wall.bad)) {
-        const std::vector<int>& cabinets = runs[std::size_t(fault.run)].cabinets;
-        const int first = cabinets[std::size_t(fault.from)];
-        m_pulled.push_back({wall.name, isData, fault.run + 1, wall.names[std::size_t(first)],
-                            int(cabinets.size()) - fault.from, fault.from == 0});
-    }
-}
-
-QStringList ChartCabinetGrid::sentences() const
-{
-    QStringList sentences;
-    for (const PulledCable& cable : m_pulled) {
-        const QString wall = cable.wall.isEmpty() ? QString() : cable.wall + QLatin1String(": ");
-        const QString which =
-            QStringLiteral("%1 %2").arg(QLatin1String(cable.isData ? "port" : "circuit")).arg(cable.number);
-        const QString where = cable.isWhole
-                                  ? which + QStringLiteral(": all its %1 cabinets are wrong")
-                                  : which + QStringLiteral(" from cabinet %2 on: %1 cabinets are wrong");
-        sentences.append(wall +
-                         (cable.isWhole ? where.arg(cable.cabinets)
-                                        : where.arg(QString::number(cable.cabinets), cable.from)) +
-                         QStringLiteral(", which is what a pulled %1 cable looks like")
-                             .arg(QLatin1String(cable.isData ? "data" : "power")));
-    }
-    return sentences;
-}
-
-QJsonArray ChartCabinetGrid::json() const
-{
-    QJsonArray cables;
-    for (const PulledCable& cable : m_pulled) {
-        QJsonObject told{{QStringLiteral("cable"), QLatin1String(cable.isData ? "data" : "power")},
-                         {QStringLiteral("number"), cable.number},
-                         {QStringLiteral("from"), cable.from},
-                         {QStringLiteral("cabinets"), cable.cabinets}};
-        if (!cable.wall.isEmpty())
-            told.insert(QStringLiteral("wall"), cable.wall);
-        cables.append(told);
-    }
-    return cables;
 }

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "chartinput.h"
+#include "pulledcables.h"
 
-#include <cabinetplan.h>
 #include <chartcomparison.h>
-
-#include <QJsonArray>
-#include <QStringList>
 
 /// The cabinets of a chart as a comparison tells of them, and the cables that they hang on. Those of a show's
 /// output are called by their wall, too: "Left C4".
@@ -21,34 +18,13 @@ public:
     /// notes which cables look pulled.
     void take(ChartComparison::Result& result);
 
-    /// "port 3 from cabinet C4 on: 12 cabinets are wrong, which is what a pulled data cable looks like".
-    QStringList sentences() const;
-    QJsonArray json() const;
+    const std::vector<PulledCable>& pulledCables() const { return m_pulled; }
 
 private:
-    /// A wall of the picture.
-    struct SeenWall
-    {
-        const vardeno::walls::WallDocument& document;
-        QString name; ///< empty for the only one
-        vardeno::walls::CabinetPlan plan;
-        std::vector<QString> names; ///< of its cabinets
-        std::vector<bool> seen;     ///< which of them the picture shows
-        std::vector<bool> bad;
-    };
     struct SeenCabinet
     {
         std::size_t wall;
         std::size_t cabinet;
-    };
-    struct PulledCable
-    {
-        QString wall;
-        bool isData;
-        int number; ///< of its port or circuit, from 1
-        QString from;
-        int cabinets;
-        bool isWhole;
     };
     void addWall(const vardeno::walls::WallDocument& wall,
                  const vardeno::testcharttools::TestChartToolsData& record, const QString& name);
@@ -56,7 +32,6 @@ private:
     void addShow(const ShowInput& show, int output);
     void placeCabinets(std::vector<ChartComparison::CabinetPlace>& cabinets) const;
     void placeFinding(ChartComparison::Finding& finding) const;
-    void noteCables(const SeenWall& wall, bool isData);
 
     ChartComparison::CabinetGrid m_grid;
     std::vector<SeenWall> m_walls;

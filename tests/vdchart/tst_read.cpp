@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QPainter>
 
+#include <algorithm>
+
 /// What `vdchart read` prints, writes and ends with.
 class TestRead : public ProgramTest
 {
@@ -30,6 +32,25 @@ private:
         QVERIFY(shown.save(path(name), nullptr, 85));
     }
 
+    /// Black and white ones, of which no chart has any.
+    static void paintSquares(QPainter& painter, const QRect& where, const QSize& square)
+    {
+        for (int y = 0; y < where.height() / square.height(); ++y) {
+            for (int x = 0; x < where.width() / square.width(); ++x)
+                painter.fillRect(QRect(where.x() + x * square.width(), where.y() + y * square.height(),
+                                       square.width(), square.height()),
+                                 (x + y) % 2 == 0 ? Qt::black : Qt::white);
+        }
+    }
+
+    /// In order, for cabinets of equal weight may change places.
+    static QStringList lines(const QByteArray& output)
+    {
+        QStringList lines = QString::fromUtf8(output).split('\n', Qt::SkipEmptyParts);
+        std::sort(lines.begin(), lines.end());
+        return lines;
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -46,6 +67,69 @@ private Q_SLOTS:
         // Portable grey map: a head that promises more than is there.
         write(QStringLiteral("huge.pgm"), "P5 20000 20000 255\n");
         write(QStringLiteral("cut.png"), read(QStringLiteral("wall.png")).left(400));
+    }
+
+    /// Cabinets of two sizes, a hole and one that spans two places, in rows that hang on a port each.
+    void walls()
+    {
+        write("main.wall.json", R"({"format": "testwall", "version": 1,
+            "cabinets": {"columnWidths": [[5, 120]], "rowHeights": [[3, 120], [1, 60]],
+                         "exceptions": [{"column": 1, "row": 1, "missing": true},
+                                        {"column": 4, "row": 3, "columns": 2, "name": "Wide"}]},
+            "numbering": {"style": "numbers", "prefix": "C"},
+            "data": {"pattern": "each-line"}, "layers": {"names": true},
+            "chart": {"record": {"format": "testchart", "version": 1, "logoData": {"showLogo": false}, "selfData": {"showSelfText": false}}}})");
+        QCOMPARE(run({"render", "main.wall.json", "-o", "main.png"}).code, 0);
+        const Outcome good = run({"read", "main.png"});
+        QCOMPARE(good.errors, QString());
+        QCOMPARE(good.output, QByteArray("main.png: nothing wrong was seen\n"));
+        QCOMPARE(good.code, 0);
+
+        const QImage chart(path("main.png"));
+        QImage shown(chart.size(), QImage::Format_RGB32); // a copy would carry the wall
+        QPainter painter(&shown);
+        painter.drawImage(0, 0, chart);
+        painter.fillRect(0, 0, 120, 120, QColor(90, 80, 70));      // what is seen through the hole
+        paintSquares(painter, {3 * 120, 120, 120, 120}, {20, 20}); // the last two of the second row
+        paintSquares(painter, {4 * 120, 120, 120, 120}, {15, 120});
+        paintSquares(painter, {3 * 120, 2 * 120, 2 * 120, 120}, {240, 24}); // the wide one
+        painter.end();
+        QVERIFY(shown.save(path("shown.jpg"), nullptr, 90));
+        const Outcome bad = run({"read", "shown.jpg", "main.wall.json", "--report", "page.html"});
+        QCOMPARE(bad.code, 1);
+        QCOMPARE(lines(bad.output),
+                 (QStringList{"shown.jpg: C8 shows something else", "shown.jpg: C9 shows something else",
+                              "shown.jpg: Wide shows something else",
+                              "shown.jpg: port 2 from cabinet C8 on: 2 cabinets are wrong, which is what a "
+                              "pulled data cable looks like"}));
+        QVERIFY(read("page.html").contains("Wide shows something else"));
+        const QJsonObject document =
+            QJsonDocument::fromJson(run({"read", "shown.jpg", "main.wall.json", "-f", "json"}).output)
+                .object();
+        QCOMPARE(document.value("findings").toArray().size(), 3);
+        const QJsonObject cable = document.value("pulledCables").toArray().at(0).toObject();
+        QCOMPARE(cable.value("number").toInt(), 2);
+        QCOMPARE(cable.value("from").toString(), QString("C8"));
+    }
+
+    void theRecordOfAWallIsProtected()
+    {
+        write("path.wall.json", R"({"format": "testwall", "version": 1, "chart": {"path": "wall.json"}})");
+        const Outcome outcome = run({"read", "bad.jpg", "path.wall.json", "--report", "wall.json"});
+        QCOMPARE(outcome.code, 2);
+        QVERIFY2(outcome.errors.contains("wall.json: is the record of the chart"),
+                 qPrintable(outcome.errors));
+    }
+
+    void showsAreRefused()
+    {
+        write("a.show.json", R"({"format": "testshow", "version": 1,
+            "show": {"outputs": [{"name": "Out", "width": 320, "height": 180}]}})");
+        const Outcome outcome = run({"read", "bad.jpg", "a.show.json"});
+        QCOMPARE(outcome.code, 3);
+        QVERIFY2(
+            outcome.errors.contains("a.show.json: a show; photographs are read by records and walls only"),
+            qPrintable(outcome.errors));
     }
 
     void verifyHandsOver()
