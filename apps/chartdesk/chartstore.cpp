@@ -203,7 +203,7 @@ QString ChartStore::finalPath(const QString& stagedImage) const
 }
 
 ChartStore::Published ChartStore::publish(const QString& stagedImage, TestChartToolsData record,
-                                          QJsonObject document, const QString& picture)
+                                          QJsonObject document, const QString& picture) const
 {
     const QFileInfo image(stagedImage);
     if (!image.isFile())
@@ -226,7 +226,7 @@ ChartStore::Published ChartStore::publish(const QString& stagedImage, TestChartT
     return join(stagedImage);
 }
 
-ChartStore::Published ChartStore::join(const QString& stagedImage)
+ChartStore::Published ChartStore::join(const QString& stagedImage) const
 {
     const QFileInfo image(stagedImage);
     QString problem;

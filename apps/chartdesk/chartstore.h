@@ -35,10 +35,10 @@ public:
     /// Lets the chart of `stagedImage` join the others, with its record and with its picture, which takes the
     /// place `picture` in the chart's folder. Unknown members of `document` are kept.
     Published publish(const QString& stagedImage, vardeno::testcharttools::TestChartToolsData record,
-                      QJsonObject document, const QString& picture);
+                      QJsonObject document, const QString& picture) const;
 
     /// Lets it join the others as it is, without a record of its own.
-    Published join(const QString& stagedImage);
+    Published join(const QString& stagedImage) const;
 
 private:
     QString m_folder;

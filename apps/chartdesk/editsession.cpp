@@ -1,7 +1,6 @@
 #include "editsession.h"
 
 #include "chartfolderlist.h"
-#include "charttags.h"
 #include "editorlimits.h"
 #include "hosttext.h"
 #include "newchart.h"
@@ -15,8 +14,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 #include <QPushButton>
-#include <QTimer>
 
 #include <algorithm>
 
@@ -189,7 +188,7 @@ void EditSession::open(const Draft& draft, std::unique_ptr<DraftFolder> folder)
         m_edited.editedImage.clear(); // the draft of a chart that is gone is a new one
     m_fresh = {};
     m_keeper.start(std::move(folder));
-    m_store = ChartStore(draft.folder);
+    setStore(ChartStore(draft.folder));
     m_lastSaved.clear();
     m_isOpen = true;
     prepareSave();
@@ -230,8 +229,8 @@ Draft EditSession::collect() const
 void EditSession::giveUp()
 {
     m_isOpen = false;
+    setStore(ChartStore(QString())); // before the draft goes, from which pictures are copied
     m_keeper.end();
-    m_store = ChartStore(QString());
 }
 
 void EditSession::end()
@@ -252,7 +251,7 @@ void EditSession::saveBegan(bool ends)
 {
     if (!m_isOpen)
         return;
-    m_saves.push_back({m_saveRoot, m_editor->getTestChartToolsData(), ends});
+    m_saves.push_back({m_saveRoot, m_editor->getTestChartToolsData(), ends, {}});
     prepareSave();
 }
 
@@ -265,7 +264,7 @@ void EditSession::confirm()
 void EditSession::retry(const QString& folder)
 {
     if (folder != m_store.folder()) {
-        m_store = ChartStore(folder);
+        setStore(ChartStore(folder));
         m_edited.folder = folder;
     }
     prepareSave();
@@ -285,7 +284,7 @@ EditSession::Save EditSession::takeSave(const QString& path)
         return path.startsWith(save.root + QLatin1Char('/'));
     });
     if (it == m_saves.end())
-        return {QString(), m_editor->getTestChartToolsData(), true}; // not begun by this desk
+        return {QString(), m_editor->getTestChartToolsData(), true, {}}; // not begun by this desk
     const Save save = *it;
     m_saves.erase(it);
     return save;
@@ -296,12 +295,14 @@ void EditSession::editorDone(EditType type, const QString& path)
     if (!m_isOpen)
         return;
     if (!path.isEmpty()) {
-        publish(takeSave(path), path);
+        m_publishing.push_back(takeSave(path));
+        m_publishing.back().path = path;
+        publishNext();
         return;
     }
     m_isUnsavedConfirm = type == ReplaceConfirmOnlyCancle;
     if (isSaving())
-        m_saves.back().ends = true; // its outcome decides
+        (m_saves.empty() ? m_publishing.back() : m_saves.back()).ends = true; // its outcome decides
     else if (type == Cancle && isChanged())
         Q_EMIT cancelled();
     else
@@ -315,27 +316,49 @@ void EditSession::editorConfirmed()
     m_isUnsavedConfirm = false;
 }
 
-void EditSession::publish(const Save& save, const QString& path)
+/// What is being published in the one before is done; nobody hears of it.
+void EditSession::setStore(ChartStore store)
 {
-    const auto published = m_store.publish(path, save.record, m_edited.document, pictureName(save.record));
-    if (published.image.isEmpty())
-        fail(save, path, published.problem);
-    else
-        accept(save, published.image);
+    m_publisher.drop();
+    m_publishing.clear();
+    m_store = std::move(store);
 }
 
-void EditSession::accept(const Save& save, const QString& image)
+/// Whatever the next one replaces is known when the one before is in its place.
+void EditSession::publishNext()
 {
-    const QString replaced = m_edited.editedImage;
-    if (!pathWithin(m_store.folder(), replaced).isEmpty()) {
-        ChartTags::set(image, ChartTags::of(replaced));
-        if (recordDigest(replaced) == m_edited.editedDigest)
-            removeChartFiles(replaced);
-        else if (QFileInfo::exists(replaced))
-            Q_EMIT replacedChartKept(replaced);
-    }
+    if (m_publisher.isBusy() || m_publishing.empty())
+        return;
+    const Save& save = m_publishing.front();
+    const Publication next = {save.path,
+                              save.record,
+                              m_edited.document,
+                              pictureName(save.record),
+                              m_edited.editedImage,
+                              m_edited.editedDigest};
+    m_publisher.start(next, m_store, [this](const Publication::Outcome& outcome) { published(outcome); });
+}
+
+void EditSession::published(const Publication::Outcome& outcome)
+{
+    const Save save = m_publishing.front();
+    m_publishing.pop_front();
+    const QPointer<EditSession> alive(this);
+    if (outcome.image.isEmpty())
+        fail(save, save.path, outcome.problem);
+    else
+        accept(save, outcome);
+    if (alive)
+        publishNext();
+}
+
+void EditSession::accept(const Save& save, const Publication::Outcome& outcome)
+{
+    const QString image = outcome.image;
+    if (outcome.isReplacedKept)
+        Q_EMIT replacedChartKept(m_edited.editedImage);
     m_edited.editedImage = image;
-    m_edited.editedDigest = recordDigest(image);
+    m_edited.editedDigest = outcome.digest;
     m_unchanged = ChartRecordFile::toJson(save.record);
     m_lastSaved = image;
     Q_EMIT saved(image);

@@ -2,11 +2,13 @@
 
 #include "chartstore.h"
 #include "draftkeeper.h"
+#include "publication.h"
 
 #include <vtestcharttools.h>
 
 #include <QObject>
 
+#include <deque>
 #include <vector>
 
 class QPushButton;
@@ -31,7 +33,8 @@ public:
     void resume(std::unique_ptr<DraftFolder> folder, const Draft& draft);
 
     bool isOpen() const { return m_isOpen; }
-    bool isSaving() const { return !m_saves.empty(); }
+    /// Until the chart stands in its folder, or could not.
+    bool isSaving() const { return !m_saves.empty() || !m_publishing.empty(); }
     /// Whether something would be lost if the edit ended now.
     bool isChanged() const;
     /// The folder that the chart is saved in.
@@ -69,6 +72,7 @@ private:
         QString root;
         vardeno::testcharttools::TestChartToolsData record;
         bool ends;
+        QString path = {}; ///< of its picture, once that is written
     };
 
     void giveUp();
@@ -82,8 +86,10 @@ private:
     Save takeSave(const QString& path);
     void editorDone(vardeno::testcharttools::EditType type, const QString& path);
     void editorConfirmed();
-    void publish(const Save& save, const QString& path);
-    void accept(const Save& save, const QString& image);
+    void setStore(ChartStore store);
+    void publishNext();
+    void published(const Publication::Outcome& outcome);
+    void accept(const Save& save, const Publication::Outcome& outcome);
     void fail(const Save& save, const QString& path, const QString& reason);
     Draft collect() const;
     QByteArray current() const;
@@ -100,6 +106,8 @@ private:
     QString m_saveRoot;
     QString m_lastSaved;
     std::vector<Save> m_saves;
+    std::deque<Save> m_publishing; ///< one after the other
+    Publisher m_publisher;         ///< goes before the store
     Save m_failed;
     bool m_isOpen = false;
     bool m_isUnsavedConfirm = false; ///< a confirmation has just found nothing to save

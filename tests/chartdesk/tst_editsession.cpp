@@ -36,6 +36,36 @@ private Q_SLOTS:
         QCOMPARE(rowsOf(charts().first()), 4);
     }
 
+    /// The disk of a chart may be a slow one.
+    void theInterfaceDoesNotWaitForTheDisk()
+    {
+        openDesk();
+        QVERIFY(openNewChart());
+        bool isSaving = false;
+        connect(m_window->editor(), &VTestChartTools::sigTestToolEditDone, this,
+                [&] { isSaving = m_window->session()->isSaving(); });
+        QSignalSpy saved(m_window->session(), &EditSession::saved);
+        QVERIFY(click(*m_window, "Confirm"));
+        QTRY_COMPARE(saved.count(), 1);
+        QVERIFY(isSaving); // the picture was written, and the chart was still on its way
+        QTRY_VERIFY(isEnded());
+        QVERIFY(!m_window->session()->isSaving());
+    }
+
+    void anEditThatEndsOnTheWayIsSaved()
+    {
+        openDesk();
+        QVERIFY(openNewChart());
+        connect(m_window->editor(), &VTestChartTools::sigTestToolEditDone, this,
+                [&] { m_window->session()->end(); });
+        QVERIFY(click(*m_window, "Confirm"));
+        QTRY_VERIFY(isEnded());
+        QCOMPARE(charts().size(), 1);
+        QVERIFY(QFileInfo::exists(ChartFolderList::recordPath(charts().first())));
+        QCoreApplication::processEvents(); // what was on its way is not told
+        QVERIFY(isEnded());
+    }
+
     void theReplacedChartGoesWithItsFolder()
     {
         QVERIFY(writeChart(at("20240101_120000/a.png"), Qt::red, "pictures/logo.png"));

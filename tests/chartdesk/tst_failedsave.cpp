@@ -37,7 +37,7 @@ private Q_SLOTS:
         QVERIFY(QDir().rename(at("moved"), at("charts")));
         QVERIFY(answer(*m_window, "Try again"));
         QTRY_VERIFY(!QFileInfo::exists(at("charts/20240101_120000/a.png")));
-        QCOMPARE(isEnded(), button == QLatin1String("Confirm"));
+        QTRY_COMPARE(isEnded(), button == QLatin1String("Confirm"));
         const QFileInfoList saved = ChartFolderList::charts(at("charts"));
         QCOMPARE(saved.size(), 1);
         QCOMPARE(rowsOf(saved.first().filePath()), 4);
