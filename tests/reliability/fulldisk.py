@@ -84,6 +84,8 @@ def main():
     programs = Path(sys.argv[1]).resolve()
     step = int(sys.argv[2]) if len(sys.argv) > 2 else 512
     library = programs.parent / "lib" / "libsmalldisk.so"
+    if not library.exists():
+        sys.exit(f"{library} is missing: no disk would be full")
     bad = 0
     with tempfile.TemporaryDirectory() as folder:
         source = Path(folder)

@@ -26,6 +26,8 @@ def waits_of(programs, who, folder):
 
 def main():
     programs = Path(sys.argv[1]).resolve()
+    if not (programs.parent / "lib" / "libslowdisk.so").exists():
+        sys.exit("libslowdisk.so is missing: no disk would be slow")
     bad = 0
     for who in ("editor", "desk"):
         with tempfile.TemporaryDirectory() as folder:
