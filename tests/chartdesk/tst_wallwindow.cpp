@@ -1,5 +1,7 @@
+#include "deskstyle.h"
 #include "deskwalls.h"
 #include "deskwindow.h"
+#include "languages.h"
 #include "testcase.h"
 #include "wallcanvas.h"
 #include "wallmodel.h"
@@ -7,10 +9,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
+
+#include <set>
 
 using namespace vardeno::walls;
 
@@ -160,6 +166,56 @@ private Q_SLOTS:
         openWall();
         const QSize room = m_window->screen()->availableSize();
         QVERIFY(m_window->width() <= room.width() && m_window->height() <= room.height());
+    }
+
+    /// Whatever their group, and in every language.
+    void theFieldsBeginBelowOneAnother()
+    {
+        openWall();
+        for (const char* language : {"es", "en"}) {
+            chooseLanguage(QLatin1String(language));
+            m_window->retranslate();
+            std::set<int> widths;
+            for (const QLabel* label : m_window->findChildren<QLabel*>()) {
+                if (!label->buddy())
+                    continue;
+                QVERIFY(label->minimumWidth() >= label->sizeHint().width());
+                widths.insert(label->minimumWidth());
+            }
+            QCOMPARE(widths.size(), std::size_t(1));
+        }
+    }
+
+    void whatIsFilledInStandsOut_data()
+    {
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<QColor>("text");
+        QTest::newRow("dark") << QColor(40, 40, 43) << QColor(235, 235, 240);
+        QTest::newRow("light") << QColor(236, 236, 240) << QColor(30, 30, 34);
+    }
+
+    /// Entries and boxes to tick have a line around them that can be seen, in every theme.
+    void whatIsFilledInStandsOut()
+    {
+        QFETCH(QColor, window);
+        QFETCH(QColor, text);
+        DeskStyle style;
+        QPalette palette(window, window);
+        palette.setColor(QPalette::Base, window);
+        palette.setColor(QPalette::WindowText, text);
+        QLineEdit entry;
+        QSpinBox number;
+        QCheckBox box;
+        for (QWidget* field : std::initializer_list<QWidget*>{&entry, &number, &box}) {
+            field->setStyle(&style);
+            field->setPalette(palette);
+            field->resize(100, 24);
+            const QImage picture = field->grab().toImage();
+            int most = 0;
+            for (int x = 0; x < 12; ++x)
+                most = std::max(most, std::abs(qGray(picture.pixel(x, 12)) - qGray(window.rgb())));
+            QVERIFY2(most >= 40, qPrintable(QString::number(most)));
+        }
     }
 
     void edgesAreDragged_data()

@@ -114,7 +114,8 @@ SettingRow& SettingRow::shortCaption(const QString& source, const QSize& longest
     addCaption(QString(), longest, 0);
     m_controls->captions.add(source, [label = m_caption, controls = m_controls,
                                       longest](const QString& text) {
-        const QSize needed = textSize(label, text, 0);
+        // An advance is rounded to the nearest pixel, which may be the one below.
+        const QSize needed = textSize(label, text, controls->fits() ? 1 : 0);
         const int height = controls->fits() ? std::max(needed.height(), longest.height()) : longest.height();
         label->setFixedSize(controls->fits() ? needed.width() : std::min(needed.width(), longest.width()),
                             height);

@@ -14,6 +14,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace vardeno::walls;
 
 namespace {
@@ -276,6 +278,23 @@ void WallFieldPane::load()
         control->setEnabled(hasSelection());
 }
 
+/// That all controls begin below one another, whatever their group.
+void WallFieldPane::alignLabels()
+{
+    std::vector<QLabel*> labels;
+    int widest = 0;
+    for (const Row& row : m_rows) {
+        auto* form = qobject_cast<QFormLayout*>(row.control->parentWidget()->layout());
+        auto* label = form ? qobject_cast<QLabel*>(form->labelForField(row.control)) : nullptr;
+        if (!label)
+            continue;
+        labels.push_back(label);
+        widest = std::max(widest, label->sizeHint().width());
+    }
+    for (QLabel* label : labels)
+        label->setMinimumWidth(widest);
+}
+
 void WallFieldPane::retranslate()
 {
     for (const auto& [group, source] : m_groups)
@@ -294,4 +313,5 @@ void WallFieldPane::retranslate()
                 choice->setItemText(i, hostText(QLatin1String(row.choices[std::size_t(i)])));
         }
     }
+    alignLabels();
 }

@@ -42,6 +42,7 @@ private:
     void createCables();
     void createLayers();
     void beginGroup(const char* source);
+    void alignLabels();
     void add(QWidget* control, const char* source, std::function<void()> load,
              std::vector<const char*> choices = {});
     void addNumber(const char* name, const char* source, int least, int most, const Value& value,
