@@ -307,7 +307,8 @@ void ChartList::dropEvent(QDropEvent* event)
 QString ChartList::title(const QString& imagePath) const
 {
     const QFileInfo chart(imagePath);
-    const QDateTime saved = ChartFolderList::savedAt(imagePath);
+    const QDateTime saved =
+        WallDocuments::isDocument(imagePath) ? chart.lastModified() : ChartFolderList::savedAt(imagePath);
     const QString when =
         saved.isValid() ? m_dates.toString(saved, QLocale::ShortFormat) : chart.dir().dirName();
     return chart.fileName() + QLatin1Char('\n') + when;

@@ -1,5 +1,6 @@
 #include "chartfiles.h"
 #include "chartlist.h"
+#include "desklanguage.h"
 #include "desklibrary.h"
 #include "deskoutput.h"
 #include "deskwindow.h"
@@ -220,6 +221,10 @@ private Q_SLOTS:
         QTRY_COMPARE(m_list->selectedDocument(), m_folder->filePath(QStringLiteral("stage.wall.json")));
         QCOMPARE(m_window->statusBar()->currentMessage(),
                  QStringLiteral("Taken in, with its chart: stage.wall.json"));
+        const QDateTime saved = QFileInfo(m_list->selectedDocument()).lastModified();
+        QCOMPARE(m_list->currentItem()->text(),
+                 QStringLiteral("stage.wall.json\n") +
+                     localeOf(QStringLiteral("en")).toString(saved, QLocale::ShortFormat));
         QVERIFY(!message(*m_window));
     }
 
