@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
@@ -66,6 +67,13 @@ void ReadDialog::createLayout()
     layout->addWidget(m_buttons);
 }
 
+/// Beside it the sentences and buttons have to fit the screen, too.
+QSize ReadDialog::roomForPlan() const
+{
+    const QSize others(80, 16 * fontMetrics().lineSpacing());
+    return mostPlan.boundedTo(screen()->availableSize() - others).expandedTo(QSize(160, 90));
+}
+
 void ReadDialog::show(const WallRead& read)
 {
     m_read = read;
@@ -77,8 +85,8 @@ void ReadDialog::show(const WallRead& read)
     m_findings->addItems(read.sentences);
     m_findings->setVisible(!read.sentences.isEmpty());
     if (!read.plan.isNull()) {
-        m_plan->setPixmap(
-            QPixmap::fromImage(read.plan.scaled(mostPlan, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+        m_plan->setPixmap(QPixmap::fromImage(
+            read.plan.scaled(roomForPlan(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
         m_plan->setAccessibleName(read.sentences.join(QLatin1String("; ")));
         m_plan->show();
     }

@@ -23,6 +23,7 @@ public:
 
 private:
     void createLayout();
+    QSize roomForPlan() const;
     void show(const WallRead& read);
     void updateWalk();
     void walk();

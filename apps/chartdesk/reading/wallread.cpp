@@ -6,6 +6,7 @@
 #include <cabinetgrid.h>
 #include <readingpicture.h>
 
+#include <QFileInfo>
 #include <QImageReader>
 
 using namespace vardeno::testcharttools;
@@ -56,7 +57,7 @@ WallRead readWall(const QString& photo, const QString& chart, const ChartCaption
         return failure(hostText(QStringLiteral("This photo has too many pixels.")));
     const QImage picture = reader.read();
     if (picture.isNull())
-        return failure(reader.errorString());
+        return failure(QFileInfo(photo).fileName() + QLatin1String(": ") + reader.errorString());
     const WallReading::Chart expected{wanted.picture, cabinetsOf(*wanted.record)};
     const WallReading::Reading reading = WallReading::read(picture, expected, &canceled);
     WallRead read;
