@@ -33,6 +33,8 @@ for preset in '--preset=stage-192 --preset=bars' '--preset=portrait-1080p --pres
 done
 echo 'stage, left' > "$home/charts/20260301_180000/tags.txt"
 
+cp examples/walls/{stage,ribbon}.wall.json "$home/charts"
+
 for size in "${sizes[@]}"; do
   for theme in dark light; do
     shots=$target/$size-$theme

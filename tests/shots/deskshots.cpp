@@ -8,19 +8,25 @@
 #include "deskoutput.h"
 #include "deskstyle.h"
 #include "desktheme.h"
+#include "deskwalls.h"
 #include "deskwindow.h"
 #include "display.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "outputwindow.h"
+#include "readdialog.h"
 #include "themepalette.h"
 #include "walk.h"
+#include "wallcanvas.h"
+#include "wallwindow.h"
 
 #include <QDialog>
 #include <QDir>
+#include <QListWidget>
 #include <QLoggingCategory>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QTextStream>
 
 using namespace deskwindow;
@@ -51,7 +57,7 @@ public:
         m_list = m_window.findChild<ChartList*>();
         need(QTest::qWaitForWindowExposed(&m_window) && isListed(m_window));
         need(QTest::qWaitFor([this] { return !m_list->item(m_list->count() - 1)->icon().isNull(); }, 20000));
-        m_list->setCurrentRow(1);
+        m_list->selectChart(m_list->charts().at(1));
     }
 
     void take()
@@ -73,6 +79,8 @@ public:
         dialog("about", [&] { help.at(2)->trigger(); });
         takeUndo();
         takeWalk();
+        takeReading();
+        takeWalls();
         takeEditor();
     }
 
@@ -149,6 +157,47 @@ private:
         QGuiApplication::primaryScreen()->grabWindow(0).save(path(QStringLiteral("output")));
         output->stop();
         QTest::qWait(settleTime);
+    }
+
+    /// Of a picture in which some of the chart is dark.
+    void takeReading()
+    {
+        const QString chart = m_list->selectedChart();
+        const QString photo = QDir(m_target).filePath(QStringLiteral("photo.jpg"));
+        QImage seen = QImage(chart).convertToFormat(QImage::Format_RGB32);
+        QPainter(&seen).fillRect(seen.width() / 4, seen.height() / 3, seen.width() / 8, seen.height() / 9,
+                                 Qt::black);
+        seen.save(photo);
+        dialog(QStringLiteral("reading"), [&] { openReading(photo, chart)->open(); });
+        auto* read = openReading(photo, chart);
+        const auto* findings = read->findChild<QListWidget*>();
+        read->open();
+        need(QTest::qWaitFor([&] { return findings->isVisible(); }, 60000));
+        dialog(QStringLiteral("read"), [] {});
+        dialog(
+            QStringLiteral("readnothing"), [&] { openReading(m_target, chart)->open(); }, 1000);
+        QFile::remove(photo);
+    }
+
+    ReadDialog* openReading(const QString& photo, const QString& chart)
+    {
+        return new ReadDialog(photo, chart, m_window.output()->output(), &m_window);
+    }
+
+    /// Each with some cabinets selected, and their menus.
+    void takeWalls()
+    {
+        auto* walls = m_window.findChild<DeskWalls*>();
+        for (const char* name : {"stage", "ribbon"}) {
+            const QString file = m_window.folder() + QLatin1Char('/') + QLatin1String(name);
+            WallWindow* wall = walls->open(file + QLatin1String(".wall.json"));
+            need(wall && QTest::qWaitForWindowExposed(wall));
+            shoot(QLatin1String(name), *wall);
+            wall->canvas()->select({{1, 1}, {2, 1}});
+            shoot(name + QStringLiteral("-selected"), *wall);
+            wall->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
     }
 
     void takeEditor()
