@@ -55,6 +55,16 @@ private Q_SLOTS:
             QCOMPARE(one.bin, 0);
     }
 
+    /// In the order in which they are given the small ones would lie in the way.
+    void largeOnesArePutFirst()
+    {
+        const std::vector<QSize> bins(2, QSize(100, 100));
+        const std::vector<PackedRect> packed = packRects({{30, 20}, {30, 20}, {70, 100}}, bins, false);
+        requireApart(packed, bins);
+        for (const PackedRect& one : packed)
+            QCOMPARE(one.bin, 0);
+    }
+
     void bothWaysOnlyWhereTurningIsAllowed()
     {
         const std::vector<QSize> bins(1, QSize(100, 40));

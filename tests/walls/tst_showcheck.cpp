@@ -112,6 +112,8 @@ private Q_SLOTS:
             QStringList(
                 "show.placements: (placement 1) wall \"Main\" is wired for 50 Hz, output \"Left\" has 60 "
                 "Hz"));
+        show.outputs.list[0].frameRate = 51;
+        QCOMPARE(ShowCheck::warnings(show, {wall}).size(), 1);
         show.outputs.list[0].frameRate = 50;
         QCOMPARE(ShowCheck::warnings(show, {wall}), QStringList());
     }

@@ -252,14 +252,15 @@ private Q_SLOTS:
         QCOMPARE(ChartRecordFile::write(folder.filePath("chart.json"), record), QString());
         WallDocument wall;
         wall.columnWidths.pixels = {100, 200};
+        wall.rowHeights.pixels = {128, 128, 64};
         wall.chart.path = "chart.json";
         const WallFile::Chart chart = WallFile::chartOf(wall, folder.path());
         QCOMPARE(chart.problems, QStringList());
         QCOMPARE(chart.file, folder.filePath("chart.json"));
         record.publicData.resolutionWidth = 300;
-        record.publicData.resolutionHeight = 1152;
+        record.publicData.resolutionHeight = 320;
         record.publicData.boxCol = 2;
-        record.publicData.boxRow = 9;
+        record.publicData.boxRow = 3;
         QVERIFY(chart.record == record);
 
         wall.chart.path = "missing.json";
