@@ -109,6 +109,40 @@ Explanation dimmed(const Evidence& evidence, std::size_t cabinet)
     return result;
 }
 
+/// Its own picture, darker by about as much in each channel: where the camera shows no more of one, that one
+/// loses less, and where little else is on the cabinet than its colour, no slope tells.
+std::optional<Explanation> evenlyDimmed(const Evidence& evidence, std::size_t cabinet)
+{
+    const cv::Mat expected = evidence.expectedAt(cabinet);
+    const cv::Scalar pedestal(evidence.light.pedestal);
+    const cv::Scalar is = cv::mean(evidence.seenAt(cabinet)) - pedestal;
+    const cv::Scalar should = cv::mean(expected) - pedestal;
+    double least = 99;
+    double most = 0;
+    bool isBright = false; // of one that is not little would be left but dark
+    cv::Scalar factors = cv::Scalar::all(-1);
+    for (int c = 0; c < 3; ++c) {
+        if (should[c] < Thresholds::leastOfChannel * double(evidence.light.white[c]))
+            continue;
+        isBright = isBright || should[c] > double(Thresholds::mostDark * evidence.light.white[c]);
+        factors[c] = is[c] / should[c];
+        least = std::min(least, factors[c]);
+        most = std::max(most, factors[c]);
+    }
+    if (!isBright || least < Thresholds::leastBrightness || most > 1 || most > Thresholds::mostUneven * least)
+        return std::nullopt;
+    for (int c = 0; c < 3; ++c)
+        factors[c] = factors[c] < 0 ? least : factors[c];
+    Explanation result;
+    result.kind = Kind::Brightness;
+    result.factor = least;
+    result.expected = expected - pedestal;
+    cv::multiply(result.expected, factors, result.expected);
+    result.expected += pedestal;
+    result.cost = costOf(evidence, evidence.rects[cabinet], result.expected);
+    return result;
+}
+
 /// Its own picture with a channel missing, or with two exchanged.
 std::vector<Explanation> recolored(const Evidence& evidence, std::size_t cabinet)
 {
@@ -147,72 +181,6 @@ std::vector<Explanation> recolored(const Evidence& evidence, std::size_t cabinet
     return all;
 }
 
-cv::Mat greyOfFloats(const cv::Mat& rgb)
-{
-    cv::Mat grey;
-    cv::cvtColor(rgb, grey, cv::COLOR_RGB2GRAY);
-    return grey;
-}
-
-/// The parts of the seen and of the expected cabinet that show the same after a move.
-struct Overlap
-{
-    cv::Rect seen;
-    cv::Rect expected;
-};
-
-Overlap overlapOf(const cv::Size& size, const cv::Point& by)
-{
-    const cv::Rect all({}, size);
-    const cv::Rect seen = (all + by) & all;
-    return {seen, seen - by};
-}
-
-double correlation(const cv::Mat& a, const cv::Mat& b)
-{
-    cv::Scalar meanA;
-    cv::Scalar meanB;
-    cv::Scalar spreadA;
-    cv::Scalar spreadB;
-    cv::meanStdDev(a, meanA, spreadA);
-    cv::meanStdDev(b, meanB, spreadB);
-    if (spreadA[0] < 0.7 || spreadB[0] < 0.7)
-        return 0;
-    const double product = a.dot(b) / double(a.total()) - meanA[0] * meanB[0];
-    return product / (spreadA[0] * spreadB[0]);
-}
-
-struct Shifted
-{
-    cv::Point by;
-    double alike = 0;
-};
-
-Shifted bestShift(const cv::Mat& seen, const cv::Mat& expected, const cv::Rect& moves,
-                  double* second = nullptr)
-{
-    std::vector<Shifted> all;
-    for (int y = moves.y; y < moves.y + moves.height; ++y) {
-        for (int x = moves.x; x < moves.x + moves.width; ++x) {
-            const Overlap overlap = overlapOf(seen.size(), {x, y});
-            all.push_back({{x, y}, correlation(seen(overlap.seen), expected(overlap.expected))});
-        }
-    }
-    Shifted best;
-    for (const Shifted& shifted : all) {
-        if (shifted.alike > best.alike)
-            best = shifted;
-    }
-    if (second) {
-        *second = 0;
-        for (const Shifted& shifted : all) {
-            if (std::max(std::abs(shifted.by.x - best.by.x), std::abs(shifted.by.y - best.by.y)) > 3)
-                *second = std::max(*second, shifted.alike);
-        }
-    }
-    return best;
-}
-
 } // namespace
 
 std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t cabinet,
@@ -239,6 +207,8 @@ std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t ca
         return all;
     all.push_back(oneColor(evidence, cabinet));
     all.push_back(dimmed(evidence, cabinet));
+    if (const auto even = evenlyDimmed(evidence, cabinet))
+        all.push_back(*even);
     const std::vector<Explanation> colors = recolored(evidence, cabinet);
     all.insert(all.end(), colors.begin(), colors.end());
     return all;
@@ -265,85 +235,6 @@ bool goesOn(const Evidence& evidence, std::size_t beside, std::size_t plain)
         }
     }
     return compared > 0.2 * strip.area() && alike > Thresholds::mostAlikeBeside * compared;
-}
-
-namespace {
-
-/// The cabinet's picture moved, with the wall's black where it has left.
-cv::Mat movedOnBlack(const Evidence& evidence, const cv::Mat& expected, const cv::Point& by)
-{
-    const Overlap overlap = overlapOf(expected.size(), by);
-    cv::Mat moved(expected.size(), CV_32FC3, cv::Scalar(evidence.light.black));
-    expected(overlap.expected).copyTo(moved(overlap.seen));
-    return moved;
-}
-
-/// By the black that a shift leaves behind: a picture with little in it shows little else. The moves within
-/// `reach` of the best so far, `step` apart.
-void improveOnBlack(const Evidence& evidence, std::size_t cabinet, int reach, int step, Explanation& best)
-{
-    const cv::Mat expected = evidence.expectedAt(cabinet);
-    const cv::Point middle(cvRound(best.shift.x), cvRound(best.shift.y));
-    for (int y = -reach; y <= reach; y += step) {
-        for (int x = -reach; x <= reach; x += step) {
-            const cv::Point by = middle + cv::Point(x, y);
-            const cv::Mat moved = movedOnBlack(evidence, expected, by);
-            const double cost = costOf(evidence, evidence.rects[cabinet], moved);
-            if (cost < best.cost) {
-                best.cost = cost;
-                best.shift = by;
-                best.expected = moved;
-            }
-        }
-    }
-}
-
-} // namespace
-
-std::optional<Explanation> shiftOnBlack(const Evidence& evidence, std::size_t cabinet)
-{
-    const cv::Size size = evidence.rects[cabinet].size();
-    const int reach = int(Thresholds::mostShift * std::min(size.width, size.height));
-    Explanation best;
-    best.kind = Kind::Shifted;
-    for (int step = std::max(1, reach / 6), around = reach; step >= 1; around = step, step /= 2)
-        improveOnBlack(evidence, cabinet, around, step, best);
-    best.shift *= 1 / evidence.scale;
-    return cv::norm(best.shift) < Thresholds::leastShift ? std::nullopt : std::optional<Explanation>(best);
-}
-
-std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet)
-{
-    const cv::Mat seen = evidence.seenAt(cabinet);
-    const cv::Mat expected = evidence.expectedAt(cabinet);
-    const cv::Mat seenGrey = greyOfFloats(seen);
-    const cv::Mat expectedGrey = greyOfFloats(expected);
-    const int smaller = std::min(seen.cols, seen.rows);
-    const double factor = std::min(1.0, 44.0 / smaller);
-    cv::Mat coarseSeen;
-    cv::Mat coarseExpected;
-    cv::resize(seenGrey, coarseSeen, {}, factor, factor, cv::INTER_AREA);
-    cv::resize(expectedGrey, coarseExpected, {}, factor, factor, cv::INTER_AREA);
-    const int reach = int(Thresholds::mostShift * smaller * factor);
-    double second = 0;
-    const Shifted coarse =
-        bestShift(coarseSeen, coarseExpected, {-reach, -reach, 2 * reach + 1, 2 * reach + 1}, &second);
-    if (coarse.alike < Thresholds::shiftedAlike - 0.1 || second > coarse.alike - 0.05)
-        return std::nullopt;
-    const cv::Point at(cvRound(coarse.by.x / factor), cvRound(coarse.by.y / factor));
-    const int near = int(std::ceil(1 / factor)) + 1;
-    const Shifted fine =
-        bestShift(seenGrey, expectedGrey, {at.x - near, at.y - near, 2 * near + 1, 2 * near + 1});
-    const Overlap overlap = overlapOf(seen.size(), fine.by);
-    Explanation result;
-    result.kind = Kind::Shifted;
-    result.shift = cv::Point2d(fine.by) / evidence.scale;
-    if (fine.alike < Thresholds::shiftedAlike || cv::norm(result.shift) < Thresholds::leastShift)
-        return std::nullopt;
-    result.part = overlap.seen;
-    result.expected = expected(overlap.expected);
-    result.cost = costOf(evidence, overlap.seen + evidence.rects[cabinet].tl(), result.expected);
-    return result;
 }
 
 } // namespace WallReading

@@ -4,8 +4,6 @@
 #include "cabinetevidence.h"
 #include "readingfinding.h"
 
-#include <optional>
-
 namespace WallReading {
 
 /// One way to understand what a cabinet shows.
@@ -32,11 +30,5 @@ std::vector<Explanation> explanationsOf(const Evidence& evidence, std::size_t ca
 /// Whether the colour of the plain cabinet `plain` goes on in its neighbour `beside`: that of a dark cabinet
 /// ends with it, that of somebody before the wall does not.
 bool goesOn(const Evidence& evidence, std::size_t beside, std::size_t plain);
-
-/// The cabinet's own picture moved within the cabinet.
-std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet);
-
-/// The same, with black where it has moved from, and judged by all of the cabinet.
-std::optional<Explanation> shiftOnBlack(const Evidence& evidence, std::size_t cabinet);
 
 } // namespace WallReading

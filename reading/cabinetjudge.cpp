@@ -1,6 +1,8 @@
 #include "cabinetjudge.h"
 
+#include "cabinetblocks.h"
 #include "cabinetexplanation.h"
+#include "cabinetshifts.h"
 #include "cvimages.h"
 #include "readingthresholds.h"
 
@@ -19,24 +21,6 @@ namespace {
 using namespace Thresholds;
 
 constexpr int contentsLookedAt = 12;
-
-/// Which blocks of each cabinet do not show what they should.
-struct Blocks
-{
-    cv::Mat wrong; ///< of the wall, 6 x 6 for each cabinet
-    int columns = 0;
-
-    cv::Mat of(std::size_t cabinet) const
-    {
-        const int row = int(cabinet) / columns;
-        const int column = int(cabinet) % columns;
-        return wrong(cv::Rect(column * blocks, row * blocks, blocks, blocks));
-    }
-    double share(std::size_t cabinet) const
-    {
-        return double(cv::countNonZero(of(cabinet))) / (blocks * blocks);
-    }
-};
 
 class Judge
 {
@@ -167,11 +151,28 @@ private:
         }
         const Explanation& own = all.front();
         const Explanation& best = mildest(cabinet);
+        if (isSurelyShifted(cabinet)) {
+            accuse(cabinet, *m_shifts[cabinet]);
+            return;
+        }
         if (!best.isRight && usual(best.cost) < explainedCost && usual(own.cost) > surelyRightCost &&
             isCertain(cabinet, best) && !m_covered[cabinet])
             accuse(cabinet, best);
         else if (usual(own.cost) > explainedCost)
             sayUnexplained(cabinet);
+    }
+
+    /// Whether a shift explains it far better than all else, in a place that is known.
+    bool isSurelyShifted(std::size_t cabinet) const
+    {
+        if (!m_shifts[cabinet] || m_reading.doubt != Doubt::None)
+            return false;
+        const Explanation& shift = *m_shifts[cabinet];
+        const auto movedAlike = std::count_if(m_shifts.begin(), m_shifts.end(), [&](const auto& other) {
+            return other && cv::norm(other->shift - shift.shift) < leastShift;
+        });
+        return shift.cost < mostOfOwnShifted * m_explanations[cabinet].front().cost &&
+               shift.cost < mostOfNextShifted * bestOf(cabinet).cost && movedAlike - 1 <= mostMovedAlike;
     }
 
     /// What costs least; of a cabinet that has become one colour a lesser brightness, if that fits as well:
@@ -199,6 +200,9 @@ private:
     {
         const std::vector<Explanation>& all = m_explanations[cabinet];
         if (lead(cabinet, best, all.front()) < leadOverOwn || isWithinUsual(best))
+            return false;
+        const bool isPlain = best.kind == Kind::Dark || best.kind == Kind::Flat;
+        if (isPlain && m_reading.doubt != Doubt::None && best.cost > mostOfOwnPlain * all.front().cost)
             return false;
         const Leaning leaning =
             leaningOf(m_evidence, m_evidence.rects[cabinet], all.front().expected, best.expected);

@@ -61,7 +61,26 @@ constexpr double surelyRightCost = 0.5;
 /// them is a lamp, somebody before the wall, or a flat cabinet with a reflection.
 constexpr double nearlyPlainCost = 10;
 
-/// A cabinet that has moved costs more in its place, and more of its blocks are wrong.
+/// What a shift leaves of the cost of the cabinet's own picture, and of that of what else explains it best:
+/// little labels on black cost little wherever they are.
+constexpr double mostOfOwnShifted = 0.45;
+constexpr double mostOfNextShifted = 0.6;
+
+/// The same of the cost of its own picture in its place with black where the moved one leaves it.
+constexpr double mostOfCovered = 0.6;
+
+/// What one colour leaves of the cost of the cabinet's own picture where the chart looks the same moved: a
+/// label that is elsewhere is no dark cabinet.
+constexpr double mostOfOwnPlain = 0.4;
+
+/// Channels of a dimmed cabinet lose about as much as one another.
+constexpr double mostUneven = 1.5;
+
+/// So many others that have moved alike are a place that is off.
+constexpr int mostMovedAlike = 1;
+
+/// Where the chart looks the same moved, a cabinet that has moved costs more in its place, and more of its
+/// blocks are wrong.
 constexpr double leastMovedCost = 5;
 constexpr double leastMovedBlocks = 0.2;
 

@@ -140,6 +140,10 @@ private Q_SLOTS:
         QTest::newRow("a bar that moved leaves black") << 26 << true << "0/6"
                                                        << "shifted";
         QTest::newRow("a shoulder is nothing else that is shown") << 49 << false << "3/0" << QString();
+        QTest::newRow("a small label on black that moved is not another one") << 7021 << true << "6/2"
+                                                                              << "shifted";
+        QTest::newRow("a dimmed cabinet is not one colour") << 5012 << false << "2/7"
+                                                            << "brightness";
         QTest::newRow("labels alike from the side are not swapped") << 59 << false << "0/8" << QString();
     }
 
