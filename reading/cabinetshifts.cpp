@@ -159,7 +159,9 @@ std::optional<Explanation> shiftOnBlack(const Evidence& evidence, std::size_t ca
     best.kind = Kind::Shifted;
     for (int step = std::max(1, reach / 6), around = reach; step >= 1; around = step, step /= 2)
         improveOnBlack(evidence, cabinet, around, step, best);
-    if (isRatherCovered(evidence, cabinet, best))
+    // At the end of what was tried a shift is no better than one beyond it, which nobody tried.
+    if (std::max(std::abs(best.shift.x), std::abs(best.shift.y)) >= reach ||
+        isRatherCovered(evidence, cabinet, best))
         return std::nullopt;
     best.shift *= 1 / evidence.scale;
     return cv::norm(best.shift) < Thresholds::leastShift ? std::nullopt : std::optional<Explanation>(best);

@@ -144,6 +144,8 @@ private Q_SLOTS:
                                                                               << "shifted";
         QTest::newRow("a dimmed cabinet is not one colour") << 5012 << false << "2/7"
                                                             << "brightness";
+        QTest::newRow("a bar that somebody covers nearly whole has not moved")
+            << 9014 << false << "6/10" << QString();
         QTest::newRow("labels alike from the side are not swapped") << 59 << false << "0/8" << QString();
     }
 
