@@ -40,6 +40,13 @@ function(vd_defaults target)
   endif()
 endfunction()
 
+# vd_fast_in_debug(<source …>): what goes over every pixel is optimised in a debug build as well; the tests wait for it.
+function(vd_fast_in_debug)
+  if(CMAKE_BUILD_TYPE STREQUAL Debug)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O2 SKIP_PRECOMPILE_HEADERS ON)
+  endif()
+endfunction()
+
 # vd_precompile(<target> <header …> | REUSE_FROM <target>): the headers that its sources mostly wait for. In a unity build
 # they are read so seldom that precompiling them costs more.
 function(vd_precompile target)
