@@ -47,16 +47,17 @@ function(vd_fast_in_debug)
   endif()
 endfunction()
 
-# vd_precompile(<target> <header …> | REUSE_FROM <target>): the headers that its sources mostly wait for. In a unity build
-# they are read so seldom that precompiling them costs more.
+# vd_precompile(<target> [ALSO_IN_UNITY] <header …> | REUSE_FROM <target>): the headers that its sources mostly wait for. A
+# library in a unity build reads them so seldom that precompiling them costs more.
 function(vd_precompile target)
-  if(NOT VD_PRECOMPILED_HEADERS OR CMAKE_UNITY_BUILD)
+  cmake_parse_arguments(arg "ALSO_IN_UNITY" "REUSE_FROM" "" ${ARGN})
+  if(NOT VD_PRECOMPILED_HEADERS OR (CMAKE_UNITY_BUILD AND NOT arg_ALSO_IN_UNITY))
     return()
   endif()
-  if("${ARGV1}" STREQUAL REUSE_FROM)
-    target_precompile_headers(${target} REUSE_FROM ${ARGV2})
+  if(arg_REUSE_FROM)
+    target_precompile_headers(${target} REUSE_FROM ${arg_REUSE_FROM})
   else()
-    target_precompile_headers(${target} PRIVATE ${ARGN})
+    target_precompile_headers(${target} PRIVATE ${arg_UNPARSED_ARGUMENTS})
   endif()
 endfunction()
 
