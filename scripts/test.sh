@@ -72,6 +72,8 @@ if [ -n "$all" ]; then
   scripts/package.sh
   step 'Hosts, kills and full disks'
   ctest --preset dev -C Thorough -R '^(hosts|kills|fulldisk)$'
+  step 'Binary interface'
+  scripts/abi.sh
   step 'Reference'
   scripts/reference.sh
   step 'clang-tidy'
