@@ -25,7 +25,9 @@ function(vd_defaults target)
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wno-subobject-linkage>
     $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments> # as the toolkit's logging macros are
     $<$<BOOL:${VD_WARNINGS_AS_ERRORS}>:-Werror>)
-  if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES ccache)
+  if(CMAKE_CXX_COMPILER_LAUNCHER STREQUAL ccache) # what it needs to keep objects made with precompiled headers
+    set_target_properties(${target} PROPERTIES
+      CXX_COMPILER_LAUNCHER "env;CCACHE_SLOPPINESS=pch_defines,time_macros;ccache")
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
   endif()
   if(VD_MOLD AND CMAKE_BUILD_TYPE STREQUAL Debug)
