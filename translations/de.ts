@@ -1012,6 +1012,22 @@
         <translation>Tastenkürzel</translation>
     </message>
     <message>
+        <source>Size by one pixel</source>
+        <translation>Größe um ein Pixel</translation>
+    </message>
+    <message>
+        <source>Size by ten pixels</source>
+        <translation>Größe um zehn Pixel</translation>
+    </message>
+    <message>
+        <source>Next cabinet</source>
+        <translation>Nächstes Cabinet</translation>
+    </message>
+    <message>
+        <source>Extend the selection</source>
+        <translation>Auswahl erweitern</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>Auf der Ausgabe zu einem Testbild springen</translation>
     </message>

@@ -1012,6 +1012,22 @@
         <translation>Keyboard shortcuts</translation>
     </message>
     <message>
+        <source>Size by one pixel</source>
+        <translation>Size by one pixel</translation>
+    </message>
+    <message>
+        <source>Size by ten pixels</source>
+        <translation>Size by ten pixels</translation>
+    </message>
+    <message>
+        <source>Next cabinet</source>
+        <translation>Next cabinet</translation>
+    </message>
+    <message>
+        <source>Extend the selection</source>
+        <translation>Extend the selection</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>Jump to a chart on the output</translation>
     </message>

@@ -1012,6 +1012,22 @@
         <translation>Atajos de teclado</translation>
     </message>
     <message>
+        <source>Size by one pixel</source>
+        <translation>Tamaño en un píxel</translation>
+    </message>
+    <message>
+        <source>Size by ten pixels</source>
+        <translation>Tamaño en diez píxeles</translation>
+    </message>
+    <message>
+        <source>Next cabinet</source>
+        <translation>Gabinete siguiente</translation>
+    </message>
+    <message>
+        <source>Extend the selection</source>
+        <translation>Ampliar la selección</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>Ir a una carta en la salida</translation>
     </message>

@@ -1012,6 +1012,22 @@
         <translation>キーボードショートカット</translation>
     </message>
     <message>
+        <source>Size by one pixel</source>
+        <translation>大きさを 1 ピクセル変更</translation>
+    </message>
+    <message>
+        <source>Size by ten pixels</source>
+        <translation>大きさを 10 ピクセル変更</translation>
+    </message>
+    <message>
+        <source>Next cabinet</source>
+        <translation>次のキャビネット</translation>
+    </message>
+    <message>
+        <source>Extend the selection</source>
+        <translation>選択を広げる</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>出力でテストパターンへ移動</translation>
     </message>

@@ -1012,6 +1012,22 @@
         <translation>键盘快捷键</translation>
     </message>
     <message>
+        <source>Size by one pixel</source>
+        <translation>大小增减一个像素</translation>
+    </message>
+    <message>
+        <source>Size by ten pixels</source>
+        <translation>大小增减十个像素</translation>
+    </message>
+    <message>
+        <source>Next cabinet</source>
+        <translation>下一个箱体</translation>
+    </message>
+    <message>
+        <source>Extend the selection</source>
+        <translation>扩大选择</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>在输出上跳到某张测试图</translation>
     </message>

@@ -2,6 +2,7 @@
 #include "deskwalls.h"
 #include "deskwindow.h"
 #include "languages.h"
+#include "shortcomings.h"
 #include "testcase.h"
 #include "wallcanvas.h"
 #include "wallmodel.h"
@@ -15,6 +16,7 @@
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTreeWidget>
 
 #include <set>
 
@@ -159,6 +161,27 @@ private Q_SLOTS:
         QVERIFY(model().plan().cabinetAt(Place{2, 0}) >= 0);
         key(Qt::Key_T);
         QCOMPARE(WallEdit::exceptionAt(wall(), {2, 0}).turned, 90);
+    }
+
+    void keysAreListed()
+    {
+        openWall();
+        trigger("wallKeys");
+        QTRY_VERIFY(QApplication::activeModalWidget());
+        const auto* tree = QApplication::activeModalWidget()->findChild<QTreeWidget*>();
+        QVERIFY(tree);
+        QHash<QString, QString> keys;
+        for (int row = 0; row < tree->topLevelItemCount(); ++row)
+            keys.insert(tree->topLevelItem(row)->text(0), tree->topLevelItem(row)->text(1));
+        for (const QAction* action : m_window->findChildren<QAction*>(QRegularExpression("^wall"))) {
+            if (!action->shortcut().isEmpty())
+                QCOMPARE(keys.value(action->text()), action->shortcut().toString(QKeySequence::NativeText));
+        }
+        QCOMPARE(keys.value("Turn"), QString("T"));
+        QCOMPARE(keys.value("Size by ten pixels"), QString("Shift+← → ↑ ↓"));
+        QCOMPARE(shortcomings::shortcomingsOf(*tree->window()).join('\n'), QString());
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
     }
 
     void theWindowFitsItsScreen()

@@ -13,6 +13,17 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+namespace {
+
+ShortcutSheet::Keys keysOfTheOutput()
+{
+    return {{hostText(QStringLiteral("Jump to a chart on the output")), QStringLiteral("1 … 9, 0")},
+            {hostText(QStringLiteral("Leave the output")),
+             QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)}};
+}
+
+} // namespace
+
 HelpMenu::HelpMenu(const QMenuBar* menus, QWidget* window)
     : QMenu(window)
     , m_menus(menus)
@@ -24,7 +35,7 @@ HelpMenu::HelpMenu(const QMenuBar* menus, QWidget* window)
     m_shortcuts->setShortcut(Qt::Key_F1);
     m_manual->setShortcut(Qt::SHIFT | Qt::Key_F1);
     connect(m_shortcuts, &QAction::triggered, this,
-            [this] { (new ShortcutSheet(m_menus, m_window))->open(); });
+            [this] { (new ShortcutSheet(m_menus, keysOfTheOutput(), m_window))->open(); });
     connect(m_manual, &QAction::triggered, this, [this] { (new ManualWindow(m_window))->show(); });
     connect(m_about, &QAction::triggered, this, &HelpMenu::showAbout);
 }

@@ -20,58 +20,74 @@ QString keyOf(const QAction* action)
     return ofOutput.isEmpty() ? action->shortcut().toString(QKeySequence::NativeText) : ofOutput;
 }
 
+QList<QTreeWidgetItem*> keyItems(const QList<QAction*>& actions)
+{
+    QList<QTreeWidgetItem*> items;
+    for (const QAction* action : actions) {
+        if (!keyOf(action).isEmpty())
+            items.append(
+                new QTreeWidgetItem({action->text().section(QLatin1Char('\t'), 0, 0), keyOf(action)}));
+    }
+    return items;
+}
+
 void addMenuKeys(QTreeWidget* tree, const QMenu* menu)
 {
+    const QList<QTreeWidgetItem*> items = keyItems(menu->actions());
+    if (items.isEmpty())
+        return;
     auto* group = new QTreeWidgetItem({QString(menu->title()).remove(QLatin1Char('&'))});
     QFont font = tree->font();
     font.setBold(true);
     group->setFont(0, font);
-    const QList<QAction*> actions = menu->actions();
-    for (const QAction* action : actions) {
-        if (!keyOf(action).isEmpty())
-            group->addChild(
-                new QTreeWidgetItem({action->text().section(QLatin1Char('\t'), 0, 0), keyOf(action)}));
-    }
-    if (group->childCount() > 0)
-        tree->addTopLevelItem(group);
-    else
-        delete group;
+    group->addChildren(items);
+    tree->addTopLevelItem(group);
 }
 
 } // namespace
 
-ShortcutSheet::ShortcutSheet(const QMenuBar* menus, QWidget* parent)
+ShortcutSheet::ShortcutSheet(const QMenuBar* menus, const Keys& others, QWidget* parent)
     : QDialog(parent)
+    , m_tree(new QTreeWidget)
+{
+    const QList<QAction*> all = menus->actions();
+    for (const QAction* action : all)
+        addMenuKeys(m_tree, action->menu());
+    build(others);
+}
+
+ShortcutSheet::ShortcutSheet(const QList<QAction*>& actions, const Keys& others, QWidget* parent)
+    : QDialog(parent)
+    , m_tree(new QTreeWidget)
+{
+    m_tree->addTopLevelItems(keyItems(actions));
+    build(others);
+}
+
+void ShortcutSheet::build(const Keys& others)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(hostText(QStringLiteral("Keyboard shortcuts")));
-    auto* tree = new QTreeWidget;
-    tree->setObjectName(QStringLiteral("shortcuts"));
-    tree->setAccessibleName(windowTitle());
-    tree->setToolTip(windowTitle());
-    tree->setColumnCount(2);
-    tree->setHeaderHidden(true);
-    tree->setRootIsDecorated(false);
-    tree->setSelectionMode(QAbstractItemView::NoSelection);
-    const QList<QAction*> all = menus->actions();
-    for (const QAction* action : all)
-        addMenuKeys(tree, action->menu());
-    tree->addTopLevelItem(new QTreeWidgetItem(
-        {hostText(QStringLiteral("Jump to a chart on the output")), QStringLiteral("1 … 9, 0")}));
-    tree->addTopLevelItem(
-        new QTreeWidgetItem({hostText(QStringLiteral("Leave the output")),
-                             QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)}));
-    tree->expandAll();
-    tree->header()->setStretchLastSection(false);
-    tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    tree->resizeColumnToContents(1);
-    tree->header()->setSectionResizeMode(1, QHeaderView::Fixed);
-    tree->setColumnWidth(1, tree->columnWidth(1) + 4 * tree->fontMetrics().averageCharWidth());
+    m_tree->setObjectName(QStringLiteral("shortcuts"));
+    m_tree->setAccessibleName(windowTitle());
+    m_tree->setToolTip(windowTitle());
+    m_tree->setColumnCount(2);
+    m_tree->setHeaderHidden(true);
+    m_tree->setRootIsDecorated(false);
+    m_tree->setSelectionMode(QAbstractItemView::NoSelection);
+    for (const auto& [what, keys] : others)
+        m_tree->addTopLevelItem(new QTreeWidgetItem({what, keys}));
+    m_tree->expandAll();
+    m_tree->header()->setStretchLastSection(false);
+    m_tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_tree->resizeColumnToContents(1);
+    m_tree->header()->setSectionResizeMode(1, QHeaderView::Fixed);
+    m_tree->setColumnWidth(1, m_tree->columnWidth(1) + 4 * m_tree->fontMetrics().averageCharWidth());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setToolTip(buttons->button(QDialogButtonBox::Close)->text());
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(tree);
+    layout->addWidget(m_tree);
     layout->addWidget(buttons);
     DeskDialogs::resizeWithinScreen(this, QSize(520, 640));
 }

@@ -3,6 +3,7 @@
 #include "deskdialogs.h"
 #include "hosttext.h"
 #include "messagebox.h"
+#include "shortcutsheet.h"
 #include "wallcanvas.h"
 #include "wallfieldpane.h"
 #include "wallmodel.h"
@@ -109,6 +110,7 @@ void WallWindow::createActions()
         add("wallAll", hostSource("Select all"), QKeySequence::SelectAll, [this] { m_canvas->selectAll(); }));
     bar->addAction(
         add("wallWhole", hostSource("Whole wall"), Qt::CTRL + Qt::Key_0, [this] { m_canvas->showWhole(); }));
+    addAction(add("wallKeys", hostSource("Keyboard shortcuts"), Qt::Key_F1, [this] { showKeys(); }));
     addAction(add("wallClose", hostSource("Close"), QKeySequence::Close, [this] { close(); }));
 }
 
@@ -190,6 +192,27 @@ void WallWindow::retranslate()
     setWindowTitle(QFileInfo(m_model->path()).fileName() + QStringLiteral("[*] — ") +
                    hostText(QStringLiteral("Edit wall")));
     showState();
+}
+
+void WallWindow::showKeys()
+{
+    QList<QAction*> actions;
+    for (const NamedAction& named : m_actions)
+        actions.append(named.action);
+    const auto native = [](int key) { return QKeySequence(key).toString(QKeySequence::NativeText); };
+    const QString arrows = QStringLiteral("← → ↑ ↓");
+    const auto arrowsWith = [&](int modifiers) {
+        return native(modifiers | Qt::Key_Left).section(native(Qt::Key_Left), 0, 0) + arrows;
+    };
+    const ShortcutSheet::Keys others = {
+        {hostText(QStringLiteral("Size by one pixel")), arrows},
+        {hostText(QStringLiteral("Size by ten pixels")), arrowsWith(Qt::SHIFT)},
+        {hostText(QStringLiteral("Next cabinet")), arrowsWith(Qt::CTRL)},
+        {hostText(QStringLiteral("Extend the selection")), arrowsWith(Qt::CTRL | Qt::SHIFT)},
+        {hostText(QStringLiteral("Zoom in")), QStringLiteral("+")},
+        {hostText(QStringLiteral("Zoom out")), QStringLiteral("−")},
+    };
+    (new ShortcutSheet(actions, others, this))->open();
 }
 
 void WallWindow::closeEvent(QCloseEvent* event)

@@ -47,6 +47,7 @@ private:
     void createTools();
     void save();
     void showState();
+    void showKeys();
 
     WallModel* m_model;
     WallCanvas* m_canvas;
