@@ -10,45 +10,27 @@
 
 namespace vardeno::testcharttools {
 
-namespace {
-
-/// Whole on the disk: a `commit` alone does not see that the last kilobytes had no room.
-bool finish(QSaveFile& file)
-{
-    return file.flush() && file.commit();
-}
-
-} // namespace
-
-/// Encodes into the file, for what is encoded may be as large as the image; the file remembers a write that
-/// failed. Not so JPEG, which is small and whose encoder complains of such a write to the log.
+/// Encodes in memory first: saving straight to a file reports success when the disk fills up in its last
+/// kilobytes, and so does a `commit` alone.
 bool writeImageWhole(const QImage& image, const QString& path, const char* format, int quality,
                      WriteFault* fault)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    const bool isJpeg = qstricmp(format, "JPEG") == 0;
-    const bool isEncodable =
-        !image.isNull() &&
-        (!isJpeg || (buffer.open(QIODevice::WriteOnly) && image.save(&buffer, format, quality)));
-    if (isEncodable && isJpeg)
-        return writeBytesWhole(bytes, path, fault);
-    QSaveFile file(path);
-    errno = 0;
-    const bool written =
-        isEncodable && file.open(QIODevice::WriteOnly) && image.save(&file, format, quality) && finish(file);
-    const int errorNumber = errno;
-    if (!written && fault)
-        *fault = file.error() != QFileDevice::NoError ? writeFaultOf(path, file, errorNumber)
-                                                      : WriteFault{WriteFault::NotEncodable, QString()};
-    return written;
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, quality)) {
+        if (fault)
+            *fault = {WriteFault::NotEncodable, QString()};
+        return false;
+    }
+    return writeBytesWhole(bytes, path, fault);
 }
 
 bool writeBytesWhole(const QByteArray& bytes, const QString& path, WriteFault* fault)
 {
     QSaveFile file(path);
     errno = 0;
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && finish(file);
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     const int errorNumber = errno;
     if (!written && fault)
         *fault = writeFaultOf(path, file, errorNumber);
