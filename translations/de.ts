@@ -1028,6 +1028,14 @@
         <translation>Auswahl erweitern</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>Auf der Ausgabe zu einem Testbild springen</translation>
     </message>

@@ -1028,6 +1028,14 @@
         <translation>Extend the selection</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>Jump to a chart on the output</translation>
     </message>

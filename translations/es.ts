@@ -1028,6 +1028,14 @@
         <translation>Ampliar la selección</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>Ir a una carta en la salida</translation>
     </message>

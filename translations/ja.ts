@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>Size by one pixel</source>
-        <translation>大きさを 1 ピクセル変更</translation>
+        <translation>大きさを一ピクセル変更</translation>
     </message>
     <message>
         <source>Size by ten pixels</source>
-        <translation>大きさを 10 ピクセル変更</translation>
+        <translation>大きさを十ピクセル変更</translation>
     </message>
     <message>
         <source>Next cabinet</source>
@@ -1026,6 +1026,14 @@
     <message>
         <source>Extend the selection</source>
         <translation>選択を広げる</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>縮小</translation>
     </message>
     <message>
         <source>Jump to a chart on the output</source>

@@ -1028,6 +1028,14 @@
         <translation>扩大选择</translation>
     </message>
     <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
         <source>Jump to a chart on the output</source>
         <translation>在输出上跳到某张测试图</translation>
     </message>
