@@ -1,26 +1,17 @@
 // The most memory that a chart has taken after some changes: peakmemory editor|reference WIDTH HEIGHT. Reads
 // it from /proc.
 
+#include "peakmemory.h"
 #include "paintbasicwidget.h"
 #include "referencechart.h"
 #include "vtestcharttools.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QTextStream>
 
 using namespace vardeno::testcharttools;
 
 namespace {
-
-QString peakMemory()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return {};
-    const QStringList lines = QString::fromUtf8(status.readAll()).split(QLatin1Char('\n'));
-    return lines.filter(QStringLiteral("VmHWM")).value(0).section(QLatin1Char(':'), 1).trimmed();
-}
 
 void changeEditor(const TestChartToolsData& record)
 {

@@ -114,13 +114,6 @@ cv::Mat reachOfPixels(const Lens& lens, const ChartView& view)
     return result;
 }
 
-cv::Mat greyOfFloats(const cv::Mat& rgb)
-{
-    cv::Mat grey;
-    cv::cvtColor(rgb, grey, cv::COLOR_RGB2GRAY);
-    return grey;
-}
-
 struct Slopes
 {
     cv::Mat across;
@@ -160,8 +153,8 @@ double blurOf(const cv::Mat& chartLight, const cv::Mat& seen, const cv::Mat& ins
     const Light light = lightOf(blurredValues(chartLight, 0.6), seen, inside);
     if (!light.isKnown)
         return 1;
-    const Slopes even = slopesOf(greyOfFloats(seen) / light.gain);
-    const cv::Mat shown = greyOfFloats(light.toned);
+    const Slopes even = slopesOf(greyOf(seen) / light.gain);
+    const cv::Mat shown = greyOf(light.toned);
     double best = 1;
     double most = -1;
     for (const double sigma : blurs) {

@@ -1,5 +1,6 @@
 #include "cabinetshifts.h"
 
+#include "cvimages.h"
 #include "readingthresholds.h"
 
 #include <opencv2/imgproc.hpp>
@@ -10,13 +11,6 @@
 namespace WallReading {
 
 namespace {
-
-cv::Mat greyOfFloats(const cv::Mat& rgb)
-{
-    cv::Mat grey;
-    cv::cvtColor(rgb, grey, cv::COLOR_RGB2GRAY);
-    return grey;
-}
 
 /// The parts of the seen and of the expected cabinet that show the same after a move.
 struct Overlap
@@ -171,8 +165,8 @@ std::optional<Explanation> shiftOf(const Evidence& evidence, std::size_t cabinet
 {
     const cv::Mat seen = evidence.seenAt(cabinet);
     const cv::Mat expected = evidence.expectedAt(cabinet);
-    const cv::Mat seenGrey = greyOfFloats(seen);
-    const cv::Mat expectedGrey = greyOfFloats(expected);
+    const cv::Mat seenGrey = greyOf(seen);
+    const cv::Mat expectedGrey = greyOf(expected);
     const int smaller = std::min(seen.cols, seen.rows);
     const double factor = std::min(1.0, 44.0 / smaller);
     cv::Mat coarseSeen;

@@ -10,7 +10,7 @@ namespace WallReading {
 cv::Mat toMat(const QImage& image);
 QImage toImage(const cv::Mat& rgb);
 
-/// One channel, 0 to 255.
+/// One channel, in the type and the range of the three.
 cv::Mat greyOf(const cv::Mat& rgb);
 
 /// Smaller by `factor`; as it is for 1 and more.

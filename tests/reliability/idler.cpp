@@ -2,10 +2,9 @@
 //   reliability_idler [SECONDS [LIMIT]]
 // Prints the processor time of the editor, the desk, its output and each layer, shown by themselves with a
 // chart of 3840 x 2160, in percent of a core; ends with 1 where one takes more than LIMIT (2).
-#include "chartfont.h"
-#include "languages.h"
 #include "mainwindow.h"
 #include "outputwindow.h"
+#include "preparedapplication.h"
 
 #include <chartpicture.h>
 #include <paintbasicwidget.h>
@@ -20,8 +19,6 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QLoggingCategory>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
@@ -121,11 +118,7 @@ double busyShare(int seconds)
 
 int main(int argc, char** argv)
 {
-    QStandardPaths::setTestModeEnabled(true);
-    QLoggingCategory::setFilterRules(QStringLiteral("vardeno.*=false"));
-    QApplication application(argc, argv);
-    QApplication::setFont(chartFont());
-    chooseLanguage(QStringLiteral("en"));
+    const PreparedApplication application(argc, argv);
     const int seconds = argc > 1 ? QByteArray(argv[1]).toInt() : 60;
     const double limit = argc > 2 ? QByteArray(argv[2]).toDouble() : 2;
     int tooBusy = 0;

@@ -2,8 +2,9 @@
 // Random changes with the editor's own controls, and saves in between, which go on during the next changes.
 // Prints "saved PICTURE", beside which its record lies, and at the end the peak of the memory. marathon.py
 // looks at all of it.
-#include "chartfont.h"
-#include "languages.h"
+
+#include "peakmemory.h"
+#include "preparedapplication.h"
 
 #include <chartrecordfile.h>
 #include <spineditbox.h>
@@ -15,9 +16,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
-#include <QLoggingCategory>
 #include <QRandomGenerator>
-#include <QStandardPaths>
 #include <QTextStream>
 #include <QTimer>
 
@@ -137,24 +136,11 @@ void Day::pause()
     loop.exec();
 }
 
-QString peakMemory()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return {};
-    const QStringList lines = QString::fromUtf8(status.readAll()).split(QLatin1Char('\n'));
-    return lines.filter(QStringLiteral("VmHWM")).value(0).section(QLatin1Char(':'), 1).trimmed();
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    QStandardPaths::setTestModeEnabled(true);
-    QLoggingCategory::setFilterRules(QStringLiteral("vardeno.*=false"));
-    QApplication application(argc, argv);
-    QApplication::setFont(chartFont());
-    chooseLanguage(QStringLiteral("en"));
+    const PreparedApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     const int changes = arguments.value(2).toInt();
     const int saves = arguments.value(3).toInt();

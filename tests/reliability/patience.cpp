@@ -2,17 +2,14 @@
 // FOLDER
 //   editor   the editor by itself
 //   desk     the chart desk: a new chart is confirmed
-#include "chartfont.h"
 #include "editsession.h"
-#include "languages.h"
 #include "mainwindow.h"
+#include "preparedapplication.h"
 
 #include <vtestcharttools.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QLoggingCategory>
-#include <QStandardPaths>
 #include <QTextStream>
 #include <QTimer>
 
@@ -90,11 +87,7 @@ int saveInDesk(const QString& folder)
 
 int main(int argc, char** argv)
 {
-    QStandardPaths::setTestModeEnabled(true);
-    QLoggingCategory::setFilterRules(QStringLiteral("vardeno.*=false"));
-    QApplication application(argc, argv);
-    QApplication::setFont(chartFont());
-    chooseLanguage(QStringLiteral("en"));
+    const PreparedApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 3)
         qFatal("usage: reliability_patience editor|desk FOLDER");
