@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -91,9 +92,14 @@ enum class Doubt
     OutOfTime
 };
 
-VDREADING_EXPORT QString sentence(const Finding& finding);
-VDREADING_EXPORT QString sentence(const EdgeLoss& edge);
-VDREADING_EXPORT QString sentence(const WholeFinding& finding);
+/// Gives the texts of the sentences in a language, from the English ones. Places for values stay: "%1".
+using Phrases = std::function<QString(const char* english)>;
+
+VDREADING_EXPORT QString inEnglish(const char* english);
+
+VDREADING_EXPORT QString sentence(const Finding& finding, const Phrases& say = inEnglish);
+VDREADING_EXPORT QString sentence(const EdgeLoss& edge, const Phrases& say = inEnglish);
+VDREADING_EXPORT QString sentence(const WholeFinding& finding, const Phrases& say = inEnglish);
 
 /// "swapped", as programs are told.
 VDREADING_EXPORT QString kindName(Kind kind);

@@ -14,96 +14,121 @@ namespace {
 
 const std::array<const char*, 4> edgeNames = {"left", "top", "right", "bottom"};
 
-QString degrees(int turn)
+QString shiftText(const Finding& finding, const Phrases& say)
 {
-    return QStringLiteral("%1 degrees").arg(turn);
+    const int x = int(std::lround(finding.shift.x()));
+    const int y = int(std::lround(finding.shift.y()));
+    const QString across = QString::number(std::abs(x));
+    const QString along = QString::number(std::abs(y));
+    if (y == 0)
+        return (x > 0 ? say("%1 is shifted by %2 right chart pixels")
+                      : say("%1 is shifted by %2 left chart pixels"))
+            .arg(finding.label, across);
+    if (x == 0)
+        return (y > 0 ? say("%1 is shifted by %2 down chart pixels")
+                      : say("%1 is shifted by %2 up chart pixels"))
+            .arg(finding.label, along);
+    const QString right = y > 0 ? say("%1 is shifted by %2 right and %3 down chart pixels")
+                                : say("%1 is shifted by %2 right and %3 up chart pixels");
+    const QString left = y > 0 ? say("%1 is shifted by %2 left and %3 down chart pixels")
+                               : say("%1 is shifted by %2 left and %3 up chart pixels");
+    return (x > 0 ? right : left).arg(finding.label, across, along);
 }
 
-QString besides(int turn)
+QString swapText(const Finding& finding, const Phrases& say)
 {
-    return turn == 0 ? QString() : QStringLiteral(", turned by %1").arg(degrees(turn));
+    if (finding.turn == 0)
+        return say("%1 shows what belongs to %2").arg(finding.label, finding.showsLabel);
+    return say("%1 shows what belongs to %2, turned by %3 degrees")
+        .arg(finding.label, finding.showsLabel, QString::number(finding.turn));
 }
 
-QString shiftText(const QPointF& shift)
+QString mirrorText(const Finding& finding, const Phrases& say)
 {
-    const int x = int(std::lround(shift.x()));
-    const int y = int(std::lround(shift.y()));
-    QStringList parts;
-    if (x != 0)
-        parts << QStringLiteral("%1 %2")
-                     .arg(std::abs(x))
-                     .arg(x > 0 ? QStringLiteral("right") : QStringLiteral("left"));
-    if (y != 0)
-        parts << QStringLiteral("%1 %2")
-                     .arg(std::abs(y))
-                     .arg(y > 0 ? QStringLiteral("down") : QStringLiteral("up"));
-    return QStringLiteral("by %1 chart pixels").arg(parts.join(QStringLiteral(" and ")));
+    if (finding.turn == 180)
+        return say("%1 is mirrored top to bottom").arg(finding.label);
+    if (finding.turn == 0)
+        return say("%1 is mirrored left to right").arg(finding.label);
+    return say("%1 is mirrored left to right, turned by %2 degrees")
+        .arg(finding.label, QString::number(finding.turn));
 }
 
-QString what(const Finding& finding)
+/// For what needs no more than the label.
+QString stateText(const Finding& finding, const Phrases& say)
 {
     switch (finding.kind) {
-    case Kind::Swapped:
-        return QStringLiteral("shows what belongs to %1%2").arg(finding.showsLabel, besides(finding.turn));
-    case Kind::Turned:
-        return QStringLiteral("is turned by %1").arg(degrees(finding.turn));
-    case Kind::Mirrored:
-        return finding.turn == 180 ? QStringLiteral("is mirrored top to bottom")
-                                   : QStringLiteral("is mirrored left to right%1").arg(besides(finding.turn));
     case Kind::Dark:
-        return QStringLiteral("is dark");
+        return say("%1 is dark");
     case Kind::Flat:
-        return QStringLiteral("shows nothing but one colour");
+        return say("%1 shows nothing but one colour");
     case Kind::Other:
-        return QStringLiteral("shows something else");
-    case Kind::Shifted:
-        return QStringLiteral("is shifted %1").arg(shiftText(finding.shift));
+        return say("%1 shows something else");
     case Kind::Brightness:
-        return finding.factor < 1 ? QStringLiteral("is too dark") : QStringLiteral("is too bright");
+        return finding.factor < 1 ? say("%1 is too dark") : say("%1 is too bright");
     case Kind::Color:
-        return QStringLiteral("shows wrong colours");
+        return say("%1 shows wrong colours");
     case Kind::Hidden:
-        return QStringLiteral("is hidden");
+        return say("%1 is hidden");
     default:
-        return QStringLiteral("could not be judged");
+        return say("%1 could not be judged");
     }
 }
 
-QString count(int number, const char* one)
-{
-    return number == 1 ? QStringLiteral("1 %1").arg(QLatin1String(one))
-                       : QStringLiteral("%1 %2s").arg(number).arg(QLatin1String(one));
-}
-
-QString alikeText(const Place& alike)
+QString alikeText(const Place& alike, const Phrases& say)
 {
     const int rows = std::abs(alike.row);
     const int columns = std::abs(alike.column);
-    QStringList parts;
-    if (rows > 0)
-        parts << count(rows, "row");
-    if (columns > 0)
-        parts << count(columns, "column");
-    const QString moved = parts.isEmpty()
-                              ? QStringLiteral("turned by 180 degrees")
-                              : QStringLiteral("shifted by %1").arg(parts.join(QStringLiteral(" and ")));
-    return QStringLiteral("not sure which cabinet is which: this chart looks the same %1; give it labels")
-        .arg(moved);
+    const QString down = (rows == 1 ? say("%1 row") : say("%1 rows")).arg(rows);
+    const QString across = (columns == 1 ? say("%1 column") : say("%1 columns")).arg(columns);
+    const QString by = rows == 0 ? across : columns == 0 ? down : say("%1 and %2").arg(down, across);
+    if (rows == 0 && columns == 0)
+        return say("not sure which cabinet is which: this chart looks the same turned by 180 degrees; "
+                   "give it labels");
+    return say("not sure which cabinet is which: this chart looks the same shifted by %1; give it labels")
+        .arg(by);
 }
 
-QString doubtText(const Reading& reading)
+QString doubtText(const Reading& reading, const Phrases& say)
 {
     switch (reading.doubt) {
     case Doubt::NoPicture:
-        return QStringLiteral("there is no picture to read");
+        return say("there is no picture to read");
     case Doubt::NotFound:
-        return QStringLiteral("the chart was not found in the picture");
+        return say("the chart was not found in the picture");
     case Doubt::OutOfTime:
-        return QStringLiteral("the chart was not found in time");
+        return say("the chart was not found in time");
     case Doubt::AlikeWhenMoved:
-        return alikeText(reading.alike);
+        return alikeText(reading.alike, say);
     default:
         return QString();
+    }
+}
+
+QString oneMissing(Edge edge, const Phrases& say)
+{
+    switch (edge) {
+    case Edge::Left:
+        return say("%1 chart pixel is missing at the left edge");
+    case Edge::Top:
+        return say("%1 chart pixel is missing at the top edge");
+    case Edge::Right:
+        return say("%1 chart pixel is missing at the right edge");
+    default:
+        return say("%1 chart pixel is missing at the bottom edge");
+    }
+}
+
+QString manyMissing(Edge edge, const Phrases& say)
+{
+    switch (edge) {
+    case Edge::Left:
+        return say("%1 chart pixels are missing at the left edge");
+    case Edge::Top:
+        return say("%1 chart pixels are missing at the top edge");
+    case Edge::Right:
+        return say("%1 chart pixels are missing at the right edge");
+    default:
+        return say("%1 chart pixels are missing at the bottom edge");
     }
 }
 
@@ -130,24 +155,36 @@ QString edgeName(Edge edge)
     return QLatin1String(edgeNames.at(std::size_t(edge)));
 }
 
-QString sentence(const Finding& finding)
+QString inEnglish(const char* source)
 {
-    return QStringLiteral("%1 %2").arg(finding.label, what(finding));
+    return QString::fromUtf8(source);
 }
 
-QString sentence(const EdgeLoss& edge)
+QString sentence(const Finding& finding, const Phrases& say)
 {
-    return QStringLiteral("%1 missing at the %2 edge")
-        .arg(edge.pixels == 1 ? QStringLiteral("1 chart pixel is")
-                              : QStringLiteral("%1 chart pixels are").arg(edge.pixels),
-             edgeName(edge.edge));
+    switch (finding.kind) {
+    case Kind::Swapped:
+        return swapText(finding, say);
+    case Kind::Turned:
+        return say("%1 is turned by %2 degrees").arg(finding.label, QString::number(finding.turn));
+    case Kind::Mirrored:
+        return mirrorText(finding, say);
+    case Kind::Shifted:
+        return shiftText(finding, say);
+    default:
+        return stateText(finding, say).arg(finding.label);
+    }
 }
 
-QString sentence(const WholeFinding& finding)
+QString sentence(const EdgeLoss& edge, const Phrases& say)
 {
-    return finding.kind == Whole::Mirrored
-               ? QStringLiteral("the whole chart is mirrored left to right")
-               : QStringLiteral("the whole chart is turned by %1").arg(degrees(finding.turn));
+    return (edge.pixels == 1 ? oneMissing(edge.edge, say) : manyMissing(edge.edge, say)).arg(edge.pixels);
+}
+
+QString sentence(const WholeFinding& finding, const Phrases& say)
+{
+    return finding.kind == Whole::Mirrored ? say("the whole chart is mirrored left to right")
+                                           : say("the whole chart is turned by %1 degrees").arg(finding.turn);
 }
 
 bool Reading::isGood() const
@@ -160,7 +197,7 @@ bool Reading::isGood() const
 namespace {
 
 /// Once for two cabinets that are swapped; what could not be seen in one sentence each.
-void addCabinets(QStringList& all, const std::vector<Finding>& findings)
+void addCabinets(QStringList& all, const std::vector<Finding>& findings, const Phrases& say)
 {
     for (std::size_t i = 0; i < findings.size(); ++i) {
         const auto isOther = [&](const Finding& other) { return isMutual(findings[i], other); };
@@ -168,9 +205,9 @@ void addCabinets(QStringList& all, const std::vector<Finding>& findings)
             std::any_of(findings.begin(), findings.begin() + std::ptrdiff_t(i), isOther))
             continue;
         if (std::any_of(findings.begin(), findings.end(), isOther))
-            all << QStringLiteral("%1 and %2 are swapped").arg(findings[i].label, findings[i].showsLabel);
+            all << say("%1 and %2 are swapped").arg(findings[i].label, findings[i].showsLabel);
         else
-            all << sentence(findings[i]);
+            all << sentence(findings[i], say);
     }
     for (const Kind kind : {Kind::Unsure, Kind::Hidden}) {
         QStringList labels;
@@ -179,26 +216,25 @@ void addCabinets(QStringList& all, const std::vector<Finding>& findings)
                 labels << finding.label;
         }
         if (!labels.isEmpty())
-            all << QStringLiteral("%1: %2").arg(kind == Kind::Hidden ? QStringLiteral("hidden")
-                                                                     : QStringLiteral("not sure about"),
-                                                labels.join(QStringLiteral(", ")));
+            all << (kind == Kind::Hidden ? say("hidden: %1") : say("not sure about: %1"))
+                       .arg(labels.join(QStringLiteral(", ")));
     }
 }
 
 } // namespace
 
-QStringList Reading::sentences() const
+QStringList Reading::sentences(const Phrases& say) const
 {
     QStringList all;
     if (doubt != Doubt::None)
-        all << doubtText(*this);
+        all << doubtText(*this, say);
     for (const WholeFinding& finding : whole)
-        all << sentence(finding);
+        all << sentence(finding, say);
     for (const EdgeLoss& edge : edges)
-        all << sentence(edge);
-    addCabinets(all, findings);
+        all << sentence(edge, say);
+    addCabinets(all, findings, say);
     if (isGood() && doubt == Doubt::None)
-        all.prepend(QStringLiteral("nothing wrong was seen"));
+        all.prepend(say("nothing wrong was seen"));
     return all;
 }
 

@@ -36,7 +36,7 @@ struct Reading
 
     /// Says that nothing is wrong with what was seen.
     VDREADING_EXPORT bool isGood() const;
-    VDREADING_EXPORT QStringList sentences() const;
+    VDREADING_EXPORT QStringList sentences(const Phrases& say = inEnglish) const;
 };
 
 /// Looks for the chart in `picture`, and at each of its cabinets. It ends soon, as if out of time, once

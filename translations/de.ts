@@ -717,7 +717,7 @@
     </message>
     <message>
         <source>Show this chart on a display first.</source>
-        <translation>Dieses Bild zuerst auf einem Display zeigen.</translation>
+        <translation>Dieses Testbild zuerst auf einer Anzeige zeigen.</translation>
     </message>
     <message>
         <source>This picture has no record, so its cabinets are not known.</source>
@@ -1350,6 +1350,190 @@
     <message>
         <source>Save the changes of this wall?</source>
         <translation>Die Änderungen dieser Wand speichern?</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2</source>
+        <translation>%1 zeigt, was nach %2 gehört</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2, turned by %3 degrees</source>
+        <translation>%1 zeigt, was nach %2 gehört, um %3 Grad gedreht</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored top to bottom</source>
+        <translation>%1 ist von oben nach unten gespiegelt</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right</source>
+        <translation>%1 ist von links nach rechts gespiegelt</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right, turned by %2 degrees</source>
+        <translation>%1 ist von links nach rechts gespiegelt und um %2 Grad gedreht</translation>
+    </message>
+    <message>
+        <source>%1 is dark</source>
+        <translation>%1 ist dunkel</translation>
+    </message>
+    <message>
+        <source>%1 shows nothing but one colour</source>
+        <translation>%1 zeigt nur eine einzige Farbe</translation>
+    </message>
+    <message>
+        <source>%1 shows something else</source>
+        <translation>%1 zeigt etwas anderes</translation>
+    </message>
+    <message>
+        <source>%1 is too dark</source>
+        <translation>%1 ist zu dunkel</translation>
+    </message>
+    <message>
+        <source>%1 is too bright</source>
+        <translation>%1 ist zu hell</translation>
+    </message>
+    <message>
+        <source>%1 shows wrong colours</source>
+        <translation>%1 zeigt falsche Farben</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 ist verdeckt</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged</source>
+        <translation>%1 ließ sich nicht beurteilen</translation>
+    </message>
+    <message>
+        <source>%1 row</source>
+        <translation>%1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 column</source>
+        <translation>%1 Spalte</translation>
+    </message>
+    <message>
+        <source>%1 columns</source>
+        <translation>%1 Spalten</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same turned by 180 degrees; give it labels</source>
+        <translation>Die Cabinets sind nicht sicher zu unterscheiden: Um 180 Grad gedreht sieht dieses Testbild gleich aus; es braucht Beschriftungen</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same shifted by %1; give it labels</source>
+        <translation>Die Cabinets sind nicht sicher zu unterscheiden: Um %1 verschoben sieht dieses Testbild gleich aus; es braucht Beschriftungen</translation>
+    </message>
+    <message>
+        <source>there is no picture to read</source>
+        <translation>Es gibt kein Bild zu lesen</translation>
+    </message>
+    <message>
+        <source>the chart was not found in the picture</source>
+        <translation>Das Testbild wurde im Foto nicht gefunden</translation>
+    </message>
+    <message>
+        <source>the chart was not found in time</source>
+        <translation>Das Testbild wurde nicht rechtzeitig gefunden</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the left edge</source>
+        <translation>Am linken Rand fehlt %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the top edge</source>
+        <translation>Am oberen Rand fehlt %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the right edge</source>
+        <translation>Am rechten Rand fehlt %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the bottom edge</source>
+        <translation>Am unteren Rand fehlt %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the left edge</source>
+        <translation>Am linken Rand fehlen %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the top edge</source>
+        <translation>Am oberen Rand fehlen %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the right edge</source>
+        <translation>Am rechten Rand fehlen %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the bottom edge</source>
+        <translation>Am unteren Rand fehlen %1 Pixel des Testbilds</translation>
+    </message>
+    <message>
+        <source>%1 is turned by %2 degrees</source>
+        <translation>%1 ist um %2 Grad gedreht</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach rechts verschoben</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach links verschoben</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 down chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach unten verschoben</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 up chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach oben verschoben</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 down chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach rechts und %3 nach unten verschoben</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 up chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach rechts und %3 nach oben verschoben</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 down chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach links und %3 nach unten verschoben</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 up chart pixels</source>
+        <translation>%1 ist um %2 Testbildpixel nach links und %3 nach oben verschoben</translation>
+    </message>
+    <message>
+        <source>the whole chart is mirrored left to right</source>
+        <translation>Das ganze Testbild ist von links nach rechts gespiegelt</translation>
+    </message>
+    <message>
+        <source>the whole chart is turned by %1 degrees</source>
+        <translation>Das ganze Testbild ist um %1 Grad gedreht</translation>
+    </message>
+    <message>
+        <source>%1 and %2 are swapped</source>
+        <translation>%1 und %2 sind vertauscht</translation>
+    </message>
+    <message>
+        <source>hidden: %1</source>
+        <translation>Verdeckt: %1</translation>
+    </message>
+    <message>
+        <source>not sure about: %1</source>
+        <translation>Nicht sicher: %1</translation>
+    </message>
+    <message>
+        <source>nothing wrong was seen</source>
+        <translation>Nichts Falsches zu sehen</translation>
     </message>
 </context>
 </TS>

@@ -1351,5 +1351,189 @@
         <source>Save the changes of this wall?</source>
         <translation>Save the changes of this wall?</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2</source>
+        <translation>%1 shows what belongs to %2</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2, turned by %3 degrees</source>
+        <translation>%1 shows what belongs to %2, turned by %3 degrees</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored top to bottom</source>
+        <translation>%1 is mirrored top to bottom</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right</source>
+        <translation>%1 is mirrored left to right</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right, turned by %2 degrees</source>
+        <translation>%1 is mirrored left to right, turned by %2 degrees</translation>
+    </message>
+    <message>
+        <source>%1 is dark</source>
+        <translation>%1 is dark</translation>
+    </message>
+    <message>
+        <source>%1 shows nothing but one colour</source>
+        <translation>%1 shows nothing but one colour</translation>
+    </message>
+    <message>
+        <source>%1 shows something else</source>
+        <translation>%1 shows something else</translation>
+    </message>
+    <message>
+        <source>%1 is too dark</source>
+        <translation>%1 is too dark</translation>
+    </message>
+    <message>
+        <source>%1 is too bright</source>
+        <translation>%1 is too bright</translation>
+    </message>
+    <message>
+        <source>%1 shows wrong colours</source>
+        <translation>%1 shows wrong colours</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 is hidden</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged</source>
+        <translation>%1 could not be judged</translation>
+    </message>
+    <message>
+        <source>%1 row</source>
+        <translation>%1 row</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 rows</translation>
+    </message>
+    <message>
+        <source>%1 column</source>
+        <translation>%1 column</translation>
+    </message>
+    <message>
+        <source>%1 columns</source>
+        <translation>%1 columns</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same turned by 180 degrees; give it labels</source>
+        <translation>Not sure which cabinet is which: this chart looks the same turned by 180 degrees; give it labels</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same shifted by %1; give it labels</source>
+        <translation>Not sure which cabinet is which: this chart looks the same shifted by %1; give it labels</translation>
+    </message>
+    <message>
+        <source>there is no picture to read</source>
+        <translation>There is no picture to read</translation>
+    </message>
+    <message>
+        <source>the chart was not found in the picture</source>
+        <translation>The chart was not found in the picture</translation>
+    </message>
+    <message>
+        <source>the chart was not found in time</source>
+        <translation>The chart was not found in time</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the left edge</source>
+        <translation>%1 chart pixel is missing at the left edge</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the top edge</source>
+        <translation>%1 chart pixel is missing at the top edge</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the right edge</source>
+        <translation>%1 chart pixel is missing at the right edge</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the bottom edge</source>
+        <translation>%1 chart pixel is missing at the bottom edge</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the left edge</source>
+        <translation>%1 chart pixels are missing at the left edge</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the top edge</source>
+        <translation>%1 chart pixels are missing at the top edge</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the right edge</source>
+        <translation>%1 chart pixels are missing at the right edge</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the bottom edge</source>
+        <translation>%1 chart pixels are missing at the bottom edge</translation>
+    </message>
+    <message>
+        <source>%1 is turned by %2 degrees</source>
+        <translation>%1 is turned by %2 degrees</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right chart pixels</source>
+        <translation>%1 is shifted by %2 right chart pixels</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left chart pixels</source>
+        <translation>%1 is shifted by %2 left chart pixels</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 down chart pixels</source>
+        <translation>%1 is shifted by %2 down chart pixels</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 up chart pixels</source>
+        <translation>%1 is shifted by %2 up chart pixels</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 down chart pixels</source>
+        <translation>%1 is shifted by %2 right and %3 down chart pixels</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 up chart pixels</source>
+        <translation>%1 is shifted by %2 right and %3 up chart pixels</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 down chart pixels</source>
+        <translation>%1 is shifted by %2 left and %3 down chart pixels</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 up chart pixels</source>
+        <translation>%1 is shifted by %2 left and %3 up chart pixels</translation>
+    </message>
+    <message>
+        <source>the whole chart is mirrored left to right</source>
+        <translation>The whole chart is mirrored left to right</translation>
+    </message>
+    <message>
+        <source>the whole chart is turned by %1 degrees</source>
+        <translation>The whole chart is turned by %1 degrees</translation>
+    </message>
+    <message>
+        <source>%1 and %2 are swapped</source>
+        <translation>%1 and %2 are swapped</translation>
+    </message>
+    <message>
+        <source>hidden: %1</source>
+        <translation>Hidden: %1</translation>
+    </message>
+    <message>
+        <source>not sure about: %1</source>
+        <translation>Not sure about: %1</translation>
+    </message>
+    <message>
+        <source>nothing wrong was seen</source>
+        <translation>Nothing wrong was seen</translation>
+    </message>
 </context>
 </TS>

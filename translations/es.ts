@@ -1351,5 +1351,189 @@
         <source>Save the changes of this wall?</source>
         <translation>¿Guardar los cambios de esta pantalla?</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2</source>
+        <translation>%1 muestra lo que corresponde a %2</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2, turned by %3 degrees</source>
+        <translation>%1 muestra lo que corresponde a %2, girado %3 grados</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored top to bottom</source>
+        <translation>%1 está reflejado de arriba abajo</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right</source>
+        <translation>%1 está reflejado de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right, turned by %2 degrees</source>
+        <translation>%1 está reflejado de izquierda a derecha y girado %2 grados</translation>
+    </message>
+    <message>
+        <source>%1 is dark</source>
+        <translation>%1 está apagado</translation>
+    </message>
+    <message>
+        <source>%1 shows nothing but one colour</source>
+        <translation>%1 muestra un solo color</translation>
+    </message>
+    <message>
+        <source>%1 shows something else</source>
+        <translation>%1 muestra otra cosa</translation>
+    </message>
+    <message>
+        <source>%1 is too dark</source>
+        <translation>%1 es demasiado oscuro</translation>
+    </message>
+    <message>
+        <source>%1 is too bright</source>
+        <translation>%1 es demasiado claro</translation>
+    </message>
+    <message>
+        <source>%1 shows wrong colours</source>
+        <translation>%1 muestra colores incorrectos</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 está tapado</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged</source>
+        <translation>%1 no se ha podido evaluar</translation>
+    </message>
+    <message>
+        <source>%1 row</source>
+        <translation>%1 fila</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 filas</translation>
+    </message>
+    <message>
+        <source>%1 column</source>
+        <translation>%1 columna</translation>
+    </message>
+    <message>
+        <source>%1 columns</source>
+        <translation>%1 columnas</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same turned by 180 degrees; give it labels</source>
+        <translation>No es seguro cuál es cada gabinete: esta carta se ve igual girada 180 grados; añádale etiquetas</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same shifted by %1; give it labels</source>
+        <translation>No es seguro cuál es cada gabinete: esta carta se ve igual desplazada %1; añádale etiquetas</translation>
+    </message>
+    <message>
+        <source>there is no picture to read</source>
+        <translation>No hay ninguna imagen que leer</translation>
+    </message>
+    <message>
+        <source>the chart was not found in the picture</source>
+        <translation>No se ha encontrado la carta en la imagen</translation>
+    </message>
+    <message>
+        <source>the chart was not found in time</source>
+        <translation>No se ha encontrado la carta a tiempo</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the left edge</source>
+        <translation>Falta %1 píxel de la carta en el borde izquierdo</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the top edge</source>
+        <translation>Falta %1 píxel de la carta en el borde superior</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the right edge</source>
+        <translation>Falta %1 píxel de la carta en el borde derecho</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the bottom edge</source>
+        <translation>Falta %1 píxel de la carta en el borde inferior</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the left edge</source>
+        <translation>Faltan %1 píxeles de la carta en el borde izquierdo</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the top edge</source>
+        <translation>Faltan %1 píxeles de la carta en el borde superior</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the right edge</source>
+        <translation>Faltan %1 píxeles de la carta en el borde derecho</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the bottom edge</source>
+        <translation>Faltan %1 píxeles de la carta en el borde inferior</translation>
+    </message>
+    <message>
+        <source>%1 is turned by %2 degrees</source>
+        <translation>%1 está girado %2 grados</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia la derecha</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia la izquierda</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 down chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia abajo</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 up chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia arriba</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 down chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia la derecha y %3 hacia abajo</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 up chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia la derecha y %3 hacia arriba</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 down chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia la izquierda y %3 hacia abajo</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 up chart pixels</source>
+        <translation>%1 está desplazado %2 píxeles de la carta hacia la izquierda y %3 hacia arriba</translation>
+    </message>
+    <message>
+        <source>the whole chart is mirrored left to right</source>
+        <translation>Toda la carta está reflejada de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>the whole chart is turned by %1 degrees</source>
+        <translation>Toda la carta está girada %1 grados</translation>
+    </message>
+    <message>
+        <source>%1 and %2 are swapped</source>
+        <translation>%1 y %2 están intercambiados</translation>
+    </message>
+    <message>
+        <source>hidden: %1</source>
+        <translation>Tapados: %1</translation>
+    </message>
+    <message>
+        <source>not sure about: %1</source>
+        <translation>Sin certeza: %1</translation>
+    </message>
+    <message>
+        <source>nothing wrong was seen</source>
+        <translation>No se ha visto nada erróneo</translation>
+    </message>
 </context>
 </TS>

@@ -717,7 +717,7 @@
     </message>
     <message>
         <source>Show this chart on a display first.</source>
-        <translation>先にこのチャートをディスプレイに表示してください。</translation>
+        <translation>先にこのテストパターンをディスプレイに表示してください。</translation>
     </message>
     <message>
         <source>This picture has no record, so its cabinets are not known.</source>
@@ -1089,7 +1089,7 @@
     </message>
     <message>
         <source>Taken in, with its chart:</source>
-        <translation>テストチャートを含めて取り込みました:</translation>
+        <translation>テストパターンを含めて取り込みました:</translation>
     </message>
     <message>
         <source>Taken in, with its walls:</source>
@@ -1350,6 +1350,190 @@
     <message>
         <source>Save the changes of this wall?</source>
         <translation>このウォールの変更を保存しますか?</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2</source>
+        <translation>%1 に %2 の内容が表示されています</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2, turned by %3 degrees</source>
+        <translation>%1 に %2 の内容が %3 度回転して表示されています</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored top to bottom</source>
+        <translation>%1 は上下が反転しています</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right</source>
+        <translation>%1 は左右が反転しています</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right, turned by %2 degrees</source>
+        <translation>%1 は左右が反転し、%2 度回転しています</translation>
+    </message>
+    <message>
+        <source>%1 is dark</source>
+        <translation>%1 は点灯していません</translation>
+    </message>
+    <message>
+        <source>%1 shows nothing but one colour</source>
+        <translation>%1 は単色しか表示していません</translation>
+    </message>
+    <message>
+        <source>%1 shows something else</source>
+        <translation>%1 に別の内容が表示されています</translation>
+    </message>
+    <message>
+        <source>%1 is too dark</source>
+        <translation>%1 は暗すぎます</translation>
+    </message>
+    <message>
+        <source>%1 is too bright</source>
+        <translation>%1 は明るすぎます</translation>
+    </message>
+    <message>
+        <source>%1 shows wrong colours</source>
+        <translation>%1 の色が誤っています</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 は隠れています</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged</source>
+        <translation>%1 は判定できませんでした</translation>
+    </message>
+    <message>
+        <source>%1 row</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 column</source>
+        <translation>%1 列</translation>
+    </message>
+    <message>
+        <source>%1 columns</source>
+        <translation>%1 列</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same turned by 180 degrees; give it labels</source>
+        <translation>キャビネットを確実に区別できません: このテストパターンは 180 度回転しても同じに見えます。ラベルを付けてください</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same shifted by %1; give it labels</source>
+        <translation>キャビネットを確実に区別できません: このテストパターンは %1 ずらしても同じに見えます。ラベルを付けてください</translation>
+    </message>
+    <message>
+        <source>there is no picture to read</source>
+        <translation>読み取る画像がありません</translation>
+    </message>
+    <message>
+        <source>the chart was not found in the picture</source>
+        <translation>画像の中にテストパターンが見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>the chart was not found in time</source>
+        <translation>時間内にテストパターンが見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the left edge</source>
+        <translation>左端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the top edge</source>
+        <translation>上端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the right edge</source>
+        <translation>右端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the bottom edge</source>
+        <translation>下端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the left edge</source>
+        <translation>左端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the top edge</source>
+        <translation>上端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the right edge</source>
+        <translation>右端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the bottom edge</source>
+        <translation>下端でテストパターンの %1 ピクセルが欠けています</translation>
+    </message>
+    <message>
+        <source>%1 is turned by %2 degrees</source>
+        <translation>%1 は %2 度回転しています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right chart pixels</source>
+        <translation>%1 は右へ %2 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left chart pixels</source>
+        <translation>%1 は左へ %2 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 down chart pixels</source>
+        <translation>%1 は下へ %2 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 up chart pixels</source>
+        <translation>%1 は上へ %2 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 down chart pixels</source>
+        <translation>%1 は右へ %2 ピクセル、下へ %3 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 up chart pixels</source>
+        <translation>%1 は右へ %2 ピクセル、上へ %3 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 down chart pixels</source>
+        <translation>%1 は左へ %2 ピクセル、下へ %3 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 up chart pixels</source>
+        <translation>%1 は左へ %2 ピクセル、上へ %3 ピクセルずれています</translation>
+    </message>
+    <message>
+        <source>the whole chart is mirrored left to right</source>
+        <translation>テストパターン全体の左右が反転しています</translation>
+    </message>
+    <message>
+        <source>the whole chart is turned by %1 degrees</source>
+        <translation>テストパターン全体が %1 度回転しています</translation>
+    </message>
+    <message>
+        <source>%1 and %2 are swapped</source>
+        <translation>%1 と %2 が入れ替わっています</translation>
+    </message>
+    <message>
+        <source>hidden: %1</source>
+        <translation>隠れています: %1</translation>
+    </message>
+    <message>
+        <source>not sure about: %1</source>
+        <translation>判定できません: %1</translation>
+    </message>
+    <message>
+        <source>nothing wrong was seen</source>
+        <translation>誤りは見つかりませんでした</translation>
     </message>
 </context>
 </TS>

@@ -717,7 +717,7 @@
     </message>
     <message>
         <source>Show this chart on a display first.</source>
-        <translation>请先在显示器上显示此图。</translation>
+        <translation>请先在显示器上显示此测试图。</translation>
     </message>
     <message>
         <source>This picture has no record, so its cabinets are not known.</source>
@@ -1089,7 +1089,7 @@
     </message>
     <message>
         <source>Taken in, with its chart:</source>
-        <translation>已连同测试图收入:</translation>
+        <translation>已连同测试图收入：</translation>
     </message>
     <message>
         <source>Taken in, with its walls:</source>
@@ -1350,6 +1350,190 @@
     <message>
         <source>Save the changes of this wall?</source>
         <translation>保存对此屏的更改?</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2</source>
+        <translation>%1 显示的是 %2 的内容</translation>
+    </message>
+    <message>
+        <source>%1 shows what belongs to %2, turned by %3 degrees</source>
+        <translation>%1 显示的是 %2 的内容，且旋转了 %3 度</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored top to bottom</source>
+        <translation>%1 上下镜像</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right</source>
+        <translation>%1 左右镜像</translation>
+    </message>
+    <message>
+        <source>%1 is mirrored left to right, turned by %2 degrees</source>
+        <translation>%1 左右镜像，且旋转了 %2 度</translation>
+    </message>
+    <message>
+        <source>%1 is dark</source>
+        <translation>%1 不亮</translation>
+    </message>
+    <message>
+        <source>%1 shows nothing but one colour</source>
+        <translation>%1 只显示单一颜色</translation>
+    </message>
+    <message>
+        <source>%1 shows something else</source>
+        <translation>%1 显示的是其他内容</translation>
+    </message>
+    <message>
+        <source>%1 is too dark</source>
+        <translation>%1 过暗</translation>
+    </message>
+    <message>
+        <source>%1 is too bright</source>
+        <translation>%1 过亮</translation>
+    </message>
+    <message>
+        <source>%1 shows wrong colours</source>
+        <translation>%1 颜色有误</translation>
+    </message>
+    <message>
+        <source>%1 is hidden</source>
+        <translation>%1 被遮挡</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged</source>
+        <translation>%1 无法判断</translation>
+    </message>
+    <message>
+        <source>%1 row</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 column</source>
+        <translation>%1 列</translation>
+    </message>
+    <message>
+        <source>%1 columns</source>
+        <translation>%1 列</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same turned by 180 degrees; give it labels</source>
+        <translation>无法确定各个箱体：此测试图旋转 180 度后看起来相同；请添加标签</translation>
+    </message>
+    <message>
+        <source>not sure which cabinet is which: this chart looks the same shifted by %1; give it labels</source>
+        <translation>无法确定各个箱体：此测试图移动 %1 后看起来相同；请添加标签</translation>
+    </message>
+    <message>
+        <source>there is no picture to read</source>
+        <translation>没有可读取的图片</translation>
+    </message>
+    <message>
+        <source>the chart was not found in the picture</source>
+        <translation>在图片中未找到测试图</translation>
+    </message>
+    <message>
+        <source>the chart was not found in time</source>
+        <translation>未能及时找到测试图</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the left edge</source>
+        <translation>测试图左边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the top edge</source>
+        <translation>测试图上边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the right edge</source>
+        <translation>测试图右边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 chart pixel is missing at the bottom edge</source>
+        <translation>测试图下边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the left edge</source>
+        <translation>测试图左边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the top edge</source>
+        <translation>测试图上边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the right edge</source>
+        <translation>测试图右边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 chart pixels are missing at the bottom edge</source>
+        <translation>测试图下边缘缺少 %1 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is turned by %2 degrees</source>
+        <translation>%1 旋转了 %2 度</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right chart pixels</source>
+        <translation>%1 向右偏移了 %2 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left chart pixels</source>
+        <translation>%1 向左偏移了 %2 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 down chart pixels</source>
+        <translation>%1 向下偏移了 %2 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 up chart pixels</source>
+        <translation>%1 向上偏移了 %2 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 down chart pixels</source>
+        <translation>%1 向右偏移了 %2 个像素，向下偏移了 %3 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 right and %3 up chart pixels</source>
+        <translation>%1 向右偏移了 %2 个像素，向上偏移了 %3 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 down chart pixels</source>
+        <translation>%1 向左偏移了 %2 个像素，向下偏移了 %3 个像素</translation>
+    </message>
+    <message>
+        <source>%1 is shifted by %2 left and %3 up chart pixels</source>
+        <translation>%1 向左偏移了 %2 个像素，向上偏移了 %3 个像素</translation>
+    </message>
+    <message>
+        <source>the whole chart is mirrored left to right</source>
+        <translation>整个测试图左右镜像</translation>
+    </message>
+    <message>
+        <source>the whole chart is turned by %1 degrees</source>
+        <translation>整个测试图旋转了 %1 度</translation>
+    </message>
+    <message>
+        <source>%1 and %2 are swapped</source>
+        <translation>%1 与 %2 互换了</translation>
+    </message>
+    <message>
+        <source>hidden: %1</source>
+        <translation>被遮挡：%1</translation>
+    </message>
+    <message>
+        <source>not sure about: %1</source>
+        <translation>不确定：%1</translation>
+    </message>
+    <message>
+        <source>nothing wrong was seen</source>
+        <translation>未发现错误</translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,12 @@ using vardeno::trans::Translator;
 
 namespace {
 
+QString textOf(const Translator& translator, const QString& source)
+{
+    return vardeno::trans::translate(translator, QStringLiteral("ChartDesk"), QStringLiteral("MainWindow"),
+                                     source);
+}
+
 QStringList readChartNames()
 {
     const QString source = QStringLiteral("TestImage");
@@ -26,8 +32,14 @@ QStringList readChartNames()
 
 QString hostText(const QString& source)
 {
-    return vardeno::trans::translate(TranslateManager1::instance().translator(), QStringLiteral("ChartDesk"),
-                                     QStringLiteral("MainWindow"), source);
+    return textOf(TranslateManager1::instance().translator(), source);
+}
+
+std::function<QString(const char*)> hostTexts()
+{
+    return [translator = TranslateManager1::instance().translator()](const char* source) {
+        return textOf(translator, QString::fromUtf8(source));
+    };
 }
 
 QString hostTitle(const QString& source)

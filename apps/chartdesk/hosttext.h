@@ -2,10 +2,15 @@
 
 #include <QStringList>
 
+#include <functional>
+
 /// The host's own texts, translated by the same translator as the editor's.
 QString hostText(const QString& source);
 
-/// The same without what tells that more is asked: a window is called by what it is about.
+/// The host's texts in the language that it has now, for any thread.
+std::function<QString(const char* source)> hostTexts();
+
+/// `hostText` without what tells that more is asked: a window is called by what it is about.
 QString hostTitle(const QString& source);
 
 /// Marks a text of a table that `hostText` is asked for later.

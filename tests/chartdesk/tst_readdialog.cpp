@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QThreadPool>
@@ -118,6 +119,24 @@ private Q_SLOTS:
         output.stop();
         QVERIFY(!walk->isEnabled());
         QCOMPARE(walk->toolTip(), QStringLiteral("Show this chart on a display first."));
+        dialog->reject();
+    }
+
+    /// Each sentence is made of texts of the language, which another test finds in the files.
+    void speaksTheLanguageOfTheDesk()
+    {
+        if (!canReadWalls())
+            QSKIP("Built without OpenCV.");
+        chooseLanguage(QStringLiteral("de"));
+        const auto english = qScopeGuard([] { chooseLanguage(QStringLiteral("en")); });
+        savePhoto(path("foto.jpg")); // the chart has texts
+        Output output;
+        auto* dialog = new ReadDialog(path("foto.jpg"), path("wall.json"), &output, nullptr);
+        dialog->open();
+        chooseLanguage(QStringLiteral("en")); // the reading keeps that of its beginning
+        auto* findings = childOf<QListWidget>(*dialog, "readFindings");
+        QTRY_VERIFY_WITH_TIMEOUT(findings->isVisible(), patience);
+        QCOMPARE(textsOf(*findings), QStringList(QStringLiteral("A-B und C-D sind vertauscht")));
         dialog->reject();
     }
 

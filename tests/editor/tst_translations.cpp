@@ -133,18 +133,18 @@ QString ending(const QString& text)
     return QStringLiteral(":?…").contains(mark) ? mark : QString();
 }
 
-/// The texts that the chart desk looks up, some of which only a broken disk would show.
+/// The texts that the chart desk looks up, some of which only a broken disk or wall would show.
 QStringList hostSources()
 {
     const QRegularExpression lookUp(QStringLiteral(
         "(?:(?:hostText|hostTitle|text)\\((?:QStringLiteral\\(\"(?:ChartDesk|MainWindow)\"\\),\\s*)*"
-        "QStringLiteral(?=\\((?:\\s*\"[^\"]*\")+\\)\\))|hostSource)"
+        "QStringLiteral(?=\\((?:\\s*\"[^\"]*\")+\\)\\))|hostSource|say)"
         "\\(((?:\\s*\"[^\"]*\")+)\\)"));
     QStringList found;
     QFileInfoList sources = {QFileInfo(sourcePath("vdpatterndesign/support/chartlanguages.cpp"))};
     for (const char* folder :
          {"apps/chartdesk", "apps/chartdesk/home", "apps/chartdesk/library", "apps/chartdesk/output",
-          "apps/chartdesk/reading", "apps/chartdesk/walls", "apps/common"})
+          "apps/chartdesk/reading", "apps/chartdesk/walls", "apps/common", "reading"})
         sources += QDir(sourcePath(folder)).entryInfoList({QStringLiteral("*.cpp")}, QDir::Files);
     for (const QFileInfo& info : qAsConst(sources)) {
         QFile file(info.filePath());

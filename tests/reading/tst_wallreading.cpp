@@ -346,6 +346,16 @@ private Q_SLOTS:
         Finding shifted = findingOf(Kind::Shifted);
         shifted.shift = {-4, 7};
         row("B-3 is shifted by 4 left and 7 down chart pixels", shifted);
+        shifted.shift = {4, -7};
+        row("B-3 is shifted by 4 right and 7 up chart pixels", shifted);
+        shifted.shift = {4, 0.4};
+        row("B-3 is shifted by 4 right chart pixels", shifted);
+        shifted.shift = {-1, 0};
+        row("B-3 is shifted by 1 left chart pixels", shifted);
+        shifted.shift = {0, 7};
+        row("B-3 is shifted by 7 down chart pixels", shifted);
+        shifted.shift = {0, -7};
+        row("B-3 is shifted by 7 up chart pixels", shifted);
         Finding dim = findingOf(Kind::Brightness);
         dim.factor = 0.5;
         row("B-3 is too dark", dim);
@@ -363,15 +373,67 @@ private Q_SLOTS:
         QCOMPARE(sentence(finding), text);
     }
 
+    void saysWhatLooksAlike_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("moved");
+        QTest::newRow("columns") << 0 << 2 << "shifted by 2 columns";
+        QTest::newRow("row and column") << -1 << 1 << "shifted by 1 row and 1 column";
+        QTest::newRow("rows") << 3 << 0 << "shifted by 3 rows";
+        QTest::newRow("turned") << 0 << 0 << "turned by 180 degrees";
+    }
+
     void saysWhatLooksAlike()
     {
+        QFETCH(int, row);
+        QFETCH(int, column);
+        QFETCH(QString, moved);
         Reading reading = readingOf({});
         reading.doubt = Doubt::AlikeWhenMoved;
-        reading.alike = {0, 2};
+        reading.alike = {row, column};
         QCOMPARE(reading.sentences(),
                  QStringList{
-                     QStringLiteral("not sure which cabinet is which: this chart looks the same shifted by 2 "
-                                    "columns; give it labels")});
+                     QStringLiteral("not sure which cabinet is which: this chart looks the same %1; give it "
+                                    "labels")
+                         .arg(moved)});
+    }
+
+    void saysWhichEdgesAreMissing()
+    {
+        Reading reading = readingOf({});
+        reading.whole = {{Whole::Mirrored, 0}, {Whole::Turned, 90}};
+        reading.edges = {{Edge::Left, 1}, {Edge::Top, 2}, {Edge::Right, 1}, {Edge::Bottom, 30}};
+        QCOMPARE(reading.sentences(),
+                 (QStringList{QStringLiteral("the whole chart is mirrored left to right"),
+                              QStringLiteral("the whole chart is turned by 90 degrees"),
+                              QStringLiteral("1 chart pixel is missing at the left edge"),
+                              QStringLiteral("2 chart pixels are missing at the top edge"),
+                              QStringLiteral("1 chart pixel is missing at the right edge"),
+                              QStringLiteral("30 chart pixels are missing at the bottom edge")}));
+    }
+
+    /// The values come into the sentence where the language has their places.
+    void speaksTheLanguageOfItsReader()
+    {
+        const Phrases say = [](const char* english) {
+            return QByteArray(english) == "%1 shows what belongs to %2, turned by %3 degrees"
+                       ? QStringLiteral("um %3 Grad, %2 statt %1")
+                       : QLatin1Char('!') + QLatin1String(english);
+        };
+        Finding swapped = findingOf(Kind::Swapped);
+        swapped.showsLabel = QStringLiteral("A-%1");
+        swapped.turn = 180;
+        QCOMPARE(sentence(swapped, say), QStringLiteral("um 180 Grad, A-%1 statt B-3"));
+        QCOMPARE(sentence(EdgeLoss{Edge::Top, 3}, say),
+                 QStringLiteral("!3 chart pixels are missing at the top edge"));
+        QCOMPARE(sentence(WholeFinding{Whole::Turned, 90}, say),
+                 QStringLiteral("!the whole chart is turned by 90 degrees"));
+        Reading reading = readingOf({swapped, findingOf(Kind::Dark), findingOf(Kind::Hidden)});
+        reading.doubt = Doubt::OutOfTime;
+        QCOMPARE(reading.sentences(say),
+                 (QStringList{"!the chart was not found in time", "um 180 Grad, A-%1 statt B-3",
+                              "!B-3 is dark", "!hidden: B-3"}));
     }
 
     void listsWhatWasNotSeen()

@@ -1,5 +1,7 @@
 #include "readjob.h"
 
+#include "hosttext.h"
+
 #include <QMutex>
 #include <QThreadPool>
 
@@ -19,8 +21,8 @@ ReadJob::ReadJob(const QString& photo, const QString& chart, QObject* parent)
 {
     m_shared->job = this;
     QThreadPool::globalInstance()->start(
-        [shared = m_shared, photo, chart, captions = ChartCaptions::current()] {
-            const WallRead read = readWall(photo, chart, captions, shared->isCanceled);
+        [shared = m_shared, photo, chart, language = ReadLanguage{ChartCaptions::current(), hostTexts()}] {
+            const WallRead read = readWall(photo, chart, language, shared->isCanceled);
             const QMutexLocker locker(&shared->mutex);
             if (ReadJob* const job = shared->job)
                 QMetaObject::invokeMethod(

@@ -40,28 +40,28 @@ bool canReadWalls()
     return true;
 }
 
-WallRead readWall(const QString& photo, const QString& chart, const ChartCaptions& captions,
+WallRead readWall(const QString& photo, const QString& chart, const ReadLanguage& language,
                   const std::atomic<bool>& canceled)
 {
-    const ShownChart wanted = ShownChart::read(chart, captions);
+    const ShownChart wanted = ShownChart::read(chart, language.captions);
     if (wanted.picture.isNull())
         return failure(wanted.problem);
     if (!wanted.record)
         return failure(
-            hostText(QStringLiteral("This picture has no record, so its cabinets are not known.")));
+            language.texts(hostSource("This picture has no record, so its cabinets are not known.")));
     QImageReader reader(photo);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (qint64(size.width()) * size.height() > mostPhotoPixels)
-        return failure(hostText(QStringLiteral("This photo has too many pixels.")));
+        return failure(language.texts(hostSource("This photo has too many pixels.")));
     const QImage picture = reader.read();
     if (picture.isNull())
         return failure(QFileInfo(photo).fileName() + QLatin1String(": ") + reader.errorString());
     const WallReading::Chart expected{wanted.picture, cabinetsOf(*wanted.record)};
     const WallReading::Reading reading = WallReading::read(picture, expected, &canceled);
     WallRead read;
-    read.sentences = reading.sentences();
+    read.sentences = reading.sentences(language.texts);
     for (const WallReading::Finding& finding : reading.findings) {
         if (WallReading::isAccusation(finding.kind))
             read.wrong.push_back({finding.cabinet.row, finding.cabinet.column});

@@ -8,10 +8,9 @@ bool canReadWalls()
     return false;
 }
 
-WallRead readWall(const QString&, const QString&, const vardeno::testcharttools::ChartCaptions&,
-                  const std::atomic<bool>&)
+WallRead readWall(const QString&, const QString&, const ReadLanguage& language, const std::atomic<bool>&)
 {
     WallRead read;
-    read.problem = hostText(QStringLiteral("This program was built without OpenCV, which reads photos."));
+    read.problem = language.texts(hostSource("This program was built without OpenCV, which reads photos."));
     return read;
 }
