@@ -3,11 +3,13 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr QSize pictureSize(1120, 630);
+constexpr QSize mostPicture(1120, 630);
+constexpr QSize besidesPicture(60, 220); ///< what the screen has to have room for, too
 
 } // namespace
 
@@ -16,6 +18,8 @@ ChartViewer::ChartViewer(const QString& imagePath, const QString& reason, QWidge
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QFileInfo(imagePath).fileName());
+    const QSize room = screen()->availableSize() - besidesPicture;
+    const QSize pictureSize = mostPicture.scaled(mostPicture.boundedTo(room), Qt::KeepAspectRatio);
     auto* picture = new QLabel;
     picture->setObjectName(QStringLiteral("chartPicture"));
     picture->setFixedSize(pictureSize);

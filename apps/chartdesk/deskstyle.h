@@ -5,8 +5,8 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 
-/// That of the desk: the same on every desktop, buttons that say in words alone what they do, and menus,
-/// entries and boxes to tick that stand out from a dark window.
+/// That of the desk: the same on every desktop, buttons that say in words alone what they do, with room
+/// around them, and menus, entries and boxes to tick that stand out from a dark window.
 class DeskStyle : public QProxyStyle
 {
 public:
@@ -21,6 +21,15 @@ public:
         return hint == SH_DialogButtonBox_ButtonsHaveIcons
                    ? 0
                    : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+    /// The toolkit leaves two pixels beside a text that is wider than its smallest button.
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override
+    {
+        const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        const int wanted = contents.width() + 2 * buttonMargin;
+        return type == CT_PushButton ? QSize(qMax(size.width(), wanted), size.height()) : size;
     }
 
     /// The toolkit's is black, which is not seen on a dark tool bar that has no room for all its buttons.
@@ -60,6 +69,8 @@ public:
     }
 
 private:
+    static constexpr int buttonMargin = 12; ///< pixels on each side of a text
+
     /// Between the window and its texts.
     static QColor lineColor(const QStyleOption* option)
     {

@@ -1,5 +1,7 @@
 #include "messagebox.h"
 
+#include "hosttext.h"
+
 #include <QPainter>
 
 namespace {
@@ -33,7 +35,7 @@ QMessageBox* messageBox(QWidget* parent, MessageKind kind, const QString& text, 
 {
     auto* box = new QMessageBox(parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(parent->windowTitle());
+    box->setWindowTitle(hostText(QStringLiteral("Test charts"))); // which folder does not matter
     box->setIconPixmap(icon(kind, box->palette(), parent->devicePixelRatioF()));
     box->setTextFormat(Qt::PlainText); // names of files are shown as they are
     box->setText(text);

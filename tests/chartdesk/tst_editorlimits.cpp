@@ -4,6 +4,7 @@
 #include "testcase.h"
 
 #include <QLabel>
+#include <QScreen>
 #include <QTemporaryDir>
 
 using namespace vardeno::testcharttools;
@@ -46,6 +47,7 @@ private Q_SLOTS:
         QCOMPARE(viewer->windowTitle(), QString("wall.png"));
         auto* picture = viewer->findChild<QLabel*>("chartPicture");
         QTRY_VERIFY(!picture->pixmap(Qt::ReturnByValue).isNull());
+        QVERIFY(viewer->frameSize().boundedTo(viewer->screen()->availableSize()) == viewer->frameSize());
         QCOMPARE(picture->grab().toImage().pixelColor(picture->rect().center()), QColor(Qt::red));
         bool isSaid = false;
         for (const QLabel* label : viewer->findChildren<QLabel*>())

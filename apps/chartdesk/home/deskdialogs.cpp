@@ -1,6 +1,11 @@
 #include "deskdialogs.h"
 
+#include "desklanguage.h"
+
+#include <translatemanager1.h>
+
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
@@ -8,6 +13,7 @@
 #include <QListView>
 #include <QScreen>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 namespace {
@@ -17,6 +23,36 @@ constexpr QSize fileDialogSize(880, 560);
 constexpr int textDialogWidth = 420;
 constexpr int placesWidth = 180;
 constexpr int columnWidths[] = {260, 100, 120, 150}; ///< name, size, kind, date
+
+enum FileColumn // of the toolkit's model
+{
+    SizeColumn = 1,
+    DateColumn = 3
+};
+
+/// Sizes and dates as the desk's language writes them; the toolkit does it as the system.
+class FileDetails : public QStyledItemDelegate
+{
+public:
+    explicit FileDetails(QObject* parent)
+        : QStyledItemDelegate(parent)
+        , m_locale(localeOf(TranslateManager1::instance().translator().language()))
+    {
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const auto* files = qobject_cast<const QFileSystemModel*>(index.model());
+        const QString detail = files ? DeskDialogs::fileDetail(*files, index, m_locale) : QString();
+        if (!detail.isEmpty())
+            option->text = detail;
+    }
+
+private:
+    QLocale m_locale;
+};
 
 void name(QWidget* control, const QString& text)
 {
@@ -38,7 +74,8 @@ void arrange(QFileDialog* dialog)
 {
     if (auto* splitter = dialog->findChild<QSplitter*>(QStringLiteral("splitter")))
         splitter->setSizes({placesWidth, fileDialogSize.width() - placesWidth});
-    if (const auto* files = dialog->findChild<QTreeView*>(QStringLiteral("treeView"))) {
+    if (auto* files = dialog->findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        files->setItemDelegate(new FileDetails(files));
         for (int column = 0; column < int(std::size(columnWidths)); ++column)
             files->header()->resizeSection(column, columnWidths[column]);
     }
@@ -67,6 +104,14 @@ QFileDialog* fileDialog(QWidget* parent, const QString& title, const QString& fo
 } // namespace
 
 namespace DeskDialogs {
+
+QString fileDetail(const QFileSystemModel& files, const QModelIndex& index, const QLocale& locale)
+{
+    if (index.column() == DateColumn)
+        return locale.toString(files.lastModified(index), QLocale::ShortFormat);
+    const bool hasSize = index.column() == SizeColumn && !files.isDir(index);
+    return hasSize ? locale.formattedDataSize(files.size(index)) : QString();
+}
 
 void resizeWithinScreen(QWidget* window, const QSize& wanted)
 {
@@ -99,6 +144,15 @@ QFileDialog* folderDialog(QWidget* parent, const QString& title, const QString& 
     QFileDialog* dialog = fileDialog(parent, title, folder);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
+    arrange(dialog);
+    return dialog;
+}
+
+QFileDialog* openDialog(QWidget* parent, const QString& title, const QString& filter)
+{
+    QFileDialog* dialog = fileDialog(parent, title, {});
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilter(filter);
     arrange(dialog);
     return dialog;
 }

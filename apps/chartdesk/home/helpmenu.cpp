@@ -53,6 +53,7 @@ void HelpMenu::showAbout()
     QMessageBox* box = messageBox(
         m_window, MessageKind::Note,
         hostText(QStringLiteral("Test charts")) + QStringLiteral(" " VDPATTERNDESIGN_VERSION), diagnostics());
+    box->setWindowTitle(hostText(QStringLiteral("About")));
     QPushButton* copy = box->addButton(hostText(QStringLiteral("Copy diagnostics")), QMessageBox::ActionRole);
     box->setEscapeButton(box->addButton(QMessageBox::Close));
     connect(copy, &QPushButton::clicked, this, [] { QGuiApplication::clipboard()->setText(diagnostics()); });

@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 namespace {
@@ -29,6 +30,15 @@ QList<QTreeWidgetItem*> keyItems(const QList<QAction*>& actions)
                 new QTreeWidgetItem({action->text().section(QLatin1Char('\t'), 0, 0), keyOf(action)}));
     }
     return items;
+}
+
+/// That all rows need, so that a short sheet has no empty half.
+int heightOf(QTreeWidget* tree)
+{
+    int rows = 0;
+    for (QTreeWidgetItemIterator it(tree); *it; ++it)
+        ++rows;
+    return (rows + 1) * tree->sizeHintForRow(0);
 }
 
 void addMenuKeys(QTreeWidget* tree, const QMenu* menu)
@@ -74,6 +84,7 @@ void ShortcutSheet::build(const Keys& others)
     m_tree->setColumnCount(2);
     m_tree->setHeaderHidden(true);
     m_tree->setRootIsDecorated(false);
+    m_tree->setAllColumnsShowFocus(true);
     m_tree->setSelectionMode(QAbstractItemView::NoSelection);
     for (const auto& [what, keys] : others)
         m_tree->addTopLevelItem(new QTreeWidgetItem({what, keys}));
@@ -89,5 +100,6 @@ void ShortcutSheet::build(const Keys& others)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_tree);
     layout->addWidget(buttons);
-    DeskDialogs::resizeWithinScreen(this, QSize(520, 640));
+    const int besides = sizeHint().height() - m_tree->sizeHint().height();
+    DeskDialogs::resizeWithinScreen(this, QSize(520, qMin(640, heightOf(m_tree) + besides)));
 }

@@ -1,5 +1,6 @@
 #include "deskoutput.h"
 
+#include "deskdialogs.h"
 #include "desksettings.h"
 #include "editsession.h"
 #include "hosttext.h"
@@ -185,10 +186,8 @@ void DeskOutput::askPhoto()
         readPhoto(QString());
         return;
     }
-    auto* dialog = new QFileDialog(m_window, hostTitle(QStringLiteral("Read a photo…")));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilter(QStringLiteral("*.jpg *.jpeg *.png *.bmp"));
+    QFileDialog* dialog = DeskDialogs::openDialog(m_window, hostTitle(QStringLiteral("Read a photo…")),
+                                                  QStringLiteral("*.jpg *.jpeg *.png *.bmp"));
     connect(dialog, &QFileDialog::fileSelected, this, &DeskOutput::readPhoto);
     dialog->open();
 }

@@ -55,6 +55,7 @@ void ReadDialog::createLayout()
     m_plan->setAlignment(Qt::AlignCenter);
     m_findings->setObjectName(QStringLiteral("readFindings"));
     m_findings->setAccessibleName(windowTitle());
+    m_findings->setToolTip(windowTitle());
     m_findings->setMinimumHeight(6 * fontMetrics().lineSpacing());
     m_walk->setObjectName(QStringLiteral("walkWrong"));
     m_plan->hide();
@@ -82,6 +83,7 @@ void ReadDialog::show(const WallRead& read)
     m_buttons->addButton(m_walk, QDialogButtonBox::ActionRole);
     m_state->setVisible(!read.problem.isEmpty());
     m_state->setText(read.problem);
+    m_walk->setVisible(read.problem.isEmpty());
     m_findings->addItems(read.sentences);
     m_findings->setVisible(!read.sentences.isEmpty());
     if (!read.plan.isNull()) {

@@ -16,17 +16,19 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 
 using namespace vardeno::walls;
 
 namespace {
 
-constexpr QSize windowSize(1280, 760);
+constexpr QSize windowSize(1280, 760); ///< on a large screen two thirds of it
 constexpr int fieldsWidth = 300;
 
 } // namespace
@@ -67,7 +69,7 @@ WallWindow::WallWindow(QWidget* parent)
     });
     connect(&TranslateManager1::instance(), &TranslateManager1::languageChanged, this,
             &WallWindow::retranslate);
-    DeskDialogs::resizeWithinScreen(this, windowSize);
+    DeskDialogs::resizeWithinScreen(this, windowSize.expandedTo(screen()->availableSize() * 2 / 3));
     retranslate();
     m_canvas->setFocus();
 }
@@ -110,6 +112,9 @@ void WallWindow::createActions()
         add("wallAll", hostSource("Select all"), QKeySequence::SelectAll, [this] { m_canvas->selectAll(); }));
     bar->addAction(
         add("wallWhole", hostSource("Whole wall"), Qt::CTRL + Qt::Key_0, [this] { m_canvas->showWhole(); }));
+    const auto buttons = bar->findChildren<QToolButton*>();
+    for (QToolButton* button : buttons)
+        button->setFocusPolicy(Qt::TabFocus); // a tool bar has it otherwise
     addAction(add("wallKeys", hostSource("Keyboard shortcuts"), Qt::Key_F1, [this] { showKeys(); }));
     addAction(add("wallClose", hostSource("Close"), QKeySequence::Close, [this] { close(); }));
 }
@@ -222,8 +227,9 @@ void WallWindow::closeEvent(QCloseEvent* event)
         return;
     }
     event->ignore();
-    QMessageBox* box = messageBox(this, MessageKind::Question,
-                                  hostText(QStringLiteral("Save the changes of this wall?")), {});
+    QMessageBox* box =
+        messageBox(this, MessageKind::Question, hostText(QStringLiteral("Save the changes of this wall?")),
+                   QFileInfo(m_model->path()).fileName());
     auto* saves = box->addButton(hostText(QStringLiteral("Save")), QMessageBox::AcceptRole);
     auto* discards =
         box->addButton(hostText(QStringLiteral("Discard changes")), QMessageBox::DestructiveRole);
