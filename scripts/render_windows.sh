@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Takes pictures of every window and dialog of the chart desk, in every language and theme and on screens of four sizes,
-# and puts those of a window side by side, to be looked at: scripts/render_windows.sh TARGET [SIZE …]. What is cut in them
-# is printed. Needs xvfb, openbox, imagemagick and fonts-noto-cjk.
+# and puts those of a window side by side, to be looked at: scripts/render_windows.sh TARGET [SIZE[@SCALE] …]. LANGUAGES and
+# THEMES in the environment are what is wanted of them. What is cut in the windows is printed. Needs xvfb, openbox,
+# imagemagick and fonts-noto-cjk.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 if [ "${1:-}" = inside ]; then
@@ -16,7 +17,9 @@ bin=$PWD/build/${PRESET:-dev}/bin
 target=$(realpath -m "${1:?the folder for the pictures}")
 shift
 sizes=("$@")
-[ $# -gt 0 ] || sizes=(1024x600 1366x768 1920x1080 3840x2160)
+[ $# -gt 0 ] || sizes=(1024x600 1366x768 1920x1080 3840x2160 3840x2160@2)
+read -ra languages <<< "${LANGUAGES:-en de es ja zh_CN}"
+read -ra themes <<< "${THEMES:-dark light}"
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 export HOME=$home XDG_RUNTIME_DIR=$home XDG_CONFIG_HOME=$home/config XDG_CACHE_HOME=$home/cache XDG_DATA_HOME=$home/data
@@ -36,12 +39,14 @@ echo 'stage, left' > "$home/charts/20260301_180000/tags.txt"
 cp examples/walls/{stage,ribbon}.wall.json "$home/charts"
 
 for size in "${sizes[@]}"; do
-  for theme in dark light; do
+  scale=1
+  [[ $size != *@* ]] || scale=${size#*@}
+  for theme in "${themes[@]}"; do
     shots=$target/$size-$theme
-    xvfb-run -a -s "-screen 0 ${size}x24" "$bin/../../../scripts/render_windows.sh" inside \
-      "$bin/deskshots" "$home/charts" "$shots" "$theme" en de es ja zh_CN
-    for picture in "$shots"/*-en.png; do
-      window=$(basename "$picture" -en.png)
+    QT_SCALE_FACTOR=$scale xvfb-run -a -s "-screen 0 ${size%@*}x24" "$bin/../../../scripts/render_windows.sh" inside \
+      "$bin/deskshots" "$home/charts" "$shots" "$theme" "${languages[@]}"
+    for picture in "$shots"/*-"${languages[0]}".png; do
+      window=$(basename "$picture" "-${languages[0]}.png")
       montage "$shots/$window"-*.png -tile 2x -geometry '960x>+4+4' "$target/$window-$size-$theme.png"
     done
   done

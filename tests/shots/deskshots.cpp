@@ -11,15 +11,22 @@
 #include "deskwalls.h"
 #include "deskwindow.h"
 #include "display.h"
+#include "draftkeeper.h"
+#include "hosttext.h"
 #include "languages.h"
 #include "mainwindow.h"
+#include "newfromdialog.h"
 #include "outputwindow.h"
 #include "readdialog.h"
 #include "themepalette.h"
 #include "walk.h"
 #include "wallcanvas.h"
+#include "wallmodel.h"
 #include "wallwindow.h"
 
+#include <chartpreview.h>
+
+#include <QColorDialog>
 #include <QDialog>
 #include <QDir>
 #include <QListWidget>
@@ -27,13 +34,19 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTextStream>
+#include <QUndoStack>
 
 using namespace deskwindow;
 
 namespace {
 
-constexpr int settleTime = 250; ///< ms in which a window is drawn
+constexpr int settleTime = 200;  ///< ms in which a window is drawn
+constexpr int quickToWrite = 80; ///< quality of a PNG file that is compressed little
 
 void need(bool isDone)
 {
@@ -66,22 +79,30 @@ public:
         const QList<QAction*> menus = m_window.menuBar()->actions();
         for (int menu = 0; menu < menus.size(); ++menu)
             shootMenu(QStringLiteral("menu%1").arg(menu + 1), menus.at(menu));
-        dialog(
-            "newfrom", [this] { m_window.library()->newFrom(); }, 3000);
+        dialog("newfrom", [this] {
+            m_window.library()->newFrom();
+            const auto* pictures = m_window.findChild<NewFromDialog*>()->findChild<QListWidget*>();
+            need(QTest::qWaitFor([&] { return !pictures->item(pictures->count() - 1)->icon().isNull(); },
+                                 20000));
+        });
         dialog("rename", [this] { m_window.library()->askName(); });
         dialog("tags", [this] { m_window.library()->askTags(); });
         dialog("export", [this] { m_window.library()->askTarget(); });
+        dialog("choose", [this] { trigger(QStringLiteral("Choose folder…")); });
+        dialog("photo", [this] { trigger(QStringLiteral("Read a photo…")); });
         dialog(
-            "show", [this] { m_window.output()->showAction()->trigger(); }, 3000);
+            "show", [this] { trigger(QStringLiteral("Show on…")); }, 3000);
         const QList<QAction*> help = menus.last()->menu()->actions();
         dialog("shortcuts", [&] { help.at(0)->trigger(); });
         dialog("manual", [&] { help.at(1)->trigger(); });
         dialog("about", [&] { help.at(2)->trigger(); });
         takeUndo();
+        takeMessages();
         takeWalk();
         takeReading();
         takeWalls();
         takeEditor();
+        takeEmpty();
     }
 
 private:
@@ -89,9 +110,17 @@ private:
     void shoot(const QString& name, const QWidget& window)
     {
         QTest::qWait(settleTime);
-        QGuiApplication::primaryScreen()->grabWindow(0).save(path(name));
+        saveScreen(name);
         tell(name, window);
     }
+
+    void saveScreen(const QString& name) const
+    {
+        QGuiApplication::primaryScreen()->grabWindow(0).save(path(name), "PNG", quickToWrite);
+    }
+
+    /// The action with this English text.
+    void trigger(const QString& source) { need(deskwindow::trigger(m_window, hostText(source))); }
 
     void tell(const QString& name, const QWidget& window) const
     {
@@ -141,6 +170,31 @@ private:
         need(isListed(m_window));
     }
 
+    /// What went wrong, and what is asked.
+    void takeMessages()
+    {
+        dialog(QStringLiteral("missing"),
+               [this] { m_window.openPaths({QStringLiteral("/media/usb/wall.json")}); });
+        dialog(QStringLiteral("savefailed"), [this] {
+            Q_EMIT m_window.session()->failed(
+                m_window.folder() + QStringLiteral("/20260305_180000/Chart 5.png"), {});
+        });
+        dialog(QStringLiteral("draft"), [this] {
+            Draft draft;
+            draft.folder = m_window.folder();
+            draft.changed = QDateTime(QDate(2026, 3, 5), QTime(18, 0));
+            need(DraftFolder::create(draftsRoot())->write(draft));
+            m_window.offerDrafts();
+        });
+        dialog(
+            QStringLiteral("viewer"),
+            [this] {
+                Q_EMIT m_window.session()->notEditable(m_list->charts().at(1),
+                                                       {QStringLiteral("publicData.resolutionWidth")});
+            },
+            500);
+    }
+
     /// The output covers its display: the window is drawn by itself.
     void takeWalk()
     {
@@ -152,9 +206,9 @@ private:
         output->walk()->setMode(Walk::Mode::Cabinets);
         output->walk()->setRunning(true);
         QTest::qWait(settleTime);
-        m_window.grab().save(path(QStringLiteral("walk")));
+        m_window.grab().save(path(QStringLiteral("walk")), "PNG", quickToWrite);
         tell(QStringLiteral("walk"), m_window);
-        QGuiApplication::primaryScreen()->grabWindow(0).save(path(QStringLiteral("output")));
+        saveScreen(QStringLiteral("output"));
         output->stop();
         QTest::qWait(settleTime);
     }
@@ -168,10 +222,10 @@ private:
         QPainter(&seen).fillRect(seen.width() / 4, seen.height() / 3, seen.width() / 8, seen.height() / 9,
                                  Qt::black);
         seen.save(photo);
-        dialog(QStringLiteral("reading"), [&] { openReading(photo, chart)->open(); });
         auto* read = openReading(photo, chart);
         const auto* findings = read->findChild<QListWidget*>();
         read->open();
+        shoot(QStringLiteral("reading"), *read);
         need(QTest::qWaitFor([&] { return findings->isVisible(); }, 60000));
         dialog(QStringLiteral("read"), [] {});
         dialog(
@@ -195,9 +249,24 @@ private:
             shoot(QLatin1String(name), *wall);
             wall->canvas()->select({{1, 1}, {2, 1}});
             shoot(name + QStringLiteral("-selected"), *wall);
+            takeFields(name, wall);
+            dialog(name + QStringLiteral("-keys"),
+                   [wall] { wall->findChild<QAction*>(QStringLiteral("wallKeys"))->trigger(); });
+            wall->canvas()->turn();
+            dialog(name + QStringLiteral("-unsaved"), [wall] { wall->close(); });
+            wall->findChild<WallModel*>()->history()->setClean();
             wall->close();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
+    }
+
+    /// Those of the wall that were below the edge of the window.
+    void takeFields(const QString& name, const WallWindow* wall)
+    {
+        const auto areas = wall->findChildren<QScrollArea*>();
+        for (const QScrollArea* area : areas)
+            area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+        shoot(name + QStringLiteral("-fields"), *wall);
     }
 
     void takeEditor()
@@ -205,14 +274,78 @@ private:
         m_window.addChart();
         need(settle(m_window));
         shoot(QStringLiteral("editor"), m_window);
+        takePanels(QStringLiteral("editor"));
+        useBar();
+        takePanels(QStringLiteral("editor-bar"));
+        takePicker();
+        takeZoom();
         need(setRows(m_window, 4));
         m_window.close();
         dialog(QStringLiteral("discard"), [] {});
         m_window.session()->end();
     }
 
+    /// The settings, a height of the window after the other.
+    void takePanels(const QString& name)
+    {
+        const auto areas = m_window.editor()->findChildren<QScrollArea*>();
+        for (const QScrollArea* area : areas) {
+            QScrollBar* bar = area->verticalScrollBar();
+            for (int page = 2; area->isVisible() && bar->value() < bar->maximum(); ++page) {
+                bar->setValue(bar->value() + bar->pageStep());
+                shoot(name + QString::number(page), m_window);
+            }
+            bar->setValue(0);
+        }
+    }
+
+    void useBar()
+    {
+        const QString bar = TranslateManager1::instance().translator().text(
+            QStringLiteral("TestChartTools"), QStringLiteral("Widget"), QStringLiteral("Color bar"));
+        const auto choices = m_window.editor()->findChildren<QRadioButton*>();
+        for (QRadioButton* choice : choices) {
+            if (choice->text() == bar)
+                choice->click();
+        }
+        need(settle(m_window));
+        shoot(QStringLiteral("editor-bar"), m_window);
+    }
+
+    void takePicker()
+    {
+        auto* swatch = m_window.editor()->findChild<QAbstractButton*>(QStringLiteral("outLineColorButton"));
+        swatch->click();
+        shoot(QStringLiteral("picker"), m_window);
+        auto* picker = m_window.findChild<QColorDialog*>();
+        need(picker);
+        picker->reject();
+        QTest::qWait(settleTime);
+    }
+
+    void takeZoom()
+    {
+        QWidget* preview = m_window.editor()->preview();
+        for (int step = 0; step < 20; ++step)
+            QTest::keyClick(preview, Qt::Key_Plus);
+        QTest::mouseMove(preview, preview->rect().center());
+        shoot(QStringLiteral("zoom"), m_window);
+        QTest::keyClick(preview, Qt::Key_0);
+    }
+
+    /// As it is at the very first start.
+    void takeEmpty()
+    {
+        const QString charts = m_window.folder();
+        m_window.openPaths({m_empty.path()});
+        need(isListed(m_window));
+        shoot(QStringLiteral("empty"), m_window);
+        m_window.openPaths({charts});
+    }
+
     QString m_target;
     QString m_language;
+    QTemporaryDir m_empty;
     MainWindow m_window;
     ChartList* m_list = nullptr;
 };
