@@ -1,6 +1,7 @@
 #include "cabinetlayers.h"
 
 #include "geometry/textfont.h"
+#include "layers/markerpainter.h"
 #include "layers/textbatch.h"
 
 #include <QFontMetrics>
@@ -35,12 +36,17 @@ void UnevenChessLayer::draw(QPainter& painter, const QSize&, const QRect& area) 
         fill(cabinet.rect, cabinet.at);
 }
 
-void UnevenLabelLayer::fit(const QSize&)
+int fittedLabelSize(const CabinetPlan& plan, int requested)
 {
     QSize least(INT_MAX, INT_MAX);
-    for (const WallCabinet& cabinet : plan->cabinets())
+    for (const WallCabinet& cabinet : plan.cabinets())
         least = least.boundedTo(cabinet.rect.size());
-    fittedSize = fittedLabelSize(size, textFont(), CabinetGrid{least, 1, 1});
+    return testcharttools::fittedLabelSize(requested, textFont(), CabinetGrid{least, 1, 1});
+}
+
+void UnevenLabelLayer::fit(const QSize&)
+{
+    fittedSize = fittedLabelSize(*plan, size);
 }
 
 void UnevenLabelLayer::draw(QPainter& painter, const QSize&, const QRect& area) const
@@ -63,6 +69,12 @@ void UnevenLabelLayer::draw(QPainter& painter, const QSize&, const QRect& area) 
             texts.add(placed.box, placed.alignment, placed.head, placed.tail);
     }
     texts.draw();
+}
+
+void UnevenMarkerLayer::draw(QPainter& painter, const QSize&, const QRect& area) const
+{
+    for (const CabinetMarker& marker : markers)
+        drawMarker(painter, marker.marker, marker.square, area);
 }
 
 } // namespace vardeno::walls

@@ -2,6 +2,7 @@
 
 #include "cabinetplan.h"
 #include "geometry/cabinetlabels.h"
+#include "geometry/cabinetmarkers.h"
 #include "layers/chartlayer.h"
 
 #include <QColor>
@@ -21,6 +22,9 @@ public:
     QColor evenColor;
 };
 
+/// The font's pixel size that is left of `requested` so that labels fit the smallest cabinet.
+int fittedLabelSize(const CabinetPlan& plan, int requested);
+
 /// The labels of a record in cabinets of several sizes.
 class UnevenLabelLayer : public testcharttools::ChartLayer
 {
@@ -36,6 +40,16 @@ public:
     QColor color;
 
     int fittedSize = 15; ///< found by `fit`
+};
+
+/// The coded markers of a record in cabinets of several sizes.
+class UnevenMarkerLayer : public testcharttools::ChartLayer
+{
+public:
+    using ChartLayer::draw;
+    void draw(QPainter& painter, const QSize& chart, const QRect& area) const override;
+
+    std::vector<testcharttools::CabinetMarker> markers;
 };
 
 } // namespace vardeno::walls

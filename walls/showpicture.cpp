@@ -78,8 +78,10 @@ ShowPicture::Impl::Impl(const ShowDocument& show, const std::vector<ShowFile::Pl
             continue;
         const int wall = findWall(show, placement.wall);
         const ShowFile::PlacedWall& placed = walls[std::size_t(wall)];
-        const WallPicture& picture =
-            m_walls.try_emplace(wall, placed.wall, placed.record, captions).first->second;
+        const WallPicture& picture = m_walls
+                                         .try_emplace(wall, placed.wall, placed.record, captions,
+                                                      WallFile::markersOf(placed.wall, placed.recordFile))
+                                         .first->second;
         m_placed.push_back({wall, PlacedPart(placement, picture.size()),
                             show.layers.wallColors ? colorOf(show, wall) : QColor()});
     }

@@ -3,9 +3,11 @@
 #include "cabinetorder.h"
 #include "cableruns.h"
 #include "chartcheck.h"
+#include "wallmarkers.h"
 
 #include <QHash>
 
+#include <algorithm>
 #include <functional>
 
 namespace vardeno::walls::WallCheck {
@@ -27,14 +29,16 @@ QString listed(const QStringList& names)
 /// What is looked at, computed once.
 struct Look
 {
-    Look(const WallDocument& document, const TestChartToolsData& record)
+    Look(const WallDocument& document, const WallFile::Chart& chart)
         : wall(document)
+        , markers(WallFile::markersOf(document, chart.file))
         , plan(document)
-        , names(cabinetNames(document, plan, record))
+        , names(cabinetNames(document, plan, chart.record))
     {
     }
 
     const WallDocument& wall;
+    const MarkerData markers;
     const CabinetPlan plan;
     const std::vector<QString> names;
 };
@@ -148,12 +152,27 @@ QStringList physicalWarnings(const Look& look)
     return warnings;
 }
 
+QStringList markerWarnings(const Look& look, const TestChartToolsData& record)
+{
+    const std::vector<CabinetMarker> markers = cabinetMarkers(look.plan, record);
+    const auto without = std::count_if(markers.begin(), markers.end(),
+                                       [](const CabinetMarker& marker) { return marker.square.isEmpty(); });
+    if (!look.markers.showMarkers || without == 0)
+        return {};
+    return {QStringLiteral("markerData.showMarkers: %1 of %2 cabinets have no room for a marker")
+                .arg(without)
+                .arg(markers.size())};
+}
+
 /// Those of its own grid do not count on an uneven wall.
 QStringList chartWarnings(const Look& look, const WallFile::Chart& chart)
 {
     const QString prefix = QLatin1String(chart.file.isEmpty() ? "chart.record." : "chart.path: ");
     QStringList warnings;
-    for (const QString& warning : ChartCheck::warnings(chart.record)) {
+    const QStringList ofChart = look.plan.isUniform()
+                                    ? ChartCheck::warnings(chart.record, look.markers)
+                                    : ChartCheck::warnings(chart.record) + markerWarnings(look, chart.record);
+    for (const QString& warning : ofChart) {
         const bool isOfGrid = warning.startsWith(QLatin1String("publicData.box"));
         if (look.plan.isUniform() || !isOfGrid)
             warnings.append(prefix + warning);
@@ -165,7 +184,7 @@ QStringList chartWarnings(const Look& look, const WallFile::Chart& chart)
 
 QStringList warnings(const WallDocument& wall, const WallFile::Chart& chart)
 {
-    const Look look(wall, chart.record);
+    const Look look(wall, chart);
     return physicalWarnings(look) + nameWarnings(look) + dataWarnings(look) + powerWarnings(look) +
            chartWarnings(look, chart);
 }

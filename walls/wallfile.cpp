@@ -47,6 +47,8 @@ QStringList documentOrder()
     const TestChartToolsData record;
     fieldvisitors::FieldNames names;
     recordfields::visit(names, record);
+    const MarkerData markers;
+    recordfields::visitMarkers(names, markers);
     order += names.order;
     order.removeDuplicates();
     return order;
@@ -175,6 +177,12 @@ Chart chartOf(const WallDocument& wall, const QString& folder)
     screen.boxCol = wall.columnWidths.count();
     screen.boxRow = wall.rowHeights.count();
     return chart;
+}
+
+MarkerData markersOf(const WallDocument& wall, const QString& file)
+{
+    return ChartRecordFile::markersOf(file.isEmpty() ? wall.chart.record.document
+                                                     : ChartRecordFile::read(file).document);
 }
 
 } // namespace vardeno::walls::WallFile

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markerdata.h"
 #include "testcharttoolsdata.h"
 #include "vdwalls_export.h"
 #include "walldocument.h"
@@ -58,6 +59,9 @@ struct Chart
 /// The record that is drawn on the wall: the one in the document, or in the file that it names, or a default
 /// one. Its resolution, rows and columns are those of the wall. Relative paths are from `folder`.
 VDWALLS_EXPORT Chart chartOf(const WallDocument& wall, const QString& folder);
+
+/// What the document of that record says of markers; `file` is that of `chartOf`.
+VDWALLS_EXPORT testcharttools::MarkerData markersOf(const WallDocument& wall, const QString& file);
 
 } // namespace WallFile
 

@@ -2,6 +2,7 @@
 
 #include "cabinetorder.h"
 #include "geometry/recordcabinets.h"
+#include "wallmarkers.h"
 
 #include <algorithm>
 
@@ -66,9 +67,9 @@ QString coordinatesOf(const WallCabinet& cabinet)
 } // namespace
 
 WallLayers::WallLayers(const WallDocument& wall, const TestChartToolsData& record,
-                       const ChartCaptions& captions)
+                       const ChartCaptions& captions, const MarkerData& markers)
     : m_plan(wall)
-    , m_record(layersOf(record, captions))
+    , m_record(layersOf(record, captions, markers))
 {
     if (!m_plan.isUniform())
         replaceUneven(record);
@@ -95,6 +96,11 @@ void WallLayers::replaceUneven(const TestChartToolsData& record)
         m_labels->style = labelStyle(record.inLineData);
         m_labels->size = m_record.inLine.serialSize;
         m_labels->color = m_record.inLine.serialColor;
+    }
+    if (m_record.inLine.markersVisible) {
+        m_record.inLine.markersVisible = false;
+        m_markers = std::make_unique<UnevenMarkerLayer>();
+        m_markers->markers = cabinetMarkers(m_plan, record);
     }
 }
 
@@ -152,10 +158,12 @@ std::vector<const ChartLayer*> WallLayers::drawn() const
     std::vector<const ChartLayer*> drawn;
     if (m_chess)
         drawn.push_back(m_chess.get());
-    bool labelled = !m_labels;
+    bool labelled = false;
     const auto addLabels = [&] {
-        if (!labelled)
+        if (!labelled && m_labels)
             drawn.push_back(m_labels.get());
+        if (!labelled && m_markers)
+            drawn.push_back(m_markers.get());
         labelled = true;
     };
     for (const ChartLayer* layer : m_record.drawn()) {

@@ -15,7 +15,7 @@ class WallLayers
 {
 public:
     WallLayers(const WallDocument& wall, const testcharttools::TestChartToolsData& record,
-               const testcharttools::ChartCaptions& captions);
+               const testcharttools::ChartCaptions& captions, const testcharttools::MarkerData& markers);
     WallLayers(const WallLayers&) = delete;
     WallLayers& operator=(const WallLayers&) = delete;
 
@@ -32,6 +32,7 @@ private:
     testcharttools::ChartLayers m_record;
     std::unique_ptr<UnevenChessLayer> m_chess;     ///< instead of the record's
     std::unique_ptr<UnevenLabelLayer> m_labels;    ///< instead of the record's
+    std::unique_ptr<UnevenMarkerLayer> m_markers;  ///< instead of the record's
     std::vector<std::unique_ptr<WallLayer>> m_own; ///< over all of the record's
 };
 

@@ -9,8 +9,8 @@ class WallPicture::Impl
 {
 public:
     Impl(const WallDocument& wall, const testcharttools::TestChartToolsData& record,
-         const testcharttools::ChartCaptions& captions)
-        : layers(wall, record, captions)
+         const testcharttools::ChartCaptions& captions, const testcharttools::MarkerData& markers)
+        : layers(wall, record, captions, markers)
         , picture(layers.size(), layers.drawn())
     {
     }
@@ -21,7 +21,14 @@ public:
 
 WallPicture::WallPicture(const WallDocument& wall, const testcharttools::TestChartToolsData& record,
                          const testcharttools::ChartCaptions& captions)
-    : d(std::make_shared<Impl>(wall, record, captions))
+    : WallPicture(wall, record, captions, {})
+{
+}
+
+WallPicture::WallPicture(const WallDocument& wall, const testcharttools::TestChartToolsData& record,
+                         const testcharttools::ChartCaptions& captions,
+                         const testcharttools::MarkerData& markers)
+    : d(std::make_shared<Impl>(wall, record, captions, markers))
 {
 }
 

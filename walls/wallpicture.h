@@ -21,6 +21,9 @@ public:
     /// A wall that was read without problems, and its record as `WallFile::chartOf` gives it.
     WallPicture(const WallDocument& wall, const testcharttools::TestChartToolsData& record,
                 const testcharttools::ChartCaptions& captions = {});
+    /// The same with a coded marker in every cabinet, if `WallFile::markersOf` wants them.
+    WallPicture(const WallDocument& wall, const testcharttools::TestChartToolsData& record,
+                const testcharttools::ChartCaptions& captions, const testcharttools::MarkerData& markers);
     WallPicture(const WallPicture& other);
     WallPicture& operator=(const WallPicture& other);
     ~WallPicture();

@@ -7,7 +7,10 @@ using namespace vardeno::testcharttools;
 namespace {
 
 constexpr RgbaColor black = {0, 0, 0, 255};
+constexpr int tagLabelShare = 6; ///< of a cabinet's smaller side, beside a marker
 constexpr RgbaColor white = {255, 255, 255, 255};
+constexpr RgbaColor dark = {24, 24, 24, 255};
+constexpr RgbaColor lighter = {56, 56, 56, 255};
 
 void applyWall(TestChartToolsData& record, const Preset& preset)
 {
@@ -95,6 +98,16 @@ void applyNumbering(TestChartToolsData& record, const Preset& preset)
     labels.serialSort = preset.sort;
 }
 
+/// The same, with the numbers in the corners: the markers get the middle.
+void applyTags(TestChartToolsData& record, const Preset& preset)
+{
+    applyNumbering(record, preset);
+    const PublicChartData& wall = record.publicData;
+    const int side = std::min(wall.resolutionWidth / wall.boxCol, wall.resolutionHeight / wall.boxRow);
+    record.inLineData.serialSize = std::clamp(side / tagLabelShare, 1, 100);
+    record.inLineData.serialPosition = 1;
+}
+
 /// From black to white in equal steps of the signal.
 std::vector<RgbaColor> greys(int steps)
 {
@@ -152,8 +165,6 @@ Preset picture(const char* name, const char* description, decltype(Preset::apply
 /// `sort` is as in the record.
 Preset numbering(const char* corner, const char* description, int sort)
 {
-    const RgbaColor dark = {24, 24, 24, 255};
-    const RgbaColor lighter = {56, 56, 56, 255};
     return {QStringLiteral("numbering-") + QLatin1String(corner),
             QLatin1String(description),
             &applyNumbering,
@@ -161,6 +172,15 @@ Preset numbering(const char* corner, const char* description, int sort)
             {},
             {dark, lighter},
             sort};
+}
+
+Preset tags()
+{
+    Preset preset =
+        picture("tags", "Cabinet numbers, and a marker in every cabinet that photographs are read by",
+                &applyTags, {dark, lighter});
+    preset.markers.showMarkers = true;
+    return preset;
 }
 
 std::vector<Preset> walls()
@@ -202,6 +222,7 @@ std::vector<Preset> pictures()
         numbering("top-right", "Cabinet numbers counted from the top right", 1),
         numbering("bottom-left", "Cabinet numbers counted from the bottom left", 2),
         numbering("bottom-right", "Cabinet numbers counted from the bottom right", 3),
+        tags(),
     };
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <markerdata.h>
 #include <testcharttoolsdata.h>
 
 #include <QSize>
@@ -17,6 +18,7 @@ struct Preset
     QSize cabinets;                                         ///< columns x rows
     std::vector<vardeno::testcharttools::RgbaColor> colors; ///< of the base pattern
     int sort = 0;                                           ///< of the labels
+    vardeno::testcharttools::MarkerData markers = {};       ///< of a picture
 
     bool isWall() const { return !resolution.isEmpty(); }
 };

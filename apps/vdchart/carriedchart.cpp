@@ -31,7 +31,7 @@ QByteArray textIn(const CarriedChart::Texts& texts, const char* keyword)
 }
 
 /// The record for a picture at `output`, which may be moved together with its logo.
-QByteArray recordText(TestChartToolsData record, const QString& output)
+QByteArray recordText(TestChartToolsData record, const MarkerData& markers, const QString& output)
 {
     const QString logo = QString::fromStdString(record.logoData.picturePath);
     if (!logo.isEmpty() && output != QLatin1String("-"))
@@ -39,14 +39,15 @@ QByteArray recordText(TestChartToolsData record, const QString& output)
                                           .absoluteDir()
                                           .relativeFilePath(QFileInfo(logo).absoluteFilePath())
                                           .toStdString();
-    return ChartRecordFile::toJson(record);
+    return ChartRecordFile::toJson(record, ChartRecordFile::withMarkers({}, markers));
 }
 
 /// A record in a file of its own would be missed where the picture is looked at.
-QByteArray wallText(WallDocument wall, const TestChartToolsData& record, const QString& output)
+QByteArray wallText(WallDocument wall, const TestChartToolsData& record, const MarkerData& markers,
+                    const QString& output)
 {
     wall.chart.path.clear();
-    wall.chart.record.document = QJsonDocument::fromJson(recordText(record, output)).object();
+    wall.chart.record.document = QJsonDocument::fromJson(recordText(record, markers, output)).object();
     return WallFile::toJson(wall);
 }
 
@@ -61,7 +62,9 @@ std::vector<PngText> showTexts(const ChartInput& chart, const QString& output)
                                   {outputKeyword, outputName(chart)}};
     for (std::size_t i = 0; i < chart.show->walls.size(); ++i) {
         const ShowFile::PlacedWall& wall = chart.show->walls[i];
-        texts.push_back(pngText(keywordOfWall(i), wallText(wall.wall, wall.record, output)));
+        texts.push_back(
+            pngText(keywordOfWall(i), wallText(wall.wall, wall.record,
+                                               WallFile::markersOf(wall.wall, wall.recordFile), output)));
     }
     return texts;
 }
@@ -71,8 +74,8 @@ std::vector<PngText> chartTexts(const ChartInput& chart, const QString& output)
     if (chart.show)
         return showTexts(chart, output);
     if (chart.wall)
-        return {pngText(wallKeyword, wallText(*chart.wall, chart.record, output))};
-    return {pngText(recordKeyword, recordText(chart.record, output))};
+        return {pngText(wallKeyword, wallText(*chart.wall, chart.record, chart.markers, output))};
+    return {pngText(recordKeyword, recordText(chart.record, chart.markers, output))};
 }
 
 ShowFile::PlacedWall placedWall(const ChartInput& chart)

@@ -15,14 +15,14 @@ std::string setting(const char* field, int value)
     return std::string(field) + '=' + std::to_string(value);
 }
 
-void applyGrid(TestChartToolsData& record, const std::string& text)
+void applyGrid(TestChartToolsData& record, MarkerData& markers, const std::string& text)
 {
     const QSize grid = parsedPair("--grid", text);
-    applySettings(record, {setting("columns", grid.width()), setting("rows", grid.height())},
+    applySettings(record, markers, {setting("columns", grid.width()), setting("rows", grid.height())},
                   {ExitCode::Usage, QStringLiteral("--grid")});
 }
 
-void applyCabinet(TestChartToolsData& record, const std::string& text)
+void applyCabinet(TestChartToolsData& record, MarkerData& markers, const std::string& text)
 {
     const QSize cabinet = parsedPair("--cabinet", text);
     const int columns = record.publicData.boxCol;
@@ -30,7 +30,7 @@ void applyCabinet(TestChartToolsData& record, const std::string& text)
     const Failure blame = {
         ExitCode::Usage,
         QStringLiteral("--cabinet: %1 x %2 of them").arg(QString::number(columns), QString::number(rows))};
-    applySettings(record,
+    applySettings(record, markers,
                   {setting("width", cabinet.width() * columns), setting("height", cabinet.height() * rows)},
                   blame);
 }
@@ -55,19 +55,20 @@ QSize parsedPair(const char* option, const std::string& text)
     return {match.captured(1).toInt(), match.captured(2).toInt()};
 }
 
-void applyChanges(TestChartToolsData& record, const Changes& changes)
+void applyChanges(TestChartToolsData& record, MarkerData& markers, const Changes& changes)
 {
     if (!changes.grid.empty())
-        applyGrid(record, changes.grid);
+        applyGrid(record, markers, changes.grid);
     if (!changes.cabinet.empty())
-        applyCabinet(record, changes.cabinet);
-    applySettings(record, changes.settings);
+        applyCabinet(record, markers, changes.cabinet);
+    applySettings(record, markers, changes.settings);
 }
 
-void applySettings(TestChartToolsData& record, const std::vector<std::string>& settings, const Failure& blame)
+void applySettings(TestChartToolsData& record, MarkerData& markers, const std::vector<std::string>& settings,
+                   const Failure& blame)
 {
     for (const std::string& setting : settings) {
-        const QString problem = ChartRecordFile::setField(record, wholeSetting(setting));
+        const QString problem = ChartRecordFile::setField(record, markers, wholeSetting(setting));
         if (!problem.isEmpty())
             throw Failure{blame.code, QStringLiteral("%1: %2").arg(blame.message, problem)};
     }

@@ -2,6 +2,7 @@
 
 #include "exitcode.h"
 
+#include <markerdata.h>
 #include <testcharttoolsdata.h>
 
 #include <QSize>
@@ -20,11 +21,13 @@ struct Changes
 /// The two numbers of a text like "15x9". Throws a Failure of wrong usage for anything else.
 QSize parsedPair(const char* option, const std::string& text);
 
-/// Changes `record`: the grid, then the cabinets, then the fields. Throws a Failure of wrong usage.
-void applyChanges(vardeno::testcharttools::TestChartToolsData& record, const Changes& changes);
+/// Changes `record` and what its document says beside it: the grid, then the cabinets, then the fields.
+/// Throws a Failure of wrong usage.
+void applyChanges(vardeno::testcharttools::TestChartToolsData& record,
+                  vardeno::testcharttools::MarkerData& markers, const Changes& changes);
 
-/// Changes the fields of `record`. For a setting that is none throws `blame` with the problem behind its
+/// Changes the fields of both. For a setting that is none throws `blame` with the problem behind its
 /// message.
 void applySettings(vardeno::testcharttools::TestChartToolsData& record,
-                   const std::vector<std::string>& settings,
+                   vardeno::testcharttools::MarkerData& markers, const std::vector<std::string>& settings,
                    const Failure& blame = {ExitCode::Usage, QStringLiteral("--set")});

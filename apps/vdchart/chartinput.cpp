@@ -24,10 +24,10 @@ bool hasGridOf(const TestChartToolsData& record, const PublicChartData& grid)
 }
 
 /// Changes a wall's record. What the wall says itself, its record cannot say otherwise.
-void change(ChartInput& chart, const Failure& blame, const std::function<void(TestChartToolsData&)>& apply)
+void change(ChartInput& chart, const Failure& blame, const std::function<void(ChartInput&)>& apply)
 {
     const PublicChartData before = chart.record.publicData;
-    apply(chart.record);
+    apply(chart);
     if (chart.wall && !hasGridOf(chart.record, before))
         throw Failure{
             blame.code,
@@ -84,7 +84,9 @@ ChartReading readFile(const QString& path)
 ChartReading readRecordOf(const QByteArray& json, const QString& folder)
 {
     const ChartRecordFile::Reading record = ChartRecordFile::fromJson(json, folder);
-    return {{record.record, std::nullopt, {}}, record.problems, record.unknown};
+    ChartReading reading = {{record.record, std::nullopt, {}}, record.problems, record.unknown};
+    reading.chart.markers = ChartRecordFile::markersOf(record.document);
+    return reading;
 }
 
 ChartReading readWall(const QByteArray& json, const QString& folder)
@@ -100,6 +102,7 @@ ChartReading readWall(const QByteArray& json, const QString& folder)
     if (!chart.file.isEmpty())
         reading.unknown += chart.unknown; // those of the document have been told
     reading.chart = {chart.record, std::move(wall.wall), chart.file};
+    reading.chart.markers = walls::WallFile::markersOf(*reading.chart.wall, chart.file);
     return reading;
 }
 
@@ -108,7 +111,8 @@ void applyChanges(ChartReading& reading, const Changes& changes, const QString& 
     const Failure blame = {ExitCode::Usage, inputName(path)};
     forbidChanges(reading.chart,
                   !changes.settings.empty() || !changes.grid.empty() || !changes.cabinet.empty(), blame);
-    change(reading.chart, blame, [&](TestChartToolsData& record) { applyChanges(record, changes); });
+    change(reading.chart, blame,
+           [&](ChartInput& chart) { applyChanges(chart.record, chart.markers, changes); });
 }
 
 ChartReading readChart(const QString& path, const Changes& changes)
@@ -128,7 +132,8 @@ ChartInput requireChart(const QString& path, const Changes& changes)
 void applySettings(ChartInput& chart, const std::vector<std::string>& settings, const Failure& blame)
 {
     forbidChanges(chart, !settings.empty(), blame);
-    change(chart, blame, [&](TestChartToolsData& record) { applySettings(record, settings, blame); });
+    change(chart, blame,
+           [&](ChartInput& input) { applySettings(input.record, input.markers, settings, blame); });
 }
 
 std::vector<ChartInput> picturesOf(const ChartInput& chart)

@@ -26,6 +26,8 @@ struct ChartInput
     QString recordFile; ///< the file that a wall names; empty where the record is in the document
     std::shared_ptr<const ShowInput> show = nullptr;
     int output = -1; ///< of the show, from 0; -1 as long as none has been chosen
+    vardeno::testcharttools::MarkerData markers =
+        {}; ///< of the record's document; a show's walls have theirs
 };
 
 struct ChartReading

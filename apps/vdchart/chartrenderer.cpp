@@ -49,36 +49,20 @@ ChartRenderer::ChartRenderer(const QString& language)
     m_captions = ChartCaptions::current();
 }
 
-ChartPicture ChartRenderer::chart(const TestChartToolsData& record) const
-{
-    requireLogo(record);
-    return ChartPicture(record, m_captions);
-}
-
-QImage ChartRenderer::render(const TestChartToolsData& record) const
-{
-    return required(chart(record).image());
-}
-
 QImage ChartRenderer::render(const ChartInput& input) const
 {
     const PictureRows picture = rows(input);
     return required(picture.rows(0, picture.size.height()));
 }
 
-PictureRows ChartRenderer::rows(const TestChartToolsData& record) const
-{
-    return rowsOfPicture(chart(record));
-}
-
 PictureRows ChartRenderer::rows(const ChartInput& input) const
 {
     if (input.show)
         return rows(*input.show, input.output);
-    if (!input.wall)
-        return rows(input.record);
     requireLogo(input.record);
-    return rowsOfPicture(vardeno::walls::WallPicture(*input.wall, input.record, m_captions));
+    if (!input.wall)
+        return rowsOfPicture(ChartPicture(input.record, m_captions, input.markers));
+    return rowsOfPicture(vardeno::walls::WallPicture(*input.wall, input.record, m_captions, input.markers));
 }
 
 PictureRows ChartRenderer::rows(const ShowInput& show, int output) const

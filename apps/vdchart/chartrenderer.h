@@ -22,20 +22,14 @@ public:
     /// `language`: of the resolution line.
     explicit ChartRenderer(const QString& language);
 
-    /// The chart in its resolution; a large one is drawn strip by strip when its rows are asked for. Throws
-    /// Failure where the picture of its logo cannot be drawn: without it, it would be another chart. For any
-    /// thread.
-    vardeno::testcharttools::PictureRows
-    rows(const vardeno::testcharttools::TestChartToolsData& record) const;
-    /// Likewise, of a record, a wall or an output of a show.
+    /// A record, a wall or an output of a show in its resolution; a large one is drawn strip by strip when
+    /// its rows are asked for. Throws Failure where the picture of its logo cannot be drawn: without it, it
+    /// would be another chart. For any thread.
     vardeno::testcharttools::PictureRows rows(const ChartInput& chart) const;
     /// The same as one image.
-    QImage render(const vardeno::testcharttools::TestChartToolsData& record) const;
     QImage render(const ChartInput& chart) const;
 
 private:
-    vardeno::testcharttools::ChartPicture
-    chart(const vardeno::testcharttools::TestChartToolsData& record) const;
     vardeno::testcharttools::PictureRows rows(const ShowInput& show, int output) const;
 
     ChartApplication m_application;

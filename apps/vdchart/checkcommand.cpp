@@ -41,7 +41,7 @@ QStringList warningsOf(const ChartInput& chart)
     if (chart.show)
         return vardeno::walls::ShowCheck::warnings(chart.show->show, chart.show->walls);
     if (!chart.wall)
-        return ChartCheck::warnings(chart.record);
+        return ChartCheck::warnings(chart.record, chart.markers);
     return vardeno::walls::WallCheck::warnings(*chart.wall, {chart.record, {}, {}, chart.recordFile});
 }
 

@@ -23,7 +23,8 @@ const QMap<QString, QString>& shortNames()
 QStringList wholeNames()
 {
     QStringList names;
-    const QJsonObject record = QJsonDocument::fromJson(ChartRecordFile::toJson({})).object();
+    const QJsonObject beside = ChartRecordFile::withMarkers({}, {true});
+    const QJsonObject record = QJsonDocument::fromJson(ChartRecordFile::toJson({}, beside)).object();
     for (const QString& group : record.keys()) {
         for (const QString& field : record.value(group).toObject().keys())
             names.append(group + QLatin1Char('.') + field);

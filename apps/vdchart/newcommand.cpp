@@ -34,17 +34,21 @@ ExitCode runNew(const Arguments& arguments)
 {
     const std::vector<const Preset*> chosen = chosenPresets(arguments);
     TestChartToolsData wanted;
-    for (const Preset* preset : chosen)
+    MarkerData markers;
+    for (const Preset* preset : chosen) {
         preset->apply(wanted, *preset);
-    applyChanges(wanted, arguments.changes);
+        if (!preset->isWall())
+            markers = preset->markers;
+    }
+    applyChanges(wanted, markers, arguments.changes);
     const ChartApplication application; // for the fonts that texts are placed by
     TestChartToolsData record = newChart(wanted.publicData);
     for (const Preset* preset : chosen) {
         if (!preset->isWall())
             preset->apply(record, *preset);
     }
-    applyChanges(record, arguments.changes);
-    std::cout << ChartRecordFile::toJson(record).toStdString();
+    applyChanges(record, markers, arguments.changes);
+    std::cout << ChartRecordFile::toJson(record, ChartRecordFile::withMarkers({}, markers)).toStdString();
     return ExitCode::Good;
 }
 

@@ -30,7 +30,8 @@ QByteArray documentOf(const ChartInput& chart)
 {
     if (chart.show)
         return documentOfShow(chart);
-    const QByteArray record = ChartRecordFile::toJson(chart.record);
+    const QByteArray record =
+        ChartRecordFile::toJson(chart.record, ChartRecordFile::withMarkers({}, chart.markers));
     return chart.wall ? record + vardeno::walls::WallFile::toJson(*chart.wall) : record;
 }
 

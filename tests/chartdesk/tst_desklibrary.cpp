@@ -308,8 +308,9 @@ private Q_SLOTS:
         NewFromDialog presets(m_window.get());
         presets.setAttribute(Qt::WA_DeleteOnClose, false);
         const auto* pictures = presets.findChild<QListWidget*>(QStringLiteral("presetPictures"));
-        const auto count = std::count_if(::presets().begin(), ::presets().end(),
-                                         [](const Preset& preset) { return !preset.isWall(); });
+        const auto count = std::count_if(::presets().begin(), ::presets().end(), [](const Preset& preset) {
+            return !preset.isWall() && !preset.markers.showMarkers;
+        });
         QCOMPARE(pictures->count(), int(count) + 1);
         for (int row = 0; row < pictures->count(); ++row) {
             const QListWidgetItem* picture = pictures->item(row);

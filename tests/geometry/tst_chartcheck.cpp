@@ -476,6 +476,44 @@ private Q_SLOTS:
     }
     void lines() { check(); }
 
+    void markers_data()
+    {
+        addColumns();
+        add("with room", [](auto&) {}, {});
+        add("too small",
+            [](auto& r) {
+                r.publicData.boxCol = 60;
+                r.publicData.boxRow = 40;
+                r.inLineData.showSerialNumber = false;
+            },
+            {"markerData.showMarkers: cabinets of 32 x 27 pixels have no room of 24 pixels for a marker; "
+             "none "
+             "is drawn"});
+        add("no room beside the labels",
+            [](auto& r) {
+                r.publicData.boxCol = 24;
+                r.publicData.boxRow = 20;
+                r.inLineData.serialSize = 20;
+            },
+            {"markerData.showMarkers: cabinets of 80 x 54 pixels have no room of 24 pixels beside their "
+             "labels "
+             "for a marker; none is drawn"});
+        add("under the logo",
+            [this](auto& r) {
+                showPicture(r, pictureFile(m_folder, {100, 100}));
+                r.logoData.displayPosition = 0;
+            },
+            {"markerData.showMarkers: the logo and the texts lie over the markers of 2 of 144 cabinets"});
+    }
+    void markers()
+    {
+        QFETCH(Change, change);
+        TestChartToolsData record = plainRecord();
+        change(record);
+        QTEST(ChartCheck::warnings(record, {true}), "warnings");
+        QCOMPARE(ChartCheck::warnings(record, {false}), QStringList());
+    }
+
 private:
     static void showStripes(TestChartToolsData& record, int count)
     {

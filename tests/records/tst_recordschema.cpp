@@ -15,6 +15,14 @@ QJsonObject schemaDocument()
     return QJsonDocument::fromJson(ChartRecordFile::schema()).object();
 }
 
+/// With what stands beside the record only where it is wanted.
+QByteArray wholeDocument()
+{
+    QJsonObject beside = ChartRecordFile::withMarkers({}, {true});
+    beside.insert("markerData", QJsonObject{{"showMarkers", false}});
+    return ChartRecordFile::toJson({}, beside);
+}
+
 QString fromDocs(const char* name)
 {
     return sourcePath("docs/") + QLatin1String(name);
@@ -29,7 +37,7 @@ QByteArray contents(const QString& path)
 /// Sets the field to `value` and returns what the reader says.
 QStringList problemsWith(const QString& group, const QString& field, const QJsonValue& value)
 {
-    QJsonObject document = QJsonDocument::fromJson(ChartRecordFile::toJson({})).object();
+    QJsonObject document = QJsonDocument::fromJson(wholeDocument()).object();
     QJsonObject members = document.value(group).toObject();
     members.insert(field, value);
     document.insert(group, members);
@@ -81,9 +89,9 @@ QByteArray manualTable(const QStringList& order)
 QStringList fieldNames()
 {
     QStringList names;
-    const QJsonObject document = QJsonDocument::fromJson(ChartRecordFile::toJson({})).object();
+    const QJsonObject document = QJsonDocument::fromJson(wholeDocument()).object();
     QMap<int, QString> places;
-    const QByteArray text = ChartRecordFile::toJson({});
+    const QByteArray text = wholeDocument();
     for (const QString& group : document.keys()) {
         const int begin = text.indexOf("\"" + group.toUtf8() + "\": {");
         for (const QString& field : document.value(group).toObject().keys())
@@ -123,7 +131,7 @@ private Q_SLOTS:
         const int from = manual.indexOf(begin) + begin.size();
         const int to = manual.indexOf(end);
         QVERIFY(manual.contains(begin) && to >= from);
-        QCOMPARE(fieldNames().size(), 49);
+        QCOMPARE(fieldNames().size(), 50);
         const QByteArray table = manualTable(fieldNames());
         update(fromDocs("records.md"), manual.left(from) + table + manual.mid(to));
         const QByteArray current = contents(fromDocs("records.md"));
@@ -135,7 +143,7 @@ private Q_SLOTS:
         const QJsonObject schema = schemaDocument();
         QCOMPARE(schema.value("$schema").toString(),
                  QStringLiteral("https://json-schema.org/draft/2020-12/schema"));
-        const QJsonObject record = QJsonDocument::fromJson(ChartRecordFile::toJson({})).object();
+        const QJsonObject record = QJsonDocument::fromJson(wholeDocument()).object();
         QCOMPARE(schema.value("$id"), record.value("$schema"));
         const QJsonObject members = schema.value("properties").toObject();
         QCOMPARE(members.keys(), record.keys());
@@ -160,7 +168,7 @@ private Q_SLOTS:
         const QJsonObject groups = schemaDocument().value("properties").toObject();
         const QJsonObject schema =
             groups.value(group).toObject().value("properties").toObject().value(field).toObject();
-        const QJsonObject record = QJsonDocument::fromJson(ChartRecordFile::toJson({})).object();
+        const QJsonObject record = QJsonDocument::fromJson(wholeDocument()).object();
         QCOMPARE(schema.value("default"), record.value(group).toObject().value(field));
         QVERIFY(!schema.value("description").toString().isEmpty());
 

@@ -15,7 +15,8 @@ private:
     {
         TestChartToolsData record;
         try {
-            applyChanges(record, changes);
+            MarkerData markers;
+            applyChanges(record, markers, changes);
         } catch (const Failure& failure) {
             return failure.code == ExitCode::Usage ? failure.message : QStringLiteral("another code");
         }
@@ -46,7 +47,8 @@ private Q_SLOTS:
         QFETCH(QString, grid);
         QFETCH(QString, cabinet);
         TestChartToolsData record;
-        applyChanges(record, {{}, grid.toStdString(), cabinet.toStdString()});
+        MarkerData markers;
+        applyChanges(record, markers, {{}, grid.toStdString(), cabinet.toStdString()});
         QTEST(QSize(record.publicData.resolutionWidth, record.publicData.resolutionHeight), "resolution");
         QTEST(QSize(record.publicData.boxCol, record.publicData.boxRow), "cabinets");
     }
@@ -54,8 +56,13 @@ private Q_SLOTS:
     void fieldsWin()
     {
         TestChartToolsData record;
-        applyChanges(record,
-                     {{"columns=12", "publicData.boxCol=10", "basicData.oddColor=#ff8000"}, "15x9", ""});
+        MarkerData markers;
+        applyChanges(record, markers,
+                     {{"columns=12", "publicData.boxCol=10", "basicData.oddColor=#ff8000",
+                       "markerData.showMarkers=true"},
+                      "15x9",
+                      ""});
+        QVERIFY(markers.showMarkers);
         QCOMPARE(record.publicData.boxCol, 10);
         QCOMPARE(record.publicData.boxRow, 9);
         QCOMPARE(toQColor(record.basicData.oddColor), QColor(255, 128, 0));
@@ -112,7 +119,7 @@ private Q_SLOTS:
         QCOMPARE(fieldOf(QStringLiteral("brightness")), QStringLiteral("brightness"));
         QVERIFY(isField(QStringLiteral("selfData.selfText")) && !isField(QStringLiteral("selfData")));
         QVERIFY(fieldNames().contains(QStringLiteral("height")));
-        QCOMPARE(fieldNames().size(), 49 + 4);
+        QCOMPARE(fieldNames().size(), 50 + 4);
     }
 };
 

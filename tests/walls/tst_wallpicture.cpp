@@ -3,8 +3,12 @@
 #include "testwalls.h"
 
 #include <chartpicture.h>
+#include <chartrecordfile.h>
 #include <wallfile.h>
+#include <wallmarkers.h>
 #include <wallpicture.h>
+
+#include <QTemporaryDir>
 
 using namespace vardeno::testcharttools;
 using namespace vardeno::walls;
@@ -49,6 +53,18 @@ WallDocument unevenWall(int scale)
     wall.exceptions.list = {spanning(1, 0, 2, 2, 90), missing(4, 2), missing(0, 1)};
     wall.exceptions.list.front().name = "Above the middle of the stage";
     return wall;
+}
+
+void paintMarker(QImage& picture, int marker, const QRect& square)
+{
+    const int module = square.width() / markerModules;
+    for (int y = -module; y < square.height() + module && module > 0; ++y) {
+        for (int x = -module; x < square.width() + module; ++x) {
+            const bool isInside = x >= 0 && y >= 0 && x < square.width() && y < square.height();
+            const bool isWhite = !isInside || isMarkerWhite(marker, y / module, x / module);
+            picture.setPixelColor(square.topLeft() + QPoint(x, y), isWhite ? Qt::white : Qt::black);
+        }
+    }
 }
 
 } // namespace
@@ -277,6 +293,57 @@ private Q_SLOTS:
         QVERIFY(!picture.isDrawnInParts());
         const QImage whole = picture.image();
         VD_COMPARE_IMAGES(picture.rows(100, 50), whole.copy(0, 100, whole.width(), 50));
+    }
+
+    /// Also where cabinets have several sizes; in the order of the plan, and where they fit.
+    void markers()
+    {
+        const WallDocument wall = unevenWall(1);
+        const TestChartToolsData record = plainRecord(wall);
+        const CabinetPlan plan(wall);
+        const std::vector<CabinetMarker> markers = cabinetMarkers(plan, record);
+        const QImage picture = WallPicture(wall, record, {}, {true}).image();
+        const QImage without = WallPicture(wall, record).image();
+        QCOMPARE(markers.size(), plan.cabinets().size());
+        QImage expected = without;
+        int drawn = 0;
+        for (std::size_t i = 0; i < markers.size(); ++i) {
+            QCOMPARE(markers[i].marker, int(i));
+            QCOMPARE(markers[i].square, markerSquare(plan.cabinets()[i].rect, {}));
+            drawn += markers[i].square.isEmpty() ? 0 : 1;
+            paintMarker(expected, int(i), markers[i].square);
+        }
+        QVERIFY(drawn > 0 && drawn < int(markers.size()));
+        VD_COMPARE_IMAGES(picture, expected);
+    }
+
+    /// On a uniform wall they are the record's.
+    void markersOfAUniformWall()
+    {
+        const WallDocument wall = wallOf({80, 80, 80}, {80, 80});
+        TestChartToolsData record = plainRecord(wall);
+        record.inLineData.showSerialNumber = true;
+        record.inLineData.serialPosition = 1;
+        record.inLineData.serialSize = 12;
+        VD_COMPARE_IMAGES(WallPicture(wall, record, {}, {true}).image(),
+                          ChartPicture(record, {}, {true}).image());
+        const std::vector<CabinetMarker> markers = vardeno::walls::cabinetMarkers(CabinetPlan(wall), record);
+        const std::vector<CabinetMarker> ofRecord = vardeno::testcharttools::cabinetMarkers(record);
+        QCOMPARE(markers.size(), ofRecord.size());
+        for (std::size_t i = 0; i < markers.size(); ++i)
+            QVERIFY(markers[i].square == ofRecord[i].square && markers[i].marker == ofRecord[i].marker);
+    }
+
+    void whatTheChartSaysOfMarkers()
+    {
+        WallDocument wall = smallWall();
+        QVERIFY(!WallFile::markersOf(wall, {}).showMarkers);
+        wall.chart.record.document = ChartRecordFile::withMarkers({}, {true});
+        QVERIFY(WallFile::markersOf(wall, {}).showMarkers);
+        QTemporaryDir folder;
+        const QString file = folder.filePath("chart.json");
+        QCOMPARE(ChartRecordFile::write(file, {}, wall.chart.record.document), QString());
+        QVERIFY(WallFile::markersOf(smallWall(), file).showMarkers);
     }
 };
 

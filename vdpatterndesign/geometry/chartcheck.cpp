@@ -1,5 +1,6 @@
 #include "chartcheck.h"
 
+#include "geometry/cabinetmarkers.h"
 #include "geometry/picturecheck.h"
 #include "geometry/recordcabinets.h"
 #include "geometry/recordcolors.h"
@@ -17,8 +18,9 @@ constexpr int leastBrightness = 10; ///< percent
 class Check
 {
 public:
-    explicit Check(const TestChartToolsData& record)
+    Check(const TestChartToolsData& record, const MarkerData& markers)
         : m_record(record)
+        , m_markers(markers)
     {
     }
 
@@ -54,11 +56,14 @@ private:
     void checkLogoSize();
     void checkCustomText();
     void checkResolutionLine();
+    void checkMarkers();
+    void checkCoveredMarkers(const std::vector<CabinetMarker>& markers);
     void checkTextSize(const char* field, const QString& what, int requested, int fitted);
     void checkText(const char* field, const QString& what, const QRect& ink);
     void checkCovering(const char* field, const QString& what, const QRect& ink);
 
     const TestChartToolsData& m_record;
+    const MarkerData m_markers;
     QStringList m_warnings;
 };
 
@@ -91,6 +96,7 @@ QStringList Check::run()
     checkLogo();
     checkCustomText();
     checkResolutionLine();
+    checkMarkers();
     return m_warnings;
 }
 
@@ -343,6 +349,39 @@ void Check::checkResolutionLine()
     checkText("selfData.showResolution", QStringLiteral("the resolution"), informationInk(m_record));
 }
 
+void Check::checkMarkers()
+{
+    if (!m_markers.showMarkers)
+        return;
+    const std::vector<CabinetMarker> markers = cabinetMarkers(m_record);
+    if (!markers.empty()) {
+        checkCoveredMarkers(markers);
+        return;
+    }
+    const bool isBesideLabels = m_record.inLineData.showSerialNumber;
+    warn("markerData.showMarkers",
+         QStringLiteral("cabinets of %1 have no room of %2 pixels%3 for a marker; none is drawn")
+             .arg(sized(cabinetGrid(m_record.publicData).cell(0, 0).size()))
+             .arg(leastMarkerRoom())
+             .arg(QLatin1String(isBesideLabels ? " beside their labels" : "")));
+}
+
+/// The logo and the texts lie above them.
+void Check::checkCoveredMarkers(const std::vector<CabinetMarker>& markers)
+{
+    const QRect inks[] = {logoInk(m_record), customTextInk(m_record), informationInk(m_record)};
+    const auto isCovered = [&inks](const CabinetMarker& marker) {
+        return std::any_of(std::begin(inks), std::end(inks),
+                           [&marker](const QRect& ink) { return ink.intersects(marker.square); });
+    };
+    const auto covered = std::count_if(markers.begin(), markers.end(), isCovered);
+    if (covered > 0)
+        warn("markerData.showMarkers",
+             QStringLiteral("the logo and the texts lie over the markers of %1 of %2 cabinets")
+                 .arg(covered)
+                 .arg(markers.size()));
+}
+
 void Check::checkTextSize(const char* field, const QString& what, int requested, int fitted)
 {
     if (fitted >= readableTextSize)
@@ -377,7 +416,12 @@ void Check::checkCovering(const char* field, const QString& what, const QRect& i
 
 QStringList warnings(const TestChartToolsData& record)
 {
-    return Check(record).run();
+    return warnings(record, {});
+}
+
+QStringList warnings(const TestChartToolsData& record, const MarkerData& markers)
+{
+    return Check(record, markers).run();
 }
 
 QString pictureProblem(const TestChartToolsData& record)

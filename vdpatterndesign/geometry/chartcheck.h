@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markerdata.h"
 #include "testcharttoolsdata.h"
 #include "vdchartcore_export.h"
 
@@ -19,6 +20,9 @@ constexpr int readableTextSize = 10;
 /// Each warning names the field, its value and the reason: "publicData.boxCol: 1920 pixels / 7 cabinets leave
 /// a remainder of 2". In the order of the record's groups; none for a chart as it should be.
 VDCHARTCORE_EXPORT QStringList warnings(const TestChartToolsData& record);
+
+/// The same of a record with what its document says beside it.
+VDCHARTCORE_EXPORT QStringList warnings(const TestChartToolsData& record, const MarkerData& markers);
 
 /// Why the picture of the record's logo is not drawn: "logoData.picturePath: "logo.png" does not exist; no
 /// logo is drawn". Empty where it is, or where the record wants none.

@@ -138,12 +138,14 @@ void ChartLayers::fit()
         textLogo.fit(size);
 }
 
-ChartLayers layersOf(const TestChartToolsData& record, const ChartCaptions& captions)
+ChartLayers layersOf(const TestChartToolsData& record, const ChartCaptions& captions,
+                     const MarkerData& markers)
 {
     ChartLayers layers;
     layers.size = chartSize(record);
     layers.pattern = patternOf(record);
     layers.inLine = inLineOf(record);
+    layers.inLine.markersVisible = markers.showMarkers;
     layers.texts = textsOf(record, captions);
     if (showsTextLogo(record)) {
         layers.logo = LogoStyle::Text;

@@ -9,6 +9,8 @@
 #include "layers/textlogolayer.h"
 #include "layers/veillayer.h"
 
+#include "markerdata.h"
+
 #include <QSize>
 
 #include <vector>
@@ -49,6 +51,7 @@ struct VDCHARTCORE_EXPORT ChartLayers
 /// The layers of `record`. Of several patterns, logos or ways of labelling that are chosen the one counts
 /// that the panels would show; where none is chosen, the default one. The picture of the logo is read from
 /// its file, unless it is the one that was read last. For any thread.
-VDCHARTCORE_EXPORT ChartLayers layersOf(const TestChartToolsData& record, const ChartCaptions& captions);
+VDCHARTCORE_EXPORT ChartLayers layersOf(const TestChartToolsData& record, const ChartCaptions& captions,
+                                        const MarkerData& markers = {});
 
 } // namespace vardeno::testcharttools

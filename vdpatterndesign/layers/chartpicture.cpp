@@ -37,7 +37,13 @@ public:
 };
 
 ChartPicture::ChartPicture(const TestChartToolsData& record, const ChartCaptions& captions)
-    : d(std::make_shared<Impl>(layersOf(record, captions)))
+    : ChartPicture(record, captions, {})
+{
+}
+
+ChartPicture::ChartPicture(const TestChartToolsData& record, const ChartCaptions& captions,
+                           const MarkerData& markers)
+    : d(std::make_shared<Impl>(layersOf(record, captions, markers)))
 {
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markerdata.h"
 #include "vdchartcore_export.h"
 
 #include <QImage>
@@ -32,6 +33,7 @@ class VDCHARTCORE_EXPORT ChartPicture
 {
 public:
     explicit ChartPicture(const TestChartToolsData& record, const ChartCaptions& captions = {});
+    ChartPicture(const TestChartToolsData& record, const ChartCaptions& captions, const MarkerData& markers);
     ChartPicture(const ChartPicture& other);
     ChartPicture& operator=(const ChartPicture& other);
     ~ChartPicture();

@@ -1,11 +1,13 @@
 #include "layers/inlinelayer.h"
 
+#include "geometry/cabinetmarkers.h"
 #include "geometry/circlepair.h"
 #include "geometry/textfont.h"
 #include "layers/cabinetpainter.h"
 #include "layers/chartpen.h"
 #include "layers/largechart.h"
 #include "layers/largeshapes.h"
+#include "layers/markerpainter.h"
 
 #include <QPainter>
 
@@ -13,8 +15,8 @@ namespace vardeno::testcharttools {
 
 LayerCoverage InlineLayer::coverage() const
 {
-    return circleVisible || diagonalVisible || serialVisible ? LayerCoverage::Unknown
-                                                             : LayerCoverage::Nothing;
+    return circleVisible || diagonalVisible || serialVisible || markersVisible ? LayerCoverage::Unknown
+                                                                               : LayerCoverage::Nothing;
 }
 
 void InlineLayer::fit(const QSize& chart)
@@ -24,6 +26,8 @@ void InlineLayer::fit(const QSize& chart)
     if (serialVisible)
         workingSerialSize =
             ushort(fittedLabelSize(serialSize, textFont(), CabinetGrid{chart, rows, columns}));
+    if (markersVisible)
+        labelHeight = serialVisible ? labelLineHeight(workingSerialSize) : 0;
 }
 
 void InlineLayer::draw(QPainter& painter, const QSize& chart, const QRect& area) const
@@ -34,6 +38,8 @@ void InlineLayer::draw(QPainter& painter, const QSize& chart, const QRect& area)
         drawCircles(painter, chart, area);
     if (serialVisible)
         drawCabinetLabels(painter, {chart, rows, columns}, serial, workingSerialSize, serialColor, area);
+    if (markersVisible)
+        drawMarkers(painter, chart, area);
 }
 
 void InlineLayer::drawDiagonals(QPainter& painter, const QSize& chart, const QRect& area) const
@@ -63,6 +69,19 @@ void InlineLayer::drawCircles(QPainter& painter, const QSize& chart, const QRect
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawEllipse(first);
     painter.drawEllipse(second);
+}
+
+void InlineLayer::drawMarkers(QPainter& painter, const QSize& chart, const QRect& area) const
+{
+    const CabinetGrid grid = {chart, rows, columns};
+    const LabelRoom labels = {labelHeight, int(serial.position)};
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const QRect cell = grid.cell(row, column);
+            if (cell.intersects(area))
+                drawMarker(painter, markerOf(row * columns + column), markerSquare(cell, labels), area);
+        }
+    }
 }
 
 } // namespace vardeno::testcharttools

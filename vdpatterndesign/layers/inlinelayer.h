@@ -7,8 +7,8 @@
 
 namespace vardeno::testcharttools {
 
-/// The diagonals of the whole screen, a circle against each of two opposite edges, and a label in every
-/// cabinet.
+/// The diagonals of the whole screen, a circle against each of two opposite edges, and in every cabinet a
+/// label and a coded marker.
 class VDCHARTCORE_EXPORT InlineLayer : public ChartLayer
 {
 public:
@@ -31,13 +31,16 @@ public:
     ushort serialSize = 15; ///< font pixels, fewer where cabinets are small
     QColor serialColor = Qt::black;
     LabelStyle serial;
+    bool markersVisible = false; ///< beside the labels, where cabinets have room for them
 
     ushort effectiveDiameter = 0;  ///< found by `fit`, and so is
     ushort workingSerialSize = 15; ///< this; each while what it is for is visible
+    int labelHeight = 0;           ///< of a line, while markers are visible; 0 without labels
 
 private:
     void drawDiagonals(QPainter& painter, const QSize& chart, const QRect& area) const;
     void drawCircles(QPainter& painter, const QSize& chart, const QRect& area) const;
+    void drawMarkers(QPainter& painter, const QSize& chart, const QRect& area) const;
 };
 
 } // namespace vardeno::testcharttools

@@ -132,11 +132,33 @@ TestChartToolsData storedRecord(TestChartToolsData record, const QString& folder
     return record;
 }
 
-QString unknownField(const QString& field)
+QString unknownField(const QString& field, const QStringList& names)
 {
-    const QString nearest = nearestName(field, recordFieldNames());
+    const QString nearest = nearestName(field, names);
     return recordvalues::elided(field) + QLatin1String(": unknown field") +
            (nearest.isEmpty() ? QString() : QStringLiteral(", did you mean %1?").arg(nearest));
+}
+
+/// Sets the one field of the table that `visit` goes through.
+template <typename Visit>
+QString assign(const QString& assignment, Visit visit)
+{
+    const int equals = assignment.indexOf(QLatin1Char('='));
+    const QString field = assignment.left(equals).trimmed();
+    if (equals < 0)
+        return recordvalues::elided(field) + QLatin1String(": \"=\" and a value expected");
+    if (assignment.size() > largestDocument)
+        return recordvalues::elided(field) + QLatin1String(": ") + tooLarge(assignment.size());
+
+    Setter setter(field, assignment.mid(equals + 1));
+    visit(setter);
+    if (!setter.found) {
+        fieldvisitors::FieldNames names;
+        visit(names);
+        return unknownField(field, names.full);
+    }
+    return setter.reasons.isEmpty() ? QString()
+                                    : field + QLatin1String(": ") + setter.reasons.join(QLatin1String("; "));
 }
 
 } // namespace
@@ -148,6 +170,24 @@ QByteArray toJson(const TestChartToolsData& record, const QJsonObject& original)
     return jsonText(writer.document, recordOrder());
 }
 
+QJsonObject withMarkers(QJsonObject document, const MarkerData& markers)
+{
+    if (markers == markersOf(document))
+        return document;
+    fieldvisitors::DocumentWriter writer(document);
+    recordfields::visitMarkers(writer, markers);
+    return writer.document;
+}
+
+MarkerData markersOf(const QJsonObject& document)
+{
+    MarkerData markers;
+    QStringList problems;
+    fieldvisitors::DocumentReader reader(document, problems);
+    recordfields::visitMarkers(reader, markers);
+    return markers;
+}
+
 Reading fromJson(const QByteArray& json, const QString& folder)
 {
     const ParsedDocument parsed = parsedDocument(json, recordKind);
@@ -157,6 +197,8 @@ Reading fromJson(const QByteArray& json, const QString& folder)
     Reading reading = {TestChartToolsData(), schemaProblems(root), root, unknownMembers(root)};
     fieldvisitors::DocumentReader reader(root, reading.problems);
     recordfields::visit(reader, reading.record);
+    MarkerData markers;
+    recordfields::visitMarkers(reader, markers);
     std::string& picture = reading.record.logoData.picturePath;
     if (!folder.isEmpty() && isRelativePath(QString::fromStdString(picture)))
         picture = absolutePath(QString::fromStdString(picture), folder).toStdString();
@@ -180,19 +222,15 @@ QString write(const QString& path, const TestChartToolsData& record, const QJson
 
 QString setField(TestChartToolsData& record, const QString& assignment)
 {
-    const int equals = assignment.indexOf(QLatin1Char('='));
-    const QString field = assignment.left(equals).trimmed();
-    if (equals < 0)
-        return recordvalues::elided(field) + QLatin1String(": \"=\" and a value expected");
-    if (assignment.size() > largestDocument)
-        return recordvalues::elided(field) + QLatin1String(": ") + tooLarge(assignment.size());
+    return assign(assignment, [&record](auto& visitor) { recordfields::visit(visitor, record); });
+}
 
-    Setter setter(field, assignment.mid(equals + 1));
-    recordfields::visit(setter, record);
-    if (!setter.found)
-        return unknownField(field);
-    return setter.reasons.isEmpty() ? QString()
-                                    : field + QLatin1String(": ") + setter.reasons.join(QLatin1String("; "));
+QString setField(TestChartToolsData& record, MarkerData& markers, const QString& assignment)
+{
+    return assign(assignment, [&](auto& visitor) {
+        recordfields::visit(visitor, record);
+        recordfields::visitMarkers(visitor, markers);
+    });
 }
 
 QByteArray schema()

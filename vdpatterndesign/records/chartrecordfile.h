@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markerdata.h"
 #include "testcharttoolsdata.h"
 #include "vdchartcore_export.h"
 
@@ -20,17 +21,23 @@ struct Reading
     /// What is wrong with the document, each with its field: "publicData.boxRow: 5000 is not in 1..1000".
     /// Where there are problems the record is not to be used.
     QStringList problems;
-    /// The document as it was read, with what is unknown here: for `write`. Empty where it was no JSON
-    /// object.
+    /// The document as it was read, with what is unknown here: for `write`, and for `markersOf`. Empty where
+    /// it was no JSON object.
     QJsonObject document;
     /// What of the document is unknown here, each with the name that may have been meant:
     /// "publicData.boxrow: unknown member, did you mean publicData.boxRow?". It is no problem, and is kept.
     QStringList unknown;
 };
 
-/// What `original` has besides the known fields, in the document and in its groups, is kept, and so is its
-/// "$schema".
+/// What `original` has besides the record's fields, in the document and in its groups, is kept: its markers,
+/// what is unknown here, and its "$schema".
 VDCHARTCORE_EXPORT QByteArray toJson(const TestChartToolsData& record, const QJsonObject& original = {});
+
+/// `document` with these markers; one that says nothing of them stays as it is where there are none.
+VDCHARTCORE_EXPORT QJsonObject withMarkers(QJsonObject document, const MarkerData& markers);
+
+/// What `document` says of markers; that there are none where it says nothing, or nothing sensible.
+VDCHARTCORE_EXPORT MarkerData markersOf(const QJsonObject& document);
 
 /// A missing field takes its default; a value of the wrong type or outside its range, a member that stands
 /// twice and a document of more than 1 MiB are problems, never converted or cut in silence. A relative
@@ -53,6 +60,10 @@ VDCHARTCORE_EXPORT QString write(const QString& path, const TestChartToolsData& 
 /// stays as it is. Returns an empty text, or what is wrong in the words of the reader; then the record is as
 /// it was.
 VDCHARTCORE_EXPORT QString setField(TestChartToolsData& record, const QString& assignment);
+
+/// The same, also of what documents hold beside the record: "markerData.showMarkers=true".
+VDCHARTCORE_EXPORT QString setField(TestChartToolsData& record, MarkerData& markers,
+                                    const QString& assignment);
 
 /// The JSON Schema of the documents: what stands in `docs/chart-record.schema.json`.
 VDCHARTCORE_EXPORT QByteArray schema();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markerdata.h"
 #include "testcharttoolsdata.h"
 
 namespace vardeno::testcharttools::recordfields {
@@ -101,6 +102,14 @@ void visit(Visitor& visitor, Data& record)
             visitor.field("resolutionTextSize", data.resolutionTextSize, Range{1, 200}, "font pixels");
             visitor.field("resolutionTextColor", data.resolutionTextColor, "the resolution");
         });
+}
+
+/// The same of what documents hold beside the record. A document without it is one without markers.
+template <typename Visitor, typename Data>
+void visitMarkers(Visitor& visitor, Data& data)
+{
+    visitor.group("markerData", "what photographs of the wall are read by",
+                  [&] { visitor.field("showMarkers", data.showMarkers, "a coded marker in every cabinet"); });
 }
 
 } // namespace vardeno::testcharttools::recordfields

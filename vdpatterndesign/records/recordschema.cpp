@@ -20,6 +20,8 @@ fieldvisitors::FieldNames collectedNames()
     fieldvisitors::FieldNames names;
     const TestChartToolsData record;
     recordfields::visit(names, record);
+    const MarkerData markers;
+    recordfields::visitMarkers(names, markers);
     return names;
 }
 
@@ -30,6 +32,8 @@ QJsonObject recordSchema()
     fieldvisitors::DocumentSchema writer;
     const TestChartToolsData record;
     recordfields::visit(writer, record);
+    const MarkerData markers;
+    recordfields::visitMarkers(writer, markers);
     QJsonObject members = writer.groups;
     members.insert(QStringLiteral("$schema"), QJsonObject{{QStringLiteral("type"), text("string")}});
     members.insert(QStringLiteral("format"), QJsonObject{{QStringLiteral("const"), text(recordKind.format)}});

@@ -19,7 +19,7 @@ QStringList recordSchemaOrder();
 /// the groups and their fields.
 QStringList recordOrder();
 
-/// The fields: "basicData.colorStripeColors" and the others.
+/// The fields: "basicData.colorStripeColors" and the others, also those beside the record.
 QStringList recordFieldNames();
 
 } // namespace vardeno::testcharttools

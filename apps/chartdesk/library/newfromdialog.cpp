@@ -96,7 +96,7 @@ NewFromDialog::NewFromDialog(QWidget* parent)
     auto* standard = new QListWidgetItem(hostText(QStringLiteral("Standard")), m_pictures);
     standard->setData(Qt::UserRole, QString());
     for (const Preset& preset : presets()) {
-        if (preset.isWall())
+        if (preset.isWall() || preset.markers.showMarkers) // which the editor does not show
             continue;
         auto* item = new QListWidgetItem(titleOf(preset), m_pictures);
         item->setData(Qt::UserRole, preset.name);
