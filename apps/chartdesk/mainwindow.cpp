@@ -24,6 +24,7 @@
 #include "thememenu.h"
 #include "undobar.h"
 
+#include <chartpreview.h>
 #include <translatemanager1.h>
 
 #include <QCloseEvent>
@@ -369,6 +370,7 @@ void MainWindow::editSelectedChart()
 
 void MainWindow::openEditor()
 {
+    m_editor->preview()->fitToView(); // not as the last chart was looked at
     m_pages->setCurrentIndex(EditorPage);
     updateActions();
 }

@@ -14,6 +14,7 @@
 #include "showdialog.h"
 #include "testcase.h"
 
+#include <chartpreview.h>
 #include <vdpatterndesign_version.h>
 
 #include <QAbstractSpinBox>
@@ -84,6 +85,18 @@ private Q_SLOTS:
         QVERIFY(settle(*m_window));
         QVERIFY2(shortcomingsOf(*m_window).isEmpty(),
                  qPrintable(shortcomingsOf(*m_window).join(QLatin1Char('\n'))));
+        m_window->session()->end();
+    }
+
+    void anEditBeginsWithAllOfTheChart()
+    {
+        const auto* preview = m_window->editor()->preview();
+        QVERIFY(trigger(*m_window, QStringLiteral("New chart")) && settle(*m_window));
+        m_window->editor()->preview()->zoomIn();
+        QVERIFY(!preview->isFitted());
+        m_window->session()->end();
+        QVERIFY(trigger(*m_window, QStringLiteral("New chart")) && settle(*m_window));
+        QVERIFY(preview->isFitted());
         m_window->session()->end();
     }
 

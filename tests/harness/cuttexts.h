@@ -20,7 +20,7 @@ inline int widthOf(const QWidget& widget, const QString& text)
 
 inline bool isCut(const QLabel& label)
 {
-    if (label.text().isEmpty() || label.textFormat() == Qt::RichText)
+    if (label.text().isEmpty() || label.textFormat() == Qt::RichText || Qt::mightBeRichText(label.text()))
         return false;
     if (label.wordWrap())
         return label.heightForWidth(label.width()) > label.height();
