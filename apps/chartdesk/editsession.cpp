@@ -139,8 +139,11 @@ void EditSession::fitToWall()
     fitted.basicData = record.basicData;
     if (ChartRecordFile::toJson(fitted) == ChartRecordFile::toJson(record))
         return;
+    const bool isTheUsers = isChanged(); // not where the chart of a wall has just been opened
     m_editor->amendRecord(fitted);
     m_fresh = m_editor->getTestChartToolsData();
+    if (!isTheUsers)
+        m_unchanged = current();
 }
 
 QStringList EditSession::edit(const QString& folder, const QString& imagePath)

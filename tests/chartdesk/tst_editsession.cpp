@@ -1,3 +1,4 @@
+#include "deskwalls.h"
 #include "edittestcase.h"
 
 using namespace vardeno::testcharttools;
@@ -50,6 +51,24 @@ private Q_SLOTS:
         QVERIFY(isSaving); // the picture was written, and the chart was still on its way
         QTRY_VERIFY(isEnded());
         QVERIFY(!m_window->session()->isSaving());
+    }
+
+    /// As the window of a wall opens it: fitted to the wall, which is nobody's change.
+    void theChartOfAWallIsUnchangedAtFirst()
+    {
+        openDesk();
+        TestChartToolsData wall;
+        wall.publicData.resolutionWidth = 1920;
+        wall.publicData.resolutionHeight = 1152;
+        wall.publicData.boxCol = 15;
+        wall.publicData.boxRow = 9;
+        Q_EMIT m_window->findChild<DeskWalls*>()->chartWanted(wall);
+        QVERIFY(settle(*m_window));
+        QTRY_COMPARE(m_window->editor()->getTestChartToolsData().inLineData.circleSize, 576);
+        QVERIFY(!m_window->session()->isChanged());
+        QVERIFY(setRows(*m_window, 4));
+        QVERIFY(m_window->session()->isChanged());
+        m_window->session()->end();
     }
 
     void anEditThatEndsOnTheWayIsSaved()
