@@ -728,6 +728,10 @@
         <translation>Dieses Foto hat zu viele Pixel.</translation>
     </message>
     <message>
+        <source>%1: its texts are too long.</source>
+        <translation>%1: Die Texte darin sind zu lang.</translation>
+    </message>
+    <message>
         <source>This program was built without OpenCV, which reads photos.</source>
         <translation>Dieses Programm wurde ohne OpenCV gebaut, das Fotos liest.</translation>
     </message>

@@ -728,6 +728,10 @@
         <translation>This photo has too many pixels.</translation>
     </message>
     <message>
+        <source>%1: its texts are too long.</source>
+        <translation>%1: its texts are too long.</translation>
+    </message>
+    <message>
         <source>This program was built without OpenCV, which reads photos.</source>
         <translation>This program was built without OpenCV, which reads photos.</translation>
     </message>

@@ -728,6 +728,10 @@
         <translation>Esta foto tiene demasiados píxeles.</translation>
     </message>
     <message>
+        <source>%1: its texts are too long.</source>
+        <translation>%1: sus textos son demasiado largos.</translation>
+    </message>
+    <message>
         <source>This program was built without OpenCV, which reads photos.</source>
         <translation>Este programa se compiló sin OpenCV, que lee las fotos.</translation>
     </message>

@@ -728,6 +728,10 @@
         <translation>この写真はピクセル数が多すぎます。</translation>
     </message>
     <message>
+        <source>%1: its texts are too long.</source>
+        <translation>%1：中のテキストが長すぎます。</translation>
+    </message>
+    <message>
         <source>This program was built without OpenCV, which reads photos.</source>
         <translation>このプログラムは写真の読み取りに必要な OpenCV なしでビルドされています。</translation>
     </message>

@@ -728,6 +728,10 @@
         <translation>这张照片的像素过多。</translation>
     </message>
     <message>
+        <source>%1: its texts are too long.</source>
+        <translation>%1：其中的文字过长。</translation>
+    </message>
+    <message>
         <source>This program was built without OpenCV, which reads photos.</source>
         <translation>此程序构建时未包含读取照片所需的 OpenCV。</translation>
     </message>

@@ -10,6 +10,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcTranslate, "vardeno.translate", QtWarningMsg)
 
+constexpr qint64 mostBytes = 4LL * 1024 * 1024; ///< of a file; the largest of a chart's has a fiftieth
+
 QString normalised(const QString& language)
 {
     return QString(language).replace(QLatin1Char('-'), QLatin1Char('_'));
@@ -123,7 +125,11 @@ bool Translator::load(const QString& file)
 {
     QFile device(file);
     TsReader reader(&device);
-    const QString problem = device.open(QIODevice::ReadOnly) ? reader.read() : device.errorString();
+    QString problem = device.open(QIODevice::ReadOnly) ? QString() : device.errorString();
+    if (problem.isEmpty() && device.size() > mostBytes)
+        problem = QStringLiteral("%1 bytes are more than %2").arg(device.size()).arg(mostBytes);
+    if (problem.isEmpty())
+        problem = reader.read();
     if (!problem.isEmpty()) {
         qCWarning(lcTranslate).noquote() << file << "is not read:" << problem;
         return false;

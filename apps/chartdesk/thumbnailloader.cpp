@@ -6,6 +6,8 @@
 #include "walldocuments.h"
 
 #include <chartrecordfile.h>
+#include <picturehead.h>
+#include <pngtexts.h>
 
 #include <QBuffer>
 #include <QFile>
@@ -36,8 +38,10 @@ QImage scaled(QIODevice* file, const QString& path, const QSize& size)
 {
     QImage canvas(size, QImage::Format_RGB32);
     canvas.fill(Qt::black);
+    if (vardeno::testcharttools::hasTooMuchText(*file))
+        return canvas;
     QImageReader reader(file);
-    const QSize whole = reader.size();
+    const QSize whole = vardeno::testcharttools::toldSize(reader);
     const QSize fitted = whole.scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
     const bool isLarge = qint64(whole.width()) * whole.height() > mostPixels;
     reader.setScaledSize(fitted);

@@ -1,8 +1,13 @@
 #include "carriedchart.h"
 
+#include "exitcode.h"
+#include "recordinput.h"
+
 #include <chartrecordfile.h>
+#include <pngtexts.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QJsonDocument>
@@ -144,8 +149,18 @@ QString output(const Texts& texts)
     return texts(QLatin1String(outputKeyword));
 }
 
+void requireLittleText(QIODevice& picture, const QString& path)
+{
+    if (hasTooMuchText(picture))
+        throw Failure{ExitCode::Unreadable, QStringLiteral("%1: its texts have more than %2 bytes")
+                                                .arg(inputName(path), QString::number(mostPngText))};
+}
+
 Texts textsOf(const QString& path)
 {
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        requireLittleText(file, path);
     const auto reader = std::make_shared<QImageReader>(path, "png");
     return [reader](const QString& keyword) { return reader->text(keyword); };
 }

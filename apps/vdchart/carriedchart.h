@@ -30,8 +30,11 @@ QString language(const Texts& texts);
 /// The name of a show's output; empty for other charts.
 QString output(const Texts& texts);
 
-/// Of the PNG file `path`, without its pixels.
+/// Of the PNG file `path`, without its pixels. Throws Failure.
 Texts textsOf(const QString& path);
+/// Throws Failure where the picture has more text than is read. Before its texts are asked for.
+void requireLittleText(QIODevice& picture, const QString& path);
+
 /// By its first bytes; false for the standard input.
 bool isPng(const QString& path);
 

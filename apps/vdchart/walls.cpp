@@ -18,18 +18,26 @@ namespace {
 
 using Table = std::vector<QStringList>;
 
+// Each row is a picture of some megabytes; a record has fewer fields.
+constexpr std::size_t mostRows = 10000;
+constexpr int mostColumns = 1000;
+
 /// Collects what libcsv reads. Its functions are called from C, whose frames let no exception through.
 struct Collector
 {
     Table table;
     QStringList row;
     bool isOutOfMemory = false;
+    bool isTooLong = false; ///< a row, or the table
+
+    bool isFull() const { return isOutOfMemory || isTooLong; }
 
     template <typename Step>
     void take(Step step) noexcept
     {
         try {
-            step();
+            if (!isFull()) // the rest is not kept
+                step();
         } catch (const std::bad_alloc&) {
             isOutOfMemory = true;
         }
@@ -41,12 +49,14 @@ void addCell(void* bytes, std::size_t count, void* data)
     auto& collector = *static_cast<Collector*>(data);
     collector.take(
         [&] { collector.row.append(QString::fromUtf8(static_cast<const char*>(bytes), int(count))); });
+    collector.isTooLong |= collector.row.size() > mostColumns;
 }
 
 void addRow(int, void* data)
 {
     auto& collector = *static_cast<Collector*>(data);
     collector.take([&] { collector.table.push_back(collector.row); });
+    collector.isTooLong |= collector.table.size() > mostRows;
     collector.row.clear();
 }
 
@@ -76,6 +86,10 @@ Table parsed(const QByteArray& csv, const QString& source)
     csv_free(&parser);
     if (collector.isOutOfMemory)
         throw std::bad_alloc();
+    if (collector.isTooLong)
+        throw Failure{ExitCode::Unreadable,
+                      QStringLiteral("%1: more than %2 rows, or %3 cells in one")
+                          .arg(source, QString::number(mostRows), QString::number(mostColumns))};
     if (!read)
         throw Failure{ExitCode::Unreadable,
                       QStringLiteral("%1: row %2: a quotation mark has no end, or stands in a cell without "
@@ -136,11 +150,14 @@ Wall wallOf(const QStringList& row, const QStringList& columns, std::size_t numb
 void requireUtf8(const QByteArray& csv, const QString& source)
 {
     int number = 0;
-    for (const QByteArray& line : csv.split('\n')) {
-        ++number;
+    for (int begin = 0; begin < csv.size(); ++number) { // a list of all lines can be larger than the table
+        const int end = csv.indexOf('\n', begin);
+        const QByteArray line = csv.mid(begin, end < 0 ? -1 : end - begin);
+        begin = end < 0 ? csv.size() : end + 1;
         if (!vardeno::testcharttools::isUtf8(line) || line.contains('\0'))
-            throw Failure{ExitCode::Unreadable,
-                          QStringLiteral("%1: line %2: not UTF-8 text").arg(source, QString::number(number))};
+            throw Failure{
+                ExitCode::Unreadable,
+                QStringLiteral("%1: line %2: not UTF-8 text").arg(source, QString::number(number + 1))};
     }
 }
 

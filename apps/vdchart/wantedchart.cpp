@@ -6,6 +6,8 @@
 #include "languages.h"
 #include "recordinput.h"
 
+#include <picturehead.h>
+
 #include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
@@ -55,10 +57,11 @@ QImage readPicture(const QString& path, qint64 pixelLimit)
     QByteArray bytes = readInput(path, fileLimit);
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
+    CarriedChart::requireLittleText(buffer, path);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
+    const QSize size = toldSize(reader);
     if (qint64(size.width()) * size.height() > pixelLimit)
         throw Failure{ExitCode::Unreadable, QStringLiteral("%1: %2 x %3 pixels are too many")
                                                 .arg(inputName(path), QString::number(size.width()),

@@ -78,6 +78,15 @@ QByteArray bmpClaiming(qint32 width, qint32 height)
     return bmp;
 }
 
+/// A GIF picture of one frame on a larger screen, all of which is decoded.
+QByteArray gifOnScreen(quint16 width, quint16 height)
+{
+    QByteArray gif("GIF89a\0\0\0\0\x80\0\0\0\0\xff\0\0\0,\0\0\0\0\4\0\4\0\0\2\4\x84\x8f\x09\5\0;", 36);
+    qToLittleEndian(width, gif.data() + 6);
+    qToLittleEndian(height, gif.data() + 8);
+    return gif;
+}
+
 void store(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
@@ -257,6 +266,10 @@ private Q_SLOTS:
         QTest::newRow("BMP, rows from the top, that claims 10000 x 10000")
             << bmpClaiming(10000, -10000) << tooLarge;
         QTest::newRow("BMP that claims 10000 x 10000") << bmpClaiming(10000, 10000) << tooLarge;
+        QTest::newRow("GIF") << gifOnScreen(4, 4) << readable;
+        QTest::newRow("GIF on a wide screen") << gifOnScreen(4000, 4) << tooLarge;
+        QTest::newRow("GIF on a high screen") << gifOnScreen(4, 20000) << tooLarge;
+        QTest::newRow("GIF, cut off in its head") << gifOnScreen(4, 4).left(9) << unreadable;
         QTest::newRow("PNG that claims 60000 x 60000") << pngClaiming(60000, 60000) << tooLarge;
         QTest::newRow("PNG that claims 3840 x 3840") << pngClaiming(3840, 3840) << readable;
         QTest::newRow("PNG of no pixels") << pngClaiming(0, 0) << unreadable;

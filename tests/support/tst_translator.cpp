@@ -426,6 +426,18 @@ private Q_SLOTS:
         QVERIFY2(elapsed.elapsed() < 10000, qPrintable(QString::number(elapsed.elapsed())));
     }
 
+    void hugeFilesAreRefused()
+    {
+        const QString path = file("huge.ts", chineseFile());
+        QFile huge(path);
+        QVERIFY(huge.resize(100LL * 1000 * 1000)); // which takes no room
+        verifyRefused(path);
+        QCOMPARE(log()
+                     .messages(path + QLatin1String(" is not read: 100000000 bytes are more than 4194304"))
+                     .size(),
+                 1);
+    }
+
     void damagedFilesNeverHarm()
     {
         const QByteArray original = chineseFile();

@@ -114,6 +114,29 @@ private Q_SLOTS:
         QVERIFY2(told.endsWith(QLatin1String("picker 1\n")), qPrintable(told));
     }
 
+    void hugeFilesAreNotRead_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("theme") << "/default.testcharttoolstheme";
+        QTest::newRow("sheet") << "/sheet.qss";
+    }
+
+    /// Which take no room on the disk, but would in memory.
+    void hugeFilesAreNotRead()
+    {
+        QFETCH(QString, name);
+        QVERIFY(writeFile(themeFolder() + QLatin1String("/default.testcharttoolstheme"), "[General]\n"));
+        QVERIFY(writeFile(themeFolder() + name, "/* Huge */\n"));
+        QVERIFY(QFile::resize(themeFolder() + name, 100LL * 1000 * 1000));
+        const QString told = report();
+        QVERIFY2(told.contains(QLatin1String("\nsheet /* The look of")), qPrintable(told));
+        QCOMPARE(told.startsWith(QLatin1String("name LmTestChartTools\n")),
+                 name != QLatin1String("/sheet.qss"));
+        QVERIFY2(m_complaints.contains(name +
+                                       QLatin1String(" is not read: 100000000 bytes are more than 1048576")),
+                 qPrintable(m_complaints));
+    }
+
     void theCompiledInThemeWarnsOfNothing()
     {
         report();

@@ -1,3 +1,4 @@
+#include "pngbomb.h"
 #include "programtest.h"
 
 #include <vdpatterndesign_version.h>
@@ -694,12 +695,43 @@ private Q_SLOTS:
     }
 
     /// A file of a few bytes that says it has more pixels than the memory.
-    void hugePicture()
+    /// Small files which would fill the memory.
+    void hugePictures_data()
     {
-        write(QStringLiteral("huge.ppm"), "P6 30000 30000 255\n");
-        const Outcome outcome = run({"verify", "huge.ppm", "small.json"});
-        QCOMPARE(outcome.code, 3);
-        QVERIFY2(outcome.errors.contains("30000 x 30000 pixels are too many"), qPrintable(outcome.errors));
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason");
+        QByteArray bmp("BM\0\0\0\0\0\0\0\0\66\0\0\0\50\0\0\0", 18);
+        bmp += QByteArray::fromHex("e02e0000"
+                                   "20d1ffff"
+                                   "0100"
+                                   "1800"); // 12000 x -12000, 24 bits
+        bmp += QByteArray(200, '\0');
+        QByteArray gif("GIF89a\x20\x4e\x20\x4e\x80\0\0\0\0\xff\0\0\0", 19); // 20000 x 20000
+        gif += QByteArray(",\0\0\0\0\4\0\4\0\0\2\4\x84\x8f\x09\5\0;", 18);
+        QTest::newRow("PPM") << QByteArray("P6 30000 30000 255\n") << "30000 x 30000 pixels are too many";
+        QTest::newRow("BMP, rows from the top") << bmp << "12000 x 12000 pixels are too many";
+        QTest::newRow("GIF of a large screen") << gif << "20000 x 20000 pixels are too many";
+        QTest::newRow("PNG full of text") << pngBomb() << "its texts have more than 8388608 bytes";
+    }
+
+    void hugePictures()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        write(QStringLiteral("huge.png"), bytes);
+        const Outcome verify = run({"verify", "huge.png", "small.json"});
+        QCOMPARE(verify.errors, "vdchart: huge.png: " + reason + "\n");
+        QCOMPARE(verify.code, 3);
+    }
+
+    /// Nor is a record looked for in them.
+    void aPictureFullOfTextIsNoRecord()
+    {
+        write(QStringLiteral("bomb.png"), pngBomb());
+        const Outcome render = run({"render", "bomb.png", "-o", "out.png"});
+        QCOMPARE(render.errors,
+                 QStringLiteral("vdchart: bomb.png: its texts have more than 8388608 bytes\n"));
+        QCOMPARE(render.code, 3);
     }
 
     void documentedCommands_data()

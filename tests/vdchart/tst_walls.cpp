@@ -103,6 +103,51 @@ private Q_SLOTS:
                "quotation marks around it";
     }
 
+    /// Of which each would be a picture, and all of them gigabytes.
+    void tooLong_data()
+    {
+        QTest::addColumn<QByteArray>("csv");
+        QTest::addColumn<bool>("tooLong");
+        QTest::newRow("many rows") << "name\n" + QByteArray("a\n").repeated(9999) << false;
+        QTest::newRow("too many rows") << "name\n" + QByteArray("a\n").repeated(10000) << true;
+        QTest::newRow("too many cells") << QByteArray("name" + QByteArray(",x").repeated(1000)) << true;
+    }
+
+    void tooLong()
+    {
+        QFETCH(QByteArray, csv);
+        QFETCH(bool, tooLong);
+        QString message;
+        try {
+            readWalls(csv, QStringLiteral("walls.csv"));
+        } catch (const Failure& failure) {
+            message = failure.message;
+        }
+        QCOMPARE(message, tooLong ? QStringLiteral("walls.csv: more than 10000 rows, or 1000 cells in one")
+                                  : QString());
+    }
+
+    void notUtf8_data()
+    {
+        QTest::addColumn<QByteArray>("csv");
+        QTest::addColumn<int>("line");
+        QTest::newRow("the first line") << QByteArray("\xff\nname\n") << 1;
+        QTest::newRow("the last, which has no end") << QByteArray("name\n\nb\xff") << 3;
+        QTest::newRow("a zero byte") << QByteArray("name\na\0\n", 8) << 2;
+    }
+
+    void notUtf8()
+    {
+        QFETCH(QByteArray, csv);
+        QFETCH(int, line);
+        try {
+            readWalls(csv, QStringLiteral("walls.csv"));
+            QFAIL("it was read");
+        } catch (const Failure& failure) {
+            QCOMPARE(failure.message, QStringLiteral("walls.csv: line %1: not UTF-8 text").arg(line));
+        }
+    }
+
     void refused()
     {
         QFETCH(QByteArray, csv);

@@ -9,7 +9,6 @@
 #include "testcharttoolsdata.h"
 
 #include <QFontMetrics>
-#include <QImageReader>
 
 #include <algorithm>
 #include <cstdlib>
@@ -64,9 +63,9 @@ QRect pictureLogoInk(const TestChartToolsData& record)
     const QString path = logoPicture(record);
     if (examinePicture(path) != PictureFile::Readable)
         return QRect();
-    const QSize whole = QImageReader(path).size();
+    const QSize whole = pictureSize(path);
     const auto scale = float(record.logoData.scale * 0.01);
-    const QSize scaled = scaledPicture({whole.width(), std::abs(whole.height())}, scale);
+    const QSize scaled = scaledPicture(whole, scale);
     const QSize chart = chartSize(record);
     const LogoPlacement placement =
         placedPicture(chart, scaled, record.logoData.displayPosition, logoAdjustment(record.logoData));

@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QFileDialog>
-#include <QImageReader>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSettings>
@@ -164,8 +163,7 @@ void PaintPicLogoWidget::refuse(const QString& path)
     if (!d->hostTellsRefusals && examinePicture(path) != PictureFile::TooLarge)
         QMessageBox::information(this, QStringLiteral("result"), QStringLiteral("Error"), QMessageBox::Ok);
     if (alive)
-        Q_EMIT sigLogoRefused(path, refusal(path), QImageReader(path).size(),
-                              QSize(largestPicture, largestPicture));
+        Q_EMIT sigLogoRefused(path, refusal(path), pictureSize(path), QSize(largestPicture, largestPicture));
 }
 
 bool PaintPicLogoWidget::hostTellsRefusals() const

@@ -1,12 +1,14 @@
 #include "support/imagefile.h"
 
+#include "support/picturehead.h"
+#include "support/pngtexts.h"
+
 #include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QSaveFile>
 
 #include <cerrno>
-#include <cstdlib>
 
 namespace vardeno::testcharttools {
 
@@ -37,21 +39,26 @@ bool writeBytesWhole(const QByteArray& bytes, const QString& path, WriteFault* f
     return written;
 }
 
+QSize pictureSize(const QString& path)
+{
+    if (!QFileInfo(path).isFile() || hasTooMuchText(path)) // a pipe keeps its reader waiting
+        return {};
+    QImageReader reader(path);
+    return toldSize(reader);
+}
+
 PictureFile examinePicture(const QString& path)
 {
-    if (!QFileInfo(path).isFile()) // a pipe keeps its reader waiting
+    const QSize size = pictureSize(path);
+    if (size.isEmpty())
         return PictureFile::Unreadable;
-    const QSize size = QImageReader(path).size();
-    const int height = std::abs(size.height()); // below 0 where a BMP file has its rows from the top
-    if (size == QSize() || size.width() <= 0 || height == 0)
-        return PictureFile::Unreadable;
-    const bool small = size.width() <= largestPicture && height <= largestPicture;
+    const bool small = size.width() <= largestPicture && size.height() <= largestPicture;
     return small ? PictureFile::Readable : PictureFile::TooLarge;
 }
 
 QImage readPicture(const QString& path)
 {
-    if (examinePicture(path) == PictureFile::TooLarge)
+    if (hasTooMuchText(path) || examinePicture(path) == PictureFile::TooLarge)
         return {};
     QImageReader reader(path);
     reader.setAutoTransform(true);

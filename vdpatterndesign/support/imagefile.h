@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QImage>
+#include <QSize>
 #include <QString>
 
 namespace vardeno::testcharttools {
@@ -21,6 +22,10 @@ VDCHARTCORE_EXPORT bool writeBytesWhole(const QByteArray& bytes, const QString& 
 
 /// The longest side of a picture that is read, in pixels.
 constexpr int largestPicture = 3840;
+
+/// What the header of a picture file says; invalid for a file that is none, that has more text than is read
+/// (`mostPngText`), or of a format that does not tell.
+VDCHARTCORE_EXPORT QSize pictureSize(const QString& path);
 
 /// Whether the file is a picture of at most `largestPicture` in each direction, from its header alone.
 enum class PictureFile

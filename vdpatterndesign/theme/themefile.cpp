@@ -36,12 +36,24 @@ private:
     const bool m_before;
 };
 
+constexpr qint64 mostBytes = 1024LL * 1024; ///< of a theme or a sheet, which have some ten thousand
+
+/// Which is told.
+bool isTooLarge(const QString& file)
+{
+    const qint64 bytes = QFileInfo(file).size();
+    if (bytes > mostBytes)
+        qCWarning(themeLog).noquote()
+            << file << "is not read:" << bytes << "bytes are more than" << mostBytes;
+    return bytes > mostBytes;
+}
+
 /// Empty where `folder` has no sheet that can be read.
 QString sheetIn(const QDir& folder)
 {
     const QStringList sheets = folder.entryList({QStringLiteral("*.qss")}, QDir::Files, QDir::Name);
     QFile file(folder.filePath(sheets.value(0)));
-    if (!sheets.isEmpty() && file.open(QIODevice::ReadOnly))
+    if (!sheets.isEmpty() && !isTooLarge(file.fileName()) && file.open(QIODevice::ReadOnly))
         return QString::fromUtf8(file.readAll());
     qCDebug(chartLog) << Q_FUNC_INFO << folder.filePath(QStringLiteral("*.qss")) << "not there!";
     return {};
@@ -55,7 +67,7 @@ QString installedThemeFile()
     const QString installed =
         QDir::cleanPath(QCoreApplication::applicationDirPath() +
                         QStringLiteral("/../share/themes/testcharttools/") + QLatin1String(themeName));
-    return QFileInfo::exists(installed)
+    return QFileInfo::exists(installed) && !isTooLarge(installed)
                ? installed
                : QLatin1String(compiledInFolder) + QLatin1Char('/') + QLatin1String(themeName);
 }
@@ -71,7 +83,7 @@ void loadTheme(const QString& file)
 
 void extendTheme(const QString& file)
 {
-    if (!QFileInfo::exists(file) || !Theme::currentTheme())
+    if (!QFileInfo::exists(file) || !Theme::currentTheme() || isTooLarge(file))
         return;
     const QuietThemeLog quiet(file.startsWith(QLatin1String(compiledInFolder)));
     QSettings settings(file, QSettings::IniFormat);

@@ -5,7 +5,7 @@
 namespace vardeno::testcharttools {
 
 /// The theme that the library's windows use: the installation's, beside the folder of the executable, or the
-/// compiled-in one where there is none.
+/// compiled-in one where there is none. A theme or a sheet of more than 1 MiB is none, which a warning tells.
 QString installedThemeFile();
 
 /// Makes a new theme with the content of `file` the current one.

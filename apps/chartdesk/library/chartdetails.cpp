@@ -4,6 +4,8 @@
 #include "walldocuments.h"
 
 #include <chartrecordfile.h>
+#include <picturehead.h>
+#include <pngtexts.h>
 
 #include <QFileInfo>
 #include <QImageReader>
@@ -14,7 +16,9 @@ ChartDetails ChartDetails::read(const QString& imagePath)
     if (WallDocuments::isDocument(imagePath))
         return WallDocuments::details(imagePath);
     ChartDetails details;
-    details.size = QImageReader(imagePath).size();
+    QImageReader reader(imagePath);
+    if (!vardeno::testcharttools::hasTooMuchText(imagePath))
+        details.size = vardeno::testcharttools::toldSize(reader);
     const QString record = ChartFolderList::recordPath(imagePath);
     if (!QFileInfo(record).isFile())
         return details;

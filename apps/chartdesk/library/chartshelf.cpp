@@ -7,6 +7,7 @@
 #include "wallshelf.h"
 
 #include <chartrecordfile.h>
+#include <pngtexts.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -151,7 +152,7 @@ QString exportTo(const QString& imagePath, const QString& target)
                                           : reading.problems.join(QLatin1Char('\n'));
     }
     QImageReader reader(imagePath);
-    const QImage picture = reader.read();
+    const QImage picture = hasTooMuchText(imagePath) ? QImage() : reader.read();
     if (picture.isNull())
         return imagePath + QLatin1String(": ") + reader.errorString();
     const bool isJpeg = QFileInfo(target).suffix().startsWith(QLatin1String("jp"), Qt::CaseInsensitive);

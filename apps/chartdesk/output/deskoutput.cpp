@@ -1,5 +1,6 @@
 #include "deskoutput.h"
 
+#include "chartdetails.h"
 #include "deskdialogs.h"
 #include "desksettings.h"
 #include "editsession.h"
@@ -11,7 +12,6 @@
 
 #include <QAction>
 #include <QFileDialog>
-#include <QImageReader>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
@@ -170,7 +170,7 @@ QString DeskOutput::chosenChart() const
 void DeskOutput::askPlace()
 {
     const QString chart = chosenChart();
-    const QSize size = m_session->isOpen() ? m_live.current().picture.size() : QImageReader(chart).size();
+    const QSize size = m_session->isOpen() ? m_live.current().picture.size() : ChartDetails::read(chart).size;
     auto* dialog = new ShowDialog(size, m_window);
     const QSettings settings = deskSettings();
     dialog->setPlace(m_output.isOn() ? m_output.display()

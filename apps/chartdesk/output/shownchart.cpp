@@ -3,6 +3,7 @@
 #include "chartfolderlist.h"
 
 #include <chartrecordfile.h>
+#include <pngtexts.h>
 
 #include <QFileInfo>
 #include <QImageReader>
@@ -22,6 +23,8 @@ ShownChart drawn(const QString& path, const ChartCaptions& captions)
 
 ShownChart readPicture(const QString& path)
 {
+    if (hasTooMuchText(path))
+        return {{}, path + QLatin1String(": its texts are too long"), {}, {}};
     QImageReader reader(path);
     reader.setAutoTransform(true);
     const QImage picture = reader.read();

@@ -4,6 +4,8 @@
 #include "shownchart.h"
 
 #include <cabinetgrid.h>
+#include <picturehead.h>
+#include <pngtexts.h>
 #include <readingpicture.h>
 
 #include <QFileInfo>
@@ -49,10 +51,13 @@ WallRead readWall(const QString& photo, const QString& chart, const ReadLanguage
     if (!wanted.record)
         return failure(
             language.texts(hostSource("This picture has no record, so its cabinets are not known.")));
+    if (hasTooMuchText(photo))
+        return failure(
+            language.texts(hostSource("%1: its texts are too long.")).arg(QFileInfo(photo).fileName()));
     QImageReader reader(photo);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
+    const QSize size = toldSize(reader);
     if (qint64(size.width()) * size.height() > mostPhotoPixels)
         return failure(language.texts(hostSource("This photo has too many pixels.")));
     const QImage picture = reader.read();
