@@ -1,11 +1,14 @@
 #include "editorlook.h"
 
+#include "themepalette.h"
+
 #include <basicsettingbox.h>
 #include <customdialog.h>
 #include <vtestcharttools.h>
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QColorDialog>
 #include <QEvent>
 #include <QPushButton>
 #include <QStyle>
@@ -15,6 +18,16 @@
 using namespace vardeno::testcharttools;
 
 namespace {
+
+const QColor editorsFiller(43, 43, 46);
+
+void replaceColors(const QColor& from, const QColor& to)
+{
+    for (int i = 0; i < QColorDialog::customCount(); ++i) {
+        if (QColorDialog::customColor(i) == from)
+            QColorDialog::setCustomColor(i, to);
+    }
+}
 
 constexpr int questionGap = 4; ///< between the question and its button
 
@@ -32,9 +45,21 @@ void arrangeButtons(const QWidget* bar)
 
 } // namespace
 
+EmptySlots::EmptySlots(const QColor& color)
+    : m_color(color)
+{
+    replaceColors(editorsFiller, m_color);
+}
+
+EmptySlots::~EmptySlots()
+{
+    replaceColors(m_color, editorsFiller);
+}
+
 EditorLook::EditorLook(VTestChartTools* editor)
     : QObject(editor)
     , m_editor(editor)
+    , m_slots(themePalette().color(QPalette::AlternateBase))
 {
     editor->setWheelScrollsPanels(true);
     editor->setLiveSliders(true);

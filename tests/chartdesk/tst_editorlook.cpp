@@ -9,6 +9,7 @@
 #include <spineditbox.h>
 #include <vtestcharttools.h>
 
+#include <QColorDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -41,6 +42,25 @@ private:
     }
 
 private Q_SLOTS:
+    void emptyColorsGoWithTheTheme()
+    {
+        QWidget window;
+        QWidget page(&window); // with both, the editor has its colour dialog
+        VTestChartTools editor(&page);
+        const QColor filler = QColorDialog::customColor(0);
+        const QColor light(226, 227, 232);
+        QVERIFY(filler != light);
+        QColorDialog::setCustomColor(3, Qt::red);
+        {
+            const EmptySlots empty(light);
+            QCOMPARE(QColorDialog::customColor(0), light);
+            QCOMPARE(QColorDialog::customColor(3), QColor(Qt::red));
+            QCOMPARE(QColorDialog::customColor(15), light);
+        }
+        QCOMPARE(QColorDialog::customColor(0), filler);
+        QCOMPARE(QColorDialog::customColor(3), QColor(Qt::red));
+    }
+
     void confirmStaysInItsPlaceAndIsTheOnlyBlueButton()
     {
         VTestChartTools editor;
