@@ -1539,5 +1539,17 @@
         <source>nothing wrong was seen</source>
         <translation>Nichts Falsches zu sehen</translation>
     </message>
+    <message>
+        <source>Whole chart</source>
+        <translation>Ganzes Testbild</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>Pixel für Pixel</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
 </context>
 </TS>

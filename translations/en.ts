@@ -1539,5 +1539,17 @@
         <source>nothing wrong was seen</source>
         <translation>Nothing wrong was seen</translation>
     </message>
+    <message>
+        <source>Whole chart</source>
+        <translation>Whole chart</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>Pixel for pixel</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
 </context>
 </TS>

@@ -1539,5 +1539,17 @@
         <source>nothing wrong was seen</source>
         <translation>No se ha visto nada erróneo</translation>
     </message>
+    <message>
+        <source>Whole chart</source>
+        <translation>Carta entera</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>Píxel a píxel</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
 </context>
 </TS>

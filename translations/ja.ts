@@ -1539,5 +1539,17 @@
         <source>nothing wrong was seen</source>
         <translation>誤りは見つかりませんでした</translation>
     </message>
+    <message>
+        <source>Whole chart</source>
+        <translation>全体を表示</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>ピクセル等倍</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>エディター</translation>
+    </message>
 </context>
 </TS>

@@ -1539,5 +1539,17 @@
         <source>nothing wrong was seen</source>
         <translation>未发现错误</translation>
     </message>
+    <message>
+        <source>Whole chart</source>
+        <translation>整张测试图</translation>
+    </message>
+    <message>
+        <source>Pixel for pixel</source>
+        <translation>逐像素</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>编辑器</translation>
+    </message>
 </context>
 </TS>

@@ -143,6 +143,9 @@ private Q_SLOTS:
         QCOMPARE(keys.value(QStringLiteral("Black")), QStringLiteral("B"));
         QCOMPARE(keys.value(QStringLiteral("Show on…")), QStringLiteral("F11"));
         QCOMPARE(keys.value(QStringLiteral("Leave the output")), QStringLiteral("Esc"));
+        QCOMPARE(keys.value(QStringLiteral("Redo")), QStringLiteral("Ctrl+Shift+Z"));
+        QCOMPARE(keys.value(QStringLiteral("Pixel for pixel")), QStringLiteral("1"));
+        QCOMPARE(tree->findItems(QStringLiteral("Output"), Qt::MatchExactly).size(), 1);
         QCOMPARE(shortcomingsOf(*tree->window()).join(QLatin1Char('\n')), QString());
     }
 

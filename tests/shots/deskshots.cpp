@@ -226,7 +226,7 @@ private:
         const auto* findings = read->findChild<QListWidget*>();
         read->open();
         shoot(QStringLiteral("reading"), *read);
-        need(QTest::qWaitFor([&] { return findings->isVisible(); }, 60000));
+        need(QTest::qWaitFor([&] { return findings->isVisible(); }, 300000));
         dialog(QStringLiteral("read"), [] {});
         dialog(
             QStringLiteral("readnothing"), [&] { openReading(m_target, chart)->open(); }, 1000);

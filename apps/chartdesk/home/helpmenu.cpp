@@ -15,11 +15,32 @@
 
 namespace {
 
+QString native(const QKeySequence& key)
+{
+    return key.toString(QKeySequence::NativeText);
+}
+
 ShortcutSheet::Keys keysOfTheOutput()
 {
     return {{hostText(QStringLiteral("Jump to a chart on the output")), QStringLiteral("1 … 9, 0")},
-            {hostText(QStringLiteral("Leave the output")),
-             QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)}};
+            {hostText(QStringLiteral("Leave the output")), native(Qt::Key_Escape)}};
+}
+
+ShortcutSheet::Keys keysOfTheEditor()
+{
+    return {{hostText(QStringLiteral("Undo")), native(Qt::CTRL | Qt::Key_Z)},
+            {hostText(QStringLiteral("Redo")), native(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+            {hostText(QStringLiteral("Zoom in")), QStringLiteral("+")},
+            {hostText(QStringLiteral("Zoom out")), QStringLiteral("−")},
+            {hostText(QStringLiteral("Whole chart")), QStringLiteral("0")},
+            {hostText(QStringLiteral("Pixel for pixel")), QStringLiteral("1")}};
+}
+
+/// Those that are no actions.
+ShortcutSheet::Groups otherKeys()
+{
+    return {{hostText(QStringLiteral("Output")), keysOfTheOutput()},
+            {hostText(QStringLiteral("Editor")), keysOfTheEditor()}};
 }
 
 } // namespace
@@ -35,7 +56,7 @@ HelpMenu::HelpMenu(const QMenuBar* menus, QWidget* window)
     m_shortcuts->setShortcut(Qt::Key_F1);
     m_manual->setShortcut(Qt::SHIFT | Qt::Key_F1);
     connect(m_shortcuts, &QAction::triggered, this,
-            [this] { (new ShortcutSheet(m_menus, keysOfTheOutput(), m_window))->open(); });
+            [this] { (new ShortcutSheet(m_menus, otherKeys(), m_window))->open(); });
     connect(m_manual, &QAction::triggered, this, [this] { (new ManualWindow(m_window))->show(); });
     connect(m_about, &QAction::triggered, this, &HelpMenu::showAbout);
 }

@@ -41,29 +41,42 @@ int heightOf(QTreeWidget* tree)
     return (rows + 1) * tree->sizeHintForRow(0);
 }
 
-void addMenuKeys(QTreeWidget* tree, const QMenu* menu)
+QList<QTreeWidgetItem*> keyItems(const ShortcutSheet::Keys& keys)
 {
-    const QList<QTreeWidgetItem*> items = keyItems(menu->actions());
+    QList<QTreeWidgetItem*> items;
+    for (const auto& [what, key] : keys)
+        items.append(new QTreeWidgetItem({what, key}));
+    return items;
+}
+
+/// A group is made at its first keys.
+void addGroup(QTreeWidget* tree, const QString& title, const QList<QTreeWidgetItem*>& items)
+{
     if (items.isEmpty())
         return;
-    auto* group = new QTreeWidgetItem({QString(menu->title()).remove(QLatin1Char('&'))});
-    QFont font = tree->font();
-    font.setBold(true);
-    group->setFont(0, font);
+    QTreeWidgetItem* group = tree->findItems(title, Qt::MatchExactly).value(0);
+    if (!group) {
+        group = new QTreeWidgetItem({title});
+        QFont font = tree->font();
+        font.setBold(true);
+        group->setFont(0, font);
+        tree->addTopLevelItem(group);
+    }
     group->addChildren(items);
-    tree->addTopLevelItem(group);
 }
 
 } // namespace
 
-ShortcutSheet::ShortcutSheet(const QMenuBar* menus, const Keys& others, QWidget* parent)
+ShortcutSheet::ShortcutSheet(const QMenuBar* menus, const Groups& others, QWidget* parent)
     : QDialog(parent)
     , m_tree(new QTreeWidget)
 {
     const QList<QAction*> all = menus->actions();
     for (const QAction* action : all)
-        addMenuKeys(m_tree, action->menu());
-    build(others);
+        addGroup(m_tree, action->text().remove(QLatin1Char('&')), keyItems(action->menu()->actions()));
+    for (const auto& [title, keys] : others)
+        addGroup(m_tree, title, keyItems(keys));
+    build();
 }
 
 ShortcutSheet::ShortcutSheet(const QList<QAction*>& actions, const Keys& others, QWidget* parent)
@@ -71,10 +84,11 @@ ShortcutSheet::ShortcutSheet(const QList<QAction*>& actions, const Keys& others,
     , m_tree(new QTreeWidget)
 {
     m_tree->addTopLevelItems(keyItems(actions));
-    build(others);
+    m_tree->addTopLevelItems(keyItems(others));
+    build();
 }
 
-void ShortcutSheet::build(const Keys& others)
+void ShortcutSheet::build()
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(hostText(QStringLiteral("Keyboard shortcuts")));
@@ -86,8 +100,6 @@ void ShortcutSheet::build(const Keys& others)
     m_tree->setRootIsDecorated(false);
     m_tree->setAllColumnsShowFocus(true);
     m_tree->setSelectionMode(QAbstractItemView::NoSelection);
-    for (const auto& [what, keys] : others)
-        m_tree->addTopLevelItem(new QTreeWidgetItem({what, keys}));
     m_tree->expandAll();
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);

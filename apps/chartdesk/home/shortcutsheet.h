@@ -17,12 +17,15 @@ public:
     /// What is done, and the keys that do it.
     using Keys = QList<QPair<QString, QString>>;
 
-    /// The keys of `menus`, and others that no action has.
-    ShortcutSheet(const QMenuBar* menus, const Keys& others, QWidget* parent);
+    /// By the title of their group.
+    using Groups = QList<QPair<QString, Keys>>;
+
+    /// The keys of `menus`, and others that no action has, in the group of their title.
+    ShortcutSheet(const QMenuBar* menus, const Groups& others, QWidget* parent);
     ShortcutSheet(const QList<QAction*>& actions, const Keys& others, QWidget* parent);
 
 private:
-    void build(const Keys& others);
+    void build();
 
     QTreeWidget* m_tree;
 };
