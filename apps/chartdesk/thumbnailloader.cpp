@@ -38,7 +38,7 @@ QImage scaled(QIODevice* file, const QString& path, const QSize& size)
 {
     QImage canvas(size, QImage::Format_RGB32);
     canvas.fill(Qt::black);
-    if (vardeno::testcharttools::hasTooMuchText(*file))
+    if (!file->isOpen() || vardeno::testcharttools::hasTooMuchText(*file))
         return canvas;
     QImageReader reader(file);
     const QSize whole = vardeno::testcharttools::toldSize(reader);
@@ -80,6 +80,7 @@ QImage thumbnail(const QString& path, const QSize& size)
     QImage picture = cache.find(bytes, size);
     if (picture.isNull()) {
         QBuffer buffer(&bytes);
+        buffer.open(QIODevice::ReadOnly); // its head is looked at before it is read
         picture = scaled(&buffer, path, size);
         cache.insert(bytes, picture);
     }
