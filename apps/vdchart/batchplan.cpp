@@ -114,6 +114,16 @@ void applyWall(PlannedPicture& planned, const Wall& wall)
     }
 }
 
+/// A link in the folder of a batch would have it write elsewhere, unasked.
+void requireInside(const QString& folder, const QString& file)
+{
+    const QString root = QFileInfo(folder).canonicalFilePath();
+    if (QFileInfo(file).isSymLink() && !placeOf(file).startsWith(root + QLatin1Char('/')))
+        throw Failure{
+            ExitCode::NotWritten,
+            QStringLiteral("%1: a symbolic link is in the way, which leads out of the folder").arg(file)};
+}
+
 /// Before the first picture is written: what it would be written over may be needed for the last.
 void requireOwnFiles(const Arguments& arguments, const std::vector<PlannedPicture>& plan)
 {
@@ -130,9 +140,13 @@ void requireOwnFiles(const Arguments& arguments, const std::vector<PlannedPictur
             claimFiles(claims, planned.chart, QStringLiteral("a record of the batch"));
         last = source;
     }
-    claims.writes(batchPath(arguments, QLatin1String(manifestName)));
+    QStringList files = {batchPath(arguments, QLatin1String(manifestName))};
     for (const PlannedPicture& planned : plan)
-        claims.writes(batchPath(arguments, planned.picture.file));
+        files.append(batchPath(arguments, planned.picture.file));
+    for (const QString& file : files)
+        claims.writes(file);
+    for (const QString& file : files)
+        requireInside(QString::fromStdString(arguments.folder), file);
 }
 
 } // namespace

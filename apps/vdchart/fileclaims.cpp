@@ -21,7 +21,8 @@ bool isStream(const QString& path)
     return path == QLatin1String("-");
 }
 
-/// Where a file would be made under this name, behind links that lead nowhere yet.
+} // namespace
+
 QString placeOf(QString path)
 {
     for (int links = 0; links < mostLinks && QFileInfo(path).isSymLink(); ++links)
@@ -31,8 +32,6 @@ QString placeOf(QString path)
     return folder.isEmpty() ? QDir::cleanPath(info.absoluteFilePath())
                             : QDir(folder).filePath(info.fileName());
 }
-
-} // namespace
 
 bool FileClaims::Identity::operator==(const Identity& other) const
 {

@@ -6,6 +6,9 @@
 
 #include <vector>
 
+/// Where a file would be made under this name, behind links that lead nowhere yet.
+QString placeOf(QString path);
+
 /// What a command reads and writes, so that no output takes the place of an input or of another output. Files
 /// are told apart by what they are, not by their names: a link, another path and a redirected stream are the
 /// file that they lead to. Of "-" an input is the standard input, an output the standard output. Devices and

@@ -86,6 +86,49 @@ private Q_SLOTS:
         QCOMPARE(read(QStringLiteral("other.json")), read(QStringLiteral("small.json")));
     }
 
+    void aBatchStaysInItsFolder_data()
+    {
+        QTest::addColumn<QString>("link");
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<bool>("leadsOut");
+        QTest::newRow("a picture outside") << "small.png"
+                                           << "../kept/a.png" << true;
+        QTest::newRow("a picture that is not there") << "small.png"
+                                                     << "../kept/new.png" << true;
+        QTest::newRow("the manifest") << "manifest.json"
+                                      << "../kept/a.png" << true;
+        QTest::newRow("a link of a link") << "small.png"
+                                          << "again.png" << true;
+        QTest::newRow("a folder of a like name") << "small.png"
+                                                 << "../out2/a.png" << true;
+        QTest::newRow("within") << "small.png"
+                                << "other.png" << false;
+    }
+
+    void aBatchStaysInItsFolder()
+    {
+        QFETCH(QString, link);
+        QFETCH(QString, target);
+        QFETCH(bool, leadsOut);
+        QCOMPARE(
+            runInShell(QStringLiteral("rm -rf kept out out2; mkdir kept out out2; echo kept > kept/a.png; "
+                                      "ln -s ../kept/a.png out/again.png; ln -s %1 out/%2")
+                           .arg(target, link))
+                .code,
+            0);
+        const Outcome outcome = run({"batch", "small.json", "-o", "out"});
+        QCOMPARE(outcome.code, leadsOut ? 4 : 0);
+        if (leadsOut)
+            QCOMPARE(outcome.errors,
+                     QStringLiteral(
+                         "vdchart: out/%1: a symbolic link is in the way, which leads out of the folder\n")
+                         .arg(link));
+        QCOMPARE(files(QStringLiteral("kept")), QStringList(QStringLiteral("a.png")));
+        QCOMPARE(read(QStringLiteral("kept/a.png")), QByteArray("kept\n"));
+        QCOMPARE(files(QStringLiteral("out2")), QStringList());
+        QVERIFY(leadsOut || !QImage(path(QStringLiteral("out/other.png"))).isNull());
+    }
+
     void typingErrorsAreTold_data()
     {
         QTest::addColumn<QStringList>("arguments");

@@ -133,6 +133,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("line");
         QTest::newRow("the first line") << QByteArray("\xff\nname\n") << 1;
         QTest::newRow("the last, which has no end") << QByteArray("name\n\nb\xff") << 3;
+        QTest::newRow("behind many others") << QByteArray("name\n").repeated(100000) + "\xff" << 100001;
         QTest::newRow("a zero byte") << QByteArray("name\na\0\n", 8) << 2;
     }
 
