@@ -8,6 +8,9 @@ cmake --build --preset dev
 tests/reliability/kills.py build/dev/bin 1000
 tests/reliability/fulldisk.py build/dev/bin 512
 tests/reliability/slowdisk.py build/dev/bin
+tests/reliability/folders.py build/dev/bin
+tests/reliability/bombs.py build/dev/bin
+build/dev/bin/reliability_pictures 100000 1 tests/fuzz/corpus/logo/* -platform offscreen
 build/dev/bin/reliability_idler 60 -platform offscreen
 cmake --preset asan > /dev/null
 cmake --build --preset asan --target reliability_destroyer
