@@ -25,8 +25,10 @@ constexpr int contentsLookedAt = 12;
 class Judge
 {
 public:
-    Judge(Reading& reading, const Evidence& evidence, const ChartComparison::CabinetGrid& grid)
-        : m_reading(reading)
+    Judge(Reading& reading, const Evidence& evidence, const ChartComparison::CabinetGrid& grid,
+          const MarkedContents& marked)
+        : m_marked(marked)
+        , m_reading(reading)
         , m_evidence(evidence)
         , m_grid(grid)
     {
@@ -144,6 +146,8 @@ private:
 
     void say(std::size_t cabinet)
     {
+        if (sayMarked(cabinet))
+            return;
         const std::vector<Explanation>& all = m_explanations[cabinet];
         if (all.empty()) {
             add(findingAt(cabinet, Kind::Hidden, 0.9));
@@ -155,11 +159,59 @@ private:
             accuse(cabinet, *m_shifts[cabinet]);
             return;
         }
-        if (!best.isRight && usual(best.cost) < explainedCost && usual(own.cost) > surelyRightCost &&
-            isCertain(cabinet, best) && !m_covered[cabinet])
+        if (!showsOwnMarker(cabinet, best.kind) && !best.isRight && usual(best.cost) < explainedCost &&
+            usual(own.cost) > surelyRightCost && isCertain(cabinet, best) && !m_covered[cabinet])
             accuse(cabinet, best);
         else if (usual(own.cost) > explainedCost)
             sayUnexplained(cabinet);
+    }
+
+    /// Whether its marker tells what is wrong with it, and the picture does not contradict.
+    bool sayMarked(std::size_t cabinet)
+    {
+        if (!m_marked[cabinet])
+            return false;
+        const int turn = m_marked[cabinet]->turn;
+        const std::size_t shown = likeliest(cabinet, *m_marked[cabinet]);
+        if (shown == cabinet && turn == 0)
+            return false;
+        if (isInside(cabinet) && costAs(cabinet, shown, turn) > costAs(cabinet, cabinet, 0))
+            return false;
+        Finding finding = findingAt(cabinet, shown == cabinet ? Kind::Turned : Kind::Swapped, 0.99);
+        finding.turn = turn;
+        if (shown != cabinet) {
+            finding.shows = placeOf(shown);
+            finding.showsLabel = m_grid.cabinets[shown].name;
+        }
+        add(finding);
+        return true;
+    }
+
+    /// What it costs to take what the cabinet shows for what another one should.
+    double costAs(std::size_t cabinet, std::size_t other, int turn) const
+    {
+        const cv::Rect& rect = m_evidence.rects[cabinet];
+        const cv::Mat content = laid(m_evidence.expectedAt(other), {false, turn});
+        return costOf(m_evidence, rect, fittedTo(content, rect.size()));
+    }
+
+    /// Of cabinets with one marker the one whose picture it is.
+    std::size_t likeliest(std::size_t cabinet, const MarkedContent& content) const
+    {
+        if (content.cabinets.size() == 1)
+            return content.cabinets.front();
+        return *std::min_element(
+            content.cabinets.begin(), content.cabinets.end(), [&](std::size_t a, std::size_t b) {
+                return costAs(cabinet, a, content.turn) < costAs(cabinet, b, content.turn);
+            });
+    }
+
+    /// Whether the cabinet's own marker is seen upright in it, which contradicts what is said of it.
+    bool showsOwnMarker(std::size_t cabinet, Kind said) const
+    {
+        const auto& marked = m_marked[cabinet];
+        return marked && marked->cabinets.front() == cabinet && marked->turn == 0 && said != Kind::Shifted &&
+               said != Kind::Brightness && said != Kind::Color;
     }
 
     /// Whether a shift explains it far better than all else, in a place that is known.
@@ -354,14 +406,15 @@ private:
             accuse(cabinet, *m_shifts[cabinet]);
             return;
         }
-        const bool isAllWrong =
-            share >= nearlyAllBlocks && usual(own.cost) > surelyWrongCost && !isNearlyPlain(cabinet);
+        const bool isAllWrong = share >= nearlyAllBlocks && usual(own.cost) > surelyWrongCost &&
+                                !isNearlyPlain(cabinet) && !showsOwnMarker(cabinet, Kind::Other);
         if (isAllWrong && !m_covered[cabinet])
             add(findingAt(cabinet, Kind::Other, 0.9));
         else if (share > fewBlocks)
             add(findingAt(cabinet, m_covered[cabinet] ? Kind::Hidden : Kind::Unsure, 0.5));
     }
 
+    const MarkedContents& m_marked;
     Reading& m_reading;
     const Evidence& m_evidence;
     const ChartComparison::CabinetGrid& m_grid;
@@ -382,13 +435,13 @@ QImage eightBits(const cv::Mat& seen)
 } // namespace
 
 void judgeCabinets(Reading& reading, const cv::Mat& chart, const ChartComparison::CabinetGrid& grid,
-                   const cv::Mat& picture, const FoundPlace& place)
+                   const cv::Mat& picture, const FoundPlace& place, const MarkedContents& marked)
 {
     const Evidence evidence = evidenceOf(chart, grid, picture, place);
     if (!evidence.light.isKnown)
         return;
     reading.rectified = eightBits(evidence.seen);
-    Judge(reading, evidence, grid).run();
+    Judge(reading, evidence, grid, marked).run();
 }
 
 } // namespace WallReading

@@ -59,7 +59,19 @@ public:
     {
     }
 
-    FoundPlace run()
+    FoundPlace run(const std::optional<Lens>& marked)
+    {
+        if (marked)
+            propose(*marked, 4);
+        const bool isThere = m_best.score.seen > 0 && ofSeen(m_best.score) >= leastThere;
+        return isThere ? markedResult() : search();
+    }
+
+private:
+    /// What is outside of the picture says nothing against a place that markers tell.
+    static double ofSeen(const PlaceScore& score) { return score.mean / score.seen; }
+
+    FoundPlace search()
     {
         proposeCaptures();
         if (!isSure())
@@ -73,7 +85,6 @@ public:
         return result();
     }
 
-private:
     int coarseSide() const
     {
         const double scale = double(coarseCabinet) / cabinetSide(m_grid);
@@ -265,6 +276,17 @@ private:
         return all;
     }
 
+    FoundPlace markedResult()
+    {
+        m_best.lens = refine(viewOf(m_chart, 1920), m_best.lens, 4, 3);
+        FoundPlace found;
+        found.isFound = true;
+        found.lens = m_best.lens;
+        found.score = ofSeen(m_best.score);
+        found.doubt = Doubt::None;
+        return found;
+    }
+
     FoundPlace result()
     {
         FoundPlace found;
@@ -319,9 +341,9 @@ double Deadline::seconds() const
 }
 
 FoundPlace placeOf(const cv::Mat& chart, const ChartComparison::CabinetGrid& grid, const cv::Mat& picture,
-                   const Deadline& deadline)
+                   const Deadline& deadline, const std::optional<Lens>& marked)
 {
-    return Search(chart, grid, picture, deadline).run();
+    return Search(chart, grid, picture, deadline).run(marked);
 }
 
 } // namespace WallReading

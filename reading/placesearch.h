@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <optional>
 
 namespace WallReading {
 
@@ -40,7 +41,8 @@ struct FoundPlace
     bool isCapture = false;  ///< the chart fills the picture
 };
 
+/// `marked`: where markers say that it is; nothing else is looked for then, if the chart is seen there.
 FoundPlace placeOf(const cv::Mat& chart, const ChartComparison::CabinetGrid& grid, const cv::Mat& picture,
-                   const Deadline& deadline);
+                   const Deadline& deadline, const std::optional<Lens>& marked = std::nullopt);
 
 } // namespace WallReading

@@ -1,6 +1,7 @@
 #include "wallreading.h"
 
 #include "cabinetjudge.h"
+#include "chartmarkers.h"
 #include "cvimages.h"
 #include "placesearch.h"
 
@@ -83,6 +84,12 @@ void lookAtWhole(Reading& reading, const FoundPlace& place, const QSize& picture
 
 Reading read(const QImage& picture, const Chart& chart, const std::atomic<bool>* canceled)
 {
+    return read(picture, chart, {}, canceled);
+}
+
+Reading read(const QImage& picture, const Chart& chart, const std::vector<Marker>& markers,
+             const std::atomic<bool>* canceled)
+{
     const Deadline deadline(canceled);
     Reading reading;
     if (picture.isNull() || chart.picture.isNull() || chart.cabinets.cabinets.empty()) {
@@ -91,7 +98,10 @@ Reading read(const QImage& picture, const Chart& chart, const std::atomic<bool>*
     }
     const cv::Mat seen = toMat(picture);
     const cv::Mat expected = toMat(chart.picture);
-    const FoundPlace place = placeOf(expected, chart.cabinets, seen, deadline);
+    const std::vector<SeenMarker> marked =
+        markers.empty() ? std::vector<SeenMarker>() : markersIn(greyOf(seen));
+    const FoundPlace place = placeOf(expected, chart.cabinets, seen, deadline,
+                                     placedByMarkers(marked, chart, markers, seen.size()));
     if (deadline.isCanceled()) {
         reading.doubt = Doubt::OutOfTime;
         return reading;
@@ -103,7 +113,8 @@ Reading read(const QImage& picture, const Chart& chart, const std::atomic<bool>*
     if (place.isFound) {
         reading.corners = cornersOf(place.lens, chart.picture.size());
         lookAtWhole(reading, place, picture.size(), chart.picture.size());
-        judgeCabinets(reading, expected, chart.cabinets, seen, place);
+        judgeCabinets(reading, expected, chart.cabinets, seen, place,
+                      contentsByMarkers(marked, chart, markers, place.lens));
     }
     reading.seconds = deadline.seconds();
     return reading;

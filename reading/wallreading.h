@@ -21,6 +21,14 @@ struct Chart
     ChartComparison::CabinetGrid cabinets; ///< row by row, in chart pixels
 };
 
+/// A coded marker (AprilTag 36h11) that the chart has in one of its cabinets.
+struct Marker
+{
+    int code = 0;            ///< its number in the family; other cabinets may have the same
+    std::size_t cabinet = 0; ///< in the chart's grid
+    QRect square;            ///< its black one, in chart pixels
+};
+
 struct Reading
 {
     bool isLocated = false;
@@ -42,6 +50,11 @@ struct Reading
 /// Looks for the chart in `picture`, and at each of its cabinets. It ends soon, as if out of time, once
 /// `canceled` is true.
 VDREADING_EXPORT Reading read(const QImage& picture, const Chart& chart,
+                              const std::atomic<bool>* canceled = nullptr);
+
+/// The same with a chart that has markers: any part of the wall is enough then, and what is swapped or turned
+/// is told exactly where its marker is seen.
+VDREADING_EXPORT Reading read(const QImage& picture, const Chart& chart, const std::vector<Marker>& markers,
                               const std::atomic<bool>* canceled = nullptr);
 
 /// What several pictures of one wall say together: what one of them does not show, or shows not well enough,

@@ -41,7 +41,8 @@ step 'Set-up'
 packages=(mold python3-minimal xvfb clang-format fonts-noto-cjk xserver-xorg-core xserver-xorg-video-dummy
   x11-xserver-utils)
 [ -z "$sanitizers" ] || packages+=(clang libclang-rt-dev
-  libopencv-core-dev libopencv-imgproc-dev libopencv-features2d-dev libopencv-calib3d-dev)
+  libopencv-core-dev libopencv-imgproc-dev libopencv-features2d-dev libopencv-calib3d-dev
+  libopencv-contrib-dev)
 [ -z "$all" ] || packages+=(qt6-base-dev qt6-qpa-plugins qt6-translations-l10n libbenchmark-dev clang-tidy qttools5-dev)
 scripts/setup.sh "${packages[@]}"
 scripts/format.sh --check

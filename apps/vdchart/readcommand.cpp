@@ -119,7 +119,7 @@ ExitCode runRead(const Arguments& arguments)
     const WallReading::Chart chart{ChartRenderer(wanted.language).render(wanted.chart), grid.cabinets()};
     std::vector<WallReading::Reading> readings;
     for (const QImage& picture : pictures)
-        readings.push_back(WallReading::read(picture, chart));
+        readings.push_back(WallReading::read(picture, chart, grid.markers()));
     WallReading::Reading reading = WallReading::combined(readings, chart);
     grid.take(reading);
     print(reading, grid.pulled(), pictures.size() == 1 ? inputName(first) : QStringLiteral("the wall"),

@@ -1,6 +1,9 @@
 #include "readinggrid.h"
 
 #include "cabinetgrid.h"
+#include "readingmarkers.h"
+
+#include <wallmarkers.h>
 
 #include <algorithm>
 
@@ -19,10 +22,27 @@ ReadingGrid::ReadingGrid(const ChartInput& chart)
 {
     if (!chart.wall) {
         m_grid = cabinetsOf(chart.record);
+        m_markers = readingMarkers(chart.record, chart.markers);
         return;
     }
     m_wall.emplace(*chart.wall, chart.record, QString());
     addPlaces();
+    if (chart.markers.showMarkers)
+        addMarkers(chart);
+}
+
+/// That of a cabinet that spans places is in the place that has its middle.
+void ReadingGrid::addMarkers(const ChartInput& chart)
+{
+    const auto holds = [](const QPoint& middle) {
+        return [middle](const ChartComparison::Cabinet& cabinet) { return cabinet.rect.contains(middle); };
+    };
+    for (const auto& [marker, square] : vardeno::walls::cabinetMarkers(m_wall->plan, chart.record)) {
+        const auto place =
+            std::find_if(m_grid.cabinets.begin(), m_grid.cabinets.end(), holds(square.center()));
+        if (!square.isEmpty() && place != m_grid.cabinets.end())
+            m_markers.push_back({marker, std::size_t(place - m_grid.cabinets.begin()), square});
+    }
 }
 
 void ReadingGrid::addPlaces()

@@ -14,6 +14,7 @@ public:
     explicit ReadingGrid(const ChartInput& chart);
 
     const ChartComparison::CabinetGrid& cabinets() const { return m_grid; }
+    const std::vector<WallReading::Marker>& markers() const { return m_markers; }
 
     /// Leaves out of a reading by these cabinets what it says of holes, and all but the worst of what it says
     /// of one cabinet; notes which cables look pulled.
@@ -22,8 +23,10 @@ public:
 
 private:
     void addPlaces();
+    void addMarkers(const ChartInput& chart);
 
     ChartComparison::CabinetGrid m_grid;
+    std::vector<WallReading::Marker> m_markers;
     std::optional<SeenWall> m_wall; ///< none for a record
     std::vector<PulledCable> m_pulled;
 };

@@ -18,6 +18,7 @@
 #include <iostream>
 
 using namespace Photos;
+namespace ChartRecordFile = vardeno::testcharttools::ChartRecordFile;
 
 namespace {
 
@@ -46,15 +47,17 @@ bool load(Photo& photo, const QString& stem)
     return true;
 }
 
-Sample sampleOf(unsigned seed, bool isCapture, const QString& folder = QString())
+/// `pictures`: "photos", "tags", which are photos of charts with markers, or "captures".
+Sample sampleOf(unsigned seed, const QString& pictures, const QString& folder = QString())
 {
     Random random(seed);
     Sample sample;
-    const auto& kinds = chartKinds();
+    const bool isTags = pictures == QLatin1String("tags");
+    const auto& kinds = isTags ? std::vector<std::string>{"tags"} : chartKinds();
     const int faults = wholeBetween(random, 0, 6);
     sample.wall = simulatedWall(kinds[seed % kinds.size()], faults, random);
     const QString stem = QDir(folder).filePath(QString::number(seed));
-    if (isCapture) {
+    if (pictures == QLatin1String("captures")) {
         sample.photo = captured(sample.wall, randomCapture(random));
         return sample;
     }
@@ -115,14 +118,15 @@ void save(const Sample& sample, const QString& stem)
     sample.photo.picture.save(stem + QStringLiteral(".jpg"), "JPG", sample.shot.quality);
     write(stem + QStringLiteral(".truth.json"), QJsonDocument(truthOf(sample)).toJson());
     write(stem + QStringLiteral(".json"),
-          vardeno::testcharttools::ChartRecordFile::toJson(sample.wall.record));
+          ChartRecordFile::toJson(sample.wall.record,
+                                  ChartRecordFile::withMarkers({}, {!sample.wall.markers.empty()})));
 }
 
 Result resultOf(const Sample& sample, unsigned seed)
 {
     const std::clock_t start = std::clock();
-    WallReading::Reading reading =
-        WallReading::read(sample.photo.picture, {sample.wall.chart, sample.wall.cabinets});
+    WallReading::Reading reading = WallReading::read(
+        sample.photo.picture, {sample.wall.chart, sample.wall.cabinets}, sample.wall.markers);
     // Of all cores together: it does not depend on what else the machine does.
     reading.seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
     return judged(sample.wall, sample.photo, sample.shot.angle, reading, seed);
@@ -130,7 +134,7 @@ Result resultOf(const Sample& sample, unsigned seed)
 
 int usage()
 {
-    std::cerr << "usage: wallphotos save|evaluate photos|captures FIRST LAST [FOLDER]\n";
+    std::cerr << "usage: wallphotos save|evaluate photos|tags|captures FIRST LAST [FOLDER]\n";
     return 2;
 }
 
@@ -144,11 +148,10 @@ int main(int argc, char** argv)
     const QStringList arguments = QGuiApplication::arguments();
     if (arguments.size() < 5)
         return usage();
-    const bool isCapture = arguments[2] == QLatin1String("captures");
     Tally tally;
     for (unsigned seed = arguments[3].toUInt(); seed <= arguments[4].toUInt(); ++seed) {
         const bool isSaving = arguments[1] == QLatin1String("save");
-        const Sample sample = sampleOf(seed, isCapture, isSaving ? QString() : arguments.value(5));
+        const Sample sample = sampleOf(seed, arguments[2], isSaving ? QString() : arguments.value(5));
         if (isSaving)
             save(sample, QDir(arguments.value(5)).filePath(QString::number(seed)));
         else

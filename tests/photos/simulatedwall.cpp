@@ -5,6 +5,7 @@
 #include <cabinetgrid.h>
 #include <chartpicture.h>
 #include <presets.h>
+#include <readingmarkers.h>
 
 #include <algorithm>
 #include <utility>
@@ -68,6 +69,8 @@ TestChartToolsData recordOf(const std::string& kind, const WallSize& grid)
         label(record.inLineData, {255, 255, 255, 255}, 32);
         record.inLineData.serialColor = {128, 128, 128, 255};
     }
+    if (kind == "tags")
+        usePreset(record, "tags");
     if (kind == "minimal") {
         usePreset(record, "flood-black");
         record.basicData.oddColor = {64, 64, 64, 255};
@@ -295,7 +298,9 @@ Wall rightWall(const std::string& kind, const WallSize& size)
     wall.chartKind = kind;
     wall.record = recordOf(kind, size);
     wall.cabinets = cabinetsOf(wall.record);
-    wall.chart = ChartPicture(wall.record).image();
+    const MarkerData markers = {kind == "tags"};
+    wall.markers = readingMarkers(wall.record, markers);
+    wall.chart = ChartPicture(wall.record, {}, markers).image();
     wall.shown = wall.chart;
     return wall;
 }

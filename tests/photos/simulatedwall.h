@@ -6,6 +6,7 @@
 
 #include <cabinetcomparison.h>
 #include <testcharttoolsdata.h>
+#include <wallreading.h>
 
 #include <random>
 #include <vector>
@@ -37,12 +38,14 @@ struct Wall
     std::string chartKind;
     vardeno::testcharttools::TestChartToolsData record;
     ChartComparison::CabinetGrid cabinets;
+    std::vector<WallReading::Marker> markers; ///< of charts that have them
     QImage chart;
     QImage shown; ///< with the faults
     std::vector<Fault> faults;
 };
 
-/// "default", "numbered", "bars" or "minimal", with a label in every cabinet.
+/// "default", "numbered", "bars" or "minimal", with a label in every cabinet. "tags", which has markers as
+/// well, is for itself.
 const std::vector<std::string>& chartKinds();
 
 /// `faults`: how many cabinets are wrong; a swap or a ring counts each of its cabinets.
