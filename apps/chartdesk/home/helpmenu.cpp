@@ -28,8 +28,8 @@ ShortcutSheet::Keys keysOfTheOutput()
 
 ShortcutSheet::Keys keysOfTheEditor()
 {
-    return {{hostText(QStringLiteral("Undo")), native(Qt::CTRL | Qt::Key_Z)},
-            {hostText(QStringLiteral("Redo")), native(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+    return {{hostText(QStringLiteral("Undo")), native(QStringLiteral("Ctrl+Z"))},
+            {hostText(QStringLiteral("Redo")), native(QStringLiteral("Ctrl+Shift+Z"))},
             {hostText(QStringLiteral("Zoom in")), QStringLiteral("+")},
             {hostText(QStringLiteral("Zoom out")), QStringLiteral("−")},
             {hostText(QStringLiteral("Whole chart")), QStringLiteral("0")},
