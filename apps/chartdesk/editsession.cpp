@@ -195,6 +195,7 @@ void EditSession::open(const Draft& draft, std::unique_ptr<DraftFolder> folder)
     m_lastSaved.clear();
     m_isOpen = true;
     prepareSave();
+    m_editor->setMarkersShown(ChartRecordFile::markersOf(draft.document).showMarkers);
     show(draft.record);
     m_editor->updateShowSaveBtnStatus(true);
 }

@@ -2,6 +2,7 @@
 #include "referencechart.h"
 #include "testcase.h"
 
+#include <chartpicture.h>
 #include <paintinlinewidget.h>
 #include <vtestcharttools.h>
 
@@ -138,6 +139,26 @@ private Q_SLOTS:
         QTRY_COMPARE(log().messages(QStringLiteral("PaintTextChartTool is done")).size(), 1);
         QTest::qWait(300);
         QCOMPARE(log().messages(QStringLiteral("PaintTextChartTool is done")).size(), 1);
+    }
+
+    /// A switch beside the record, which stays until the host turns it.
+    void markers()
+    {
+        VTestChartTools editor;
+        QVERIFY(!editor.markersShown());
+        editor.applyRecord(TestChartToolsData());
+        const QImage without = editor.chartImage();
+        VD_COMPARE_IMAGES(without,
+                          ChartPicture(editor.getTestChartToolsData(), ChartCaptions::current()).image());
+        editor.setMarkersShown(true);
+        QVERIFY(editor.markersShown());
+        VD_COMPARE_IMAGES(
+            editor.chartImage(),
+            ChartPicture(editor.getTestChartToolsData(), ChartCaptions::current(), {true}).image());
+        editor.applyRecord(TestChartToolsData());
+        QVERIFY(editor.markersShown() && editor.chartImage() != without);
+        editor.setMarkersShown(false);
+        VD_COMPARE_IMAGES(editor.chartImage(), without);
     }
 };
 

@@ -7,6 +7,7 @@
 #include "editor/editbuttons.h"
 #include "editor/previewbar.h"
 #include "editor/settingscolumn.h"
+#include "painters/paintinlinewidget.h"
 #include "painters/recordlayers.h"
 #include "publicsettingbox.h"
 #include "selfsettingbox.h"
@@ -261,6 +262,14 @@ void EditorParts::apply(const TestChartToolsData& data)
     layers.setHeld(true);
     panels.collectInto(record);
     showRecord(record, layers);
+    layers.setHeld(false);
+    captureAndDisplay();
+}
+
+void EditorParts::showMarkers(bool shown)
+{
+    layers.setHeld(true);
+    layers.find<PaintInLineWidget>()->setMarkersVisible(shown);
     layers.setHeld(false);
     captureAndDisplay();
 }

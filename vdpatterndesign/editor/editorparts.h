@@ -46,6 +46,7 @@ public:
     /// The same, and then gives every layer what the panels show.
     void apply(const TestChartToolsData& data);
     /// The same with the record's own colour bar in any case.
+    void showMarkers(bool shown);
     void applyWhole(const TestChartToolsData& data);
 
     LayerStack layers;

@@ -5,6 +5,7 @@
 #include "editor/chartsaver.h"
 #include "editor/editbuttons.h"
 #include "editor/editorparts.h"
+#include "painters/paintinlinewidget.h"
 #include "painters/recordlayers.h"
 #include "paintpiclogowidget.h"
 #include "publicsettingbox.h"
@@ -170,6 +171,17 @@ bool VTestChartTools::saveButtonsFollowState() const
 void VTestChartTools::setSaveButtonsFollowState(bool follows)
 {
     d->buttons->setFollowsState(follows);
+}
+
+bool VTestChartTools::markersShown() const
+{
+    return d->layers.find<PaintInLineWidget>()->areMarkersVisible();
+}
+
+void VTestChartTools::setMarkersShown(bool shown)
+{
+    if (shown != markersShown())
+        d->showMarkers(shown);
 }
 
 bool VTestChartTools::liveSliders() const

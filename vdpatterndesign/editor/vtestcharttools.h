@@ -28,6 +28,7 @@ class VDPATTERNDESIGN_EXPORT VTestChartTools : public QWidget
     Q_OBJECT
     Q_PROPERTY(bool saveButtonsFollowState READ saveButtonsFollowState WRITE setSaveButtonsFollowState)
     Q_PROPERTY(bool wheelScrollsPanels READ wheelScrollsPanels WRITE setWheelScrollsPanels)
+    Q_PROPERTY(bool markersShown READ markersShown WRITE setMarkersShown)
     Q_PROPERTY(bool liveSliders READ liveSliders WRITE setLiveSliders)
     Q_PROPERTY(bool typingGoesOn READ typingGoesOn WRITE setTypingGoesOn)
     Q_PROPERTY(bool promptPreview READ promptPreview WRITE setPromptPreview)
@@ -101,6 +102,11 @@ public:
     /// too.
     bool saveButtonsFollowState() const;
     void setSaveButtonsFollowState(bool follows);
+
+    /// Whether every cabinet has a coded marker, which photographs of the wall are read by. It is no part of
+    /// the record: a host takes it from the record's document (`ChartRecordFile::markersOf`). Off at first.
+    bool markersShown() const;
+    void setMarkersShown(bool shown);
 
     /// Whether the chart follows a slider while it is dragged, as fast as it can be drawn. Off, at first, it
     /// follows when the slider is released.

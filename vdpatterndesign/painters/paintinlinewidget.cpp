@@ -84,6 +84,16 @@ void PaintInLineWidget::setSerialPosition(uint position)
     assign(d->layer.serial.position, position);
 }
 
+void PaintInLineWidget::setMarkersVisible(bool visible)
+{
+    assign(d->layer.markersVisible, visible);
+}
+
+bool PaintInLineWidget::areMarkersVisible() const
+{
+    return d->layer.markersVisible;
+}
+
 void PaintInLineWidget::setRows(ushort rows)
 {
     assign(d->layer.rows, rows);

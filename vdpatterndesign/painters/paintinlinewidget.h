@@ -37,6 +37,10 @@ public:
     /// 0 one text in the centre, 1 left up and right down, 2 left down and right up.
     void setSerialPosition(uint position);
 
+    /// A coded marker in every cabinet that has room for one; at first there is none.
+    void setMarkersVisible(bool visible);
+    bool areMarkersVisible() const;
+
     /// The screen's cabinet rows and columns.
     void setRows(ushort rows);
     void setColumns(ushort columns);

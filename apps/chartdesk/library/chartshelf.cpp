@@ -82,7 +82,9 @@ ChartShelf::Outcome takeRecord(ChartStore& store, const QString& file, const Cha
         return {{},
                 QFileInfo(file).fileName() + QLatin1String(": ") + reading.problems.join(QLatin1Char('\n'))};
     const QString staged = stagedPath(store, QFileInfo(file).completeBaseName() + QLatin1String(".png"));
-    if (!ChartPicture(reading.record, captions).image().save(staged))
+    if (!ChartPicture(reading.record, captions, ChartRecordFile::markersOf(reading.document))
+             .image()
+             .save(staged))
         return {{}, staged};
     return publish(store, staged, file);
 }
@@ -148,7 +150,9 @@ QString exportTo(const QString& imagePath, const QString& target)
 {
     if (isRecord(target)) {
         const auto reading = ChartRecordFile::read(ChartFolderList::recordPath(imagePath));
-        return reading.problems.isEmpty() ? ChartRecordFile::write(target, reading.record)
+        const QJsonObject beside =
+            ChartRecordFile::withMarkers({}, ChartRecordFile::markersOf(reading.document));
+        return reading.problems.isEmpty() ? ChartRecordFile::write(target, reading.record, beside)
                                           : reading.problems.join(QLatin1Char('\n'));
     }
     QImageReader reader(imagePath);

@@ -16,9 +16,10 @@ ShownChart drawn(const QString& path, const ChartCaptions& captions)
 {
     const auto reading = ChartRecordFile::read(path);
     if (!reading.problems.isEmpty())
-        return {{}, reading.problems.join(QLatin1Char('\n')), {}, {}};
-    const QImage picture = ChartPicture(reading.record, captions).image();
-    return {picture, {}, reading.record, {}};
+        return {{}, reading.problems.join(QLatin1Char('\n')), {}, {}, {}};
+    const MarkerData markers = ChartRecordFile::markersOf(reading.document);
+    const QImage picture = ChartPicture(reading.record, captions, markers).image();
+    return {picture, {}, reading.record, {}, markers};
 }
 
 ShownChart readPicture(const QString& path)
@@ -29,8 +30,8 @@ ShownChart readPicture(const QString& path)
     reader.setAutoTransform(true);
     const QImage picture = reader.read();
     if (picture.isNull())
-        return {{}, path + QLatin1String(": ") + reader.errorString(), {}, {}};
-    ShownChart chart{picture.convertToFormat(QImage::Format_RGB32), {}, {}, {}};
+        return {{}, path + QLatin1String(": ") + reader.errorString(), {}, {}, {}};
+    ShownChart chart{picture.convertToFormat(QImage::Format_RGB32), {}, {}, {}, {}};
     const QString record = ChartFolderList::recordPath(path);
     if (!QFileInfo(record).isFile())
         return chart;
@@ -38,6 +39,7 @@ ShownChart readPicture(const QString& path)
     const PublicChartData& wall = reading.record.publicData;
     if (reading.problems.isEmpty() && picture.size() == QSize(wall.resolutionWidth, wall.resolutionHeight))
         chart.record = reading.record;
+    chart.markers = ChartRecordFile::markersOf(reading.document);
     return chart;
 }
 

@@ -6,6 +6,7 @@
 #include <cabinetgrid.h>
 #include <picturehead.h>
 #include <pngtexts.h>
+#include <readingmarkers.h>
 #include <readingpicture.h>
 
 #include <QFileInfo>
@@ -64,7 +65,8 @@ WallRead readWall(const QString& photo, const QString& chart, const ReadLanguage
     if (picture.isNull())
         return failure(QFileInfo(photo).fileName() + QLatin1String(": ") + reader.errorString());
     const WallReading::Chart expected{wanted.picture, cabinetsOf(*wanted.record)};
-    const WallReading::Reading reading = WallReading::read(picture, expected, &canceled);
+    const WallReading::Reading reading =
+        WallReading::read(picture, expected, readingMarkers(*wanted.record, wanted.markers), &canceled);
     WallRead read;
     read.sentences = reading.sentences(language.texts);
     for (const WallReading::Finding& finding : reading.findings) {

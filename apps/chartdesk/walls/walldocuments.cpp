@@ -122,7 +122,10 @@ QImage picture(const QString& path, const QSize& size)
     if (!read.isGood)
         return {};
     return isShow(path) ? small(ShowPicture(read.show, read.walls, 0), size)
-                        : small(WallPicture(read.walls.front().wall, read.walls.front().record), size);
+                        : small(WallPicture(read.walls.front().wall, read.walls.front().record, {},
+                                            WallFile::markersOf(read.walls.front().wall,
+                                                                read.walls.front().recordFile)),
+                                size);
 }
 
 QByteArray contents(const QString& path)
