@@ -12,6 +12,7 @@ tests/reliability/folders.py build/dev/bin
 tests/reliability/bombs.py build/dev/bin
 build/dev/bin/reliability_pictures 100000 1 tests/fuzz/corpus/logo/* -platform offscreen
 build/dev/bin/reliability_idler 60 -platform offscreen
+scripts/threads.sh
 cmake --preset asan > /dev/null
 cmake --build --preset asan --target reliability_destroyer
 LSAN_OPTIONS=suppressions=tests/harness/lsan.supp:print_suppressions=0 build/asan/bin/reliability_destroyer 1000
