@@ -162,4 +162,10 @@ QImage ShowPicture::rows(int top, int count) const
     return rows;
 }
 
+testcharttools::PictureRows ShowPicture::strips() const
+{
+    return testcharttools::inStrips(
+        size(), [picture = *this](int top, int count) { return picture.rows(top, count); });
+}
+
 } // namespace vardeno::walls

@@ -36,6 +36,9 @@ public:
     /// `count` rows of the same picture, from the row `top` on.
     QImage rows(int top, int count) const;
 
+    /// The same picture strip after strip, for an encoder. To be used by one thread at a time.
+    testcharttools::PictureRows strips() const;
+
 private:
     class Impl;
     std::shared_ptr<const Impl> d;

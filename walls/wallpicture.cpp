@@ -61,4 +61,10 @@ QImage WallPicture::area(const QRect& area) const
     return d->picture.area(area);
 }
 
+testcharttools::PictureRows WallPicture::strips() const
+{
+    return testcharttools::inStrips(
+        size(), [held = d, rows = d->picture.strips()](int top, int count) { return rows(top, count); });
+}
+
 } // namespace vardeno::walls

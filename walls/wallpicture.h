@@ -41,6 +41,9 @@ public:
     /// Likewise what is in `area`, which lies within the wall.
     QImage area(const QRect& area) const;
 
+    /// The same picture strip after strip, for an encoder. To be used by one thread at a time.
+    testcharttools::PictureRows strips() const;
+
 private:
     class Impl;
     std::shared_ptr<const Impl> d;

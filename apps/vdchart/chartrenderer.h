@@ -22,11 +22,11 @@ public:
     /// `language`: of the resolution line.
     explicit ChartRenderer(const QString& language);
 
-    /// A record, a wall or an output of a show in its resolution; a large one is drawn strip by strip when
-    /// its rows are asked for. Throws Failure where the picture of its logo cannot be drawn: without it, it
-    /// would be another chart. For any thread.
+    /// A record, a wall or an output of a show in its resolution, drawn strip by strip when its rows are
+    /// asked for. Throws Failure where the picture of its logo cannot be drawn: without it, it would be
+    /// another chart. For any thread.
     vardeno::testcharttools::PictureRows rows(const ChartInput& chart) const;
-    /// The same as one image.
+    /// The same as one image. Throws `std::bad_alloc`.
     QImage render(const ChartInput& chart) const;
 
 private:

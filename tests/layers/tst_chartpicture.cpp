@@ -3,6 +3,7 @@
 
 #include <chartlanguages.h>
 #include <chartpicture.h>
+#include <pngencoder.h>
 #include <translatemanager1.h>
 
 #include <QPainter>
@@ -84,6 +85,44 @@ private Q_SLOTS:
             QVERIFY2(difference.isEmpty(),
                      qPrintable(QStringLiteral("record %1: %2").arg(i).arg(difference)));
         }
+    }
+
+    /// Small charts, of which each layer is drawn once, and one that is drawn in parts.
+    void stripsAreTheSamePicture()
+    {
+        RandomRecords records(7, pictures(), pictureLimits);
+        for (int i = 0; i < 40; ++i) {
+            TestChartToolsData record = records.next();
+            if (i == 0)
+                record.publicData.resolutionWidth = 4400;
+            const ChartPicture picture(record);
+            const QImage whole = picture.image();
+            const PictureRows strips = picture.strips();
+            QCOMPARE(strips.size, picture.size());
+            const int height = 1 + i * 3;
+            for (int top = 0; top < whole.height(); top += height) {
+                const int count = qMin(height, whole.height() - top);
+                const QString difference =
+                    imageDifference(strips.rows(top, count), whole.copy(0, top, whole.width(), count));
+                QVERIFY2(
+                    difference.isEmpty(),
+                    qPrintable(QStringLiteral("record %1, from %2: %3").arg(i).arg(top).arg(difference)));
+            }
+        }
+    }
+
+    /// Whose strips are of whole blocks: a file does not depend on how its rows are asked for.
+    void stripsEncodeAsTheWholePicture()
+    {
+        TestChartToolsData record;
+        record.publicData.resolutionWidth = 3000;
+        record.publicData.resolutionHeight = 1000;
+        const ChartPicture picture(record);
+        QVERIFY(picture.strips().stripHeight() < picture.size().height());
+        QByteArray file;
+        encodePng(picture.strips(), {},
+                  [&file](const char* bytes, qint64 count) { file.append(bytes, int(count)); });
+        QVERIFY(file == encodePng(picture.image(), {}));
     }
 
     void theDisplayDoesNotMatter_data()

@@ -226,8 +226,12 @@ private Q_SLOTS:
         const ShowDocument show = showOn(64, 5000, {placed("Main", 0, 30, 90)});
         const ShowPicture picture(show, {placedWall(wall), placedWall(wall)}, 0);
         const QImage whole = picture.image();
-        for (int top = 0; top < 200; top += 25)
+        const PictureRows strips = picture.strips();
+        QCOMPARE(strips.size, whole.size());
+        for (int top = 0; top < 200; top += 25) {
             VD_COMPARE_IMAGES(picture.rows(top, 25), whole.copy(0, top, 64, 25));
+            VD_COMPARE_IMAGES(strips.rows(top, 25), whole.copy(0, top, 64, 25));
+        }
     }
 
     void thereAndBack_data() { addTurns(); }

@@ -293,6 +293,10 @@ private Q_SLOTS:
         QVERIFY(!picture.isDrawnInParts());
         const QImage whole = picture.image();
         VD_COMPARE_IMAGES(picture.rows(100, 50), whole.copy(0, 100, whole.width(), 50));
+        const PictureRows strips = picture.strips();
+        QCOMPARE(strips.size, whole.size());
+        for (const int top : {0, 50, 100})
+            VD_COMPARE_IMAGES(strips.rows(top, 50), whole.copy(0, top, whole.width(), 50));
     }
 
     /// Also where cabinets have several sizes; in the order of the plan, and where they fit.

@@ -71,4 +71,10 @@ QImage ChartPicture::rows(int top, int count) const
     return d->picture.rows(top, count);
 }
 
+PictureRows ChartPicture::strips() const
+{
+    return inStrips(size(),
+                    [held = d, rows = d->picture.strips()](int top, int count) { return rows(top, count); });
+}
+
 } // namespace vardeno::testcharttools

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "markerdata.h"
+#include "picturerows.h"
 #include "vdchartcore_export.h"
 
 #include <QImage>
@@ -49,6 +50,10 @@ public:
     bool isDrawnInParts() const;
     /// `count` rows of the same picture, from the row `top` on, which are rows of the chart.
     QImage rows(int top, int count) const;
+
+    /// The same picture strip after strip, for an encoder: it never stands in memory as a whole. Layers that
+    /// are drawn whole are drawn once, at the first strip. To be used by one thread at a time.
+    PictureRows strips() const;
 
 private:
     class Impl;

@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <atomic>
+#include <memory>
 
 namespace vardeno::testcharttools {
 
@@ -36,6 +37,46 @@ bool drawPicture(const ChartLayer& layer, const QSize& chart, const QRect& area,
     return true;
 }
 
+/// The layers of a small picture, each drawn as a whole, for what is composed of them. It holds them by
+/// address.
+class DrawnLayers
+{
+public:
+    /// False where there is not enough memory.
+    bool draw(const std::vector<const ChartLayer*>& layers, const QSize& chart);
+    /// `count` rows from the row `top` on. Null where there is not enough memory.
+    QImage rows(int top, int count) const;
+
+private:
+    QSize m_chart;
+    std::vector<LayerPicture> m_pictures;
+    Composition m_composition;
+};
+
+bool DrawnLayers::draw(const std::vector<const ChartLayer*>& layers, const QSize& chart)
+{
+    m_chart = chart;
+    m_pictures.resize(layers.size());
+    m_composition = {};
+    for (std::size_t i = 0; i < layers.size(); ++i) {
+        if (layers[i]->drawsOnLayersBelow())
+            m_composition.add(*layers[i], chart);
+        else if (drawPicture(*layers[i], chart, QRect(QPoint(), chart), m_pictures[i]))
+            m_composition.add(m_pictures[i], chart);
+        else
+            return false;
+    }
+    return true;
+}
+
+QImage DrawnLayers::rows(int top, int count) const
+{
+    QImage rows(m_chart.width(), count, QImage::Format_RGB32);
+    if (!rows.isNull())
+        m_composition.paintInParallel(rows, top);
+    return rows;
+}
+
 } // namespace
 
 StackPicture::StackPicture(const QSize& size, std::vector<const ChartLayer*> layers)
@@ -56,29 +97,31 @@ QImage StackPicture::rows(int top, int count) const
 
 QImage StackPicture::area(const QRect& area) const
 {
-    const bool isWhole = area == QRect(QPoint(), m_size);
-    if (!isDrawnInParts() && !isWhole)
-        return this->area({QPoint(), m_size}).copy(area);
+    if (!isDrawnInParts()) {
+        DrawnLayers drawn;
+        if (!drawn.draw(m_layers, m_size))
+            return {};
+        const QImage rows = drawn.rows(area.top(), area.height());
+        return area.width() == m_size.width() ? rows : rows.copy(area.translated(0, -area.top()));
+    }
     QImage part(area.size(), QImage::Format_RGB32);
-    if (part.isNull() || !(isDrawnInParts() ? drawTiles(part, area.topLeft()) : drawWhole(part)))
-        return {};
-    return part;
+    return !part.isNull() && drawTiles(part, area.topLeft()) ? part : QImage();
 }
 
-bool StackPicture::drawWhole(QImage& chart) const
+std::function<QImage(int top, int count)> StackPicture::strips() const
 {
-    std::vector<LayerPicture> pictures(m_layers.size());
-    Composition composition;
-    for (std::size_t i = 0; i < m_layers.size(); ++i) {
-        if (m_layers[i]->drawsOnLayersBelow())
-            composition.add(*m_layers[i], m_size);
-        else if (drawPicture(*m_layers[i], m_size, QRect(QPoint(), m_size), pictures[i]))
-            composition.add(pictures[i], m_size);
-        else
-            return false;
-    }
-    composition.paintInParallel(chart);
-    return true;
+    if (isDrawnInParts())
+        return [picture = *this](int top, int count) { return picture.rows(top, count); };
+    return [picture = *this, drawn = std::shared_ptr<DrawnLayers>()](int top, int count) mutable {
+        if (!drawn) {
+            drawn = std::make_shared<DrawnLayers>();
+            if (!drawn->draw(picture.m_layers, picture.m_size)) {
+                drawn = nullptr;
+                return QImage();
+            }
+        }
+        return drawn->rows(top, count);
+    };
 }
 
 /// Each of them for itself: nothing that is drawn depends on where a tile ends.

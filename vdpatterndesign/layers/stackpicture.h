@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+#include <functional>
 #include <vector>
 
 namespace vardeno::testcharttools {
@@ -27,8 +28,11 @@ public:
     /// Likewise what is in `area`, which lies within the picture.
     QImage area(const QRect& area) const;
 
+    /// `rows` for one thread that asks for strip after strip: of a small picture the layers are drawn once,
+    /// at the first strip, and kept.
+    std::function<QImage(int top, int count)> strips() const;
+
 private:
-    bool drawWhole(QImage& chart) const;
     bool drawTiles(QImage& part, const QPoint& origin) const;
     bool drawTile(QImage& tile, const QPoint& at) const;
 

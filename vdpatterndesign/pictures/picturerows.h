@@ -3,6 +3,7 @@
 #include <QImage>
 
 #include <functional>
+#include <new>
 
 namespace vardeno::testcharttools {
 
@@ -26,6 +27,26 @@ inline PictureRows rowsOf(const QImage& image)
         return count == image.height() ? image : image.copy(0, top, image.width(), count);
     };
     return {image.size(), rows, 0};
+}
+
+/// How many rows of a picture of `width` pixels are compressed by themselves: 2 MiB, so that it hardly costs
+/// compression.
+inline int blockHeight(int width)
+{
+    constexpr qint64 blockBytes = 2 * 1024 * 1024;
+    return int(qMax<qint64>(1, blockBytes / (width * qint64(sizeof(QRgb)))));
+}
+
+/// The rows of a picture that is drawn in strips of some blocks. `rows` gives a null image where there is not
+/// enough memory, for which std::bad_alloc is thrown.
+inline PictureRows inStrips(const QSize& size, const std::function<QImage(int top, int count)>& rows)
+{
+    constexpr int blocksAtOnce = 2;
+    const auto required = [rows](int top, int count) {
+        const QImage strip = rows(top, count);
+        return strip.isNull() ? throw std::bad_alloc() : strip;
+    };
+    return {size, required, blocksAtOnce * blockHeight(size.width())};
 }
 
 /// Takes the bytes of a file one part after the other. What it throws ends the encoding.

@@ -16,8 +16,7 @@ namespace vardeno::testcharttools {
 namespace {
 
 constexpr char signature[] = "\x89PNG\r\n\x1a\n";
-constexpr char zlibHeader[] = "\x78\x01";   ///< a window of 32 KiB, no dictionary
-constexpr int blockBytes = 2 * 1024 * 1024; ///< of pixels: large enough to hardly cost compression
+constexpr char zlibHeader[] = "\x78\x01"; ///< a window of 32 KiB, no dictionary
 constexpr char colorsPalette = 3;
 constexpr char colorsTrue = 2;
 
@@ -139,7 +138,7 @@ void PngFile::writePicture()
 
 void PngFile::addBlocks(int top, const QImage& strip)
 {
-    const int rows = qMax(1, blockBytes / (strip.width() * int(sizeof(QRgb))));
+    const int rows = blockHeight(strip.width());
     for (int first = 0; first < strip.height(); first += rows) {
         PngBlock block;
         block.strip = strip;
