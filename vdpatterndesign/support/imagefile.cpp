@@ -3,7 +3,6 @@
 #include "support/picturehead.h"
 #include "support/pngtexts.h"
 
-#include <QBuffer>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QSaveFile>
@@ -12,19 +11,70 @@
 
 namespace vardeno::testcharttools {
 
-/// Encodes in memory first: saving straight to a file reports success when the disk fills up in its last
-/// kilobytes, and so does a `commit` alone.
+namespace {
+
+/// Hands on to a file what is written, and takes the rest as well once the file has refused some: the
+/// toolkit's encoders do not free what they hold when their device refuses.
+class UnrefusingDevice : public QIODevice
+{
+public:
+    explicit UnrefusingDevice(QSaveFile& file)
+        : m_file(file)
+    {
+        open(WriteOnly | Unbuffered);
+    }
+
+    bool hasRefused() const { return m_refused; }
+    /// What the system left behind when it did.
+    int errorNumber() const { return m_errorNumber; }
+
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+
+    qint64 writeData(const char* bytes, qint64 count) override
+    {
+        if (!m_refused && m_file.write(bytes, count) != count) {
+            m_refused = true;
+            m_errorNumber = errno;
+        }
+        return count;
+    }
+
+private:
+    QSaveFile& m_file;
+    bool m_refused = false;
+    int m_errorNumber = 0;
+};
+
+/// A `commit` alone reports success when the disk fills up in the last kilobytes.
+bool flushAndCommit(QSaveFile& file)
+{
+    return file.flush() && file.commit();
+}
+
+} // namespace
+
+/// Encodes into the file: a large picture of this quality is as large in memory again.
 bool writeImageWhole(const QImage& image, const QString& path, const char* format, int quality,
                      WriteFault* fault)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, quality)) {
-        if (fault)
-            *fault = {WriteFault::NotEncodable, QString()};
-        return false;
+    QSaveFile file(path);
+    errno = 0;
+    bool encoded = !image.isNull();
+    bool written = encoded && file.open(QIODevice::WriteOnly);
+    int errorNumber = errno;
+    if (written) {
+        UnrefusingDevice device(file);
+        encoded = image.save(&device, format, quality);
+        written = encoded && !device.hasRefused() && flushAndCommit(file);
+        errorNumber = device.hasRefused() ? device.errorNumber() : errno;
     }
-    return writeBytesWhole(bytes, path, fault);
+    if (!written && fault)
+        *fault =
+            encoded ? writeFaultOf(path, file, errorNumber) : WriteFault{WriteFault::NotEncodable, QString()};
+    return written;
 }
 
 bool writeBytesWhole(const QByteArray& bytes, const QString& path, WriteFault* fault)
@@ -32,7 +82,7 @@ bool writeBytesWhole(const QByteArray& bytes, const QString& path, WriteFault* f
     QSaveFile file(path);
     errno = 0;
     const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && flushAndCommit(file);
     const int errorNumber = errno;
     if (!written && fault)
         *fault = writeFaultOf(path, file, errorNumber);
