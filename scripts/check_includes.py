@@ -18,7 +18,7 @@ ROOMS = {
     PICTURES: [SUPPORT],
     RECORDS: [SUPPORT],
     GEOMETRY: [SUPPORT, RECORDS],
-    LAYERS: [SUPPORT, RECORDS, GEOMETRY],
+    LAYERS: [SUPPORT, PICTURES, RECORDS, GEOMETRY],
     "theme": [SUPPORT],
     "controls": [*CORE, "theme"],
     "painters": CORE,
