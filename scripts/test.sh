@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the project and runs every functional test once. With --sanitizers also: the tests under AddressSanitizer and
-# UndefinedBehaviorSanitizer, each fuzz target for half a minute, and the reading of photographs, which needs OpenCV.
+# UndefinedBehaviorSanitizer, each fuzz target for a quarter of a minute, and the reading of photographs, which needs OpenCV.
 # With --all also: everything with Qt 6, an optimised build with the benchmarks (which scripts/bench.sh runs), the Debian
 # packages, hosts with the sources in their tree, the reference of the headers, and clang-tidy over the libraries and
 # programs.
@@ -58,7 +58,7 @@ if [ -n "$sanitizers" ]; then
   cmake --build --preset asan
   run_tests asan
   step 'Fuzzing'
-  scripts/fuzz.sh 30
+  scripts/fuzz.sh 15
 fi
 
 if [ -n "$all" ]; then

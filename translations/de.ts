@@ -564,6 +564,14 @@
         <translation>Ordner wählen…</translation>
     </message>
     <message>
+        <source>Coded markers</source>
+        <translation>Codierte Marken</translation>
+    </message>
+    <message>
+        <source>The cabinets have no room for markers.</source>
+        <translation>In den Cabinets ist kein Platz für Marken.</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Sprache</translation>
     </message>

@@ -564,6 +564,14 @@
         <translation>Choose folder…</translation>
     </message>
     <message>
+        <source>Coded markers</source>
+        <translation>Coded markers</translation>
+    </message>
+    <message>
+        <source>The cabinets have no room for markers.</source>
+        <translation>The cabinets have no room for markers.</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Language</translation>
     </message>

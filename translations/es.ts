@@ -564,6 +564,14 @@
         <translation>Elegir carpeta…</translation>
     </message>
     <message>
+        <source>Coded markers</source>
+        <translation>Marcas codificadas</translation>
+    </message>
+    <message>
+        <source>The cabinets have no room for markers.</source>
+        <translation>Las marcas no caben en los gabinetes.</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Idioma</translation>
     </message>

@@ -564,6 +564,14 @@
         <translation>フォルダーを選択…</translation>
     </message>
     <message>
+        <source>Coded markers</source>
+        <translation>コード化マーカー</translation>
+    </message>
+    <message>
+        <source>The cabinets have no room for markers.</source>
+        <translation>キャビネットにマーカーを置く余地がありません。</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>言語</translation>
     </message>

@@ -564,6 +564,14 @@
         <translation>选择文件夹…</translation>
     </message>
     <message>
+        <source>Coded markers</source>
+        <translation>编码标记</translation>
+    </message>
+    <message>
+        <source>The cabinets have no room for markers.</source>
+        <translation>箱体中没有放置标记的空间。</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>语言</translation>
     </message>

@@ -46,6 +46,12 @@ QString freePath(const QString& folder, const QString& name)
     return path;
 }
 
+/// What tells a changed chart from one that is not.
+QByteArray contentOf(const TestChartToolsData& record, const MarkerData& markers)
+{
+    return ChartRecordFile::toJson(record, ChartRecordFile::withMarkers({}, markers));
+}
+
 } // namespace
 
 EditSession::EditSession(VTestChartTools* editor, QObject* parent)
@@ -100,22 +106,23 @@ void EditSession::add(const QString& folder)
 {
     m_editor->setShowForAdd(true); // with the colour bar of a new chart
     m_editor->applyRecord(newChart());
-    openNew(folder);
+    openNew(folder, {});
     m_fresh = m_editor->getTestChartToolsData();
 }
 
-void EditSession::add(const QString& folder, const TestChartToolsData& record)
+void EditSession::add(const QString& folder, const TestChartToolsData& record, const MarkerData& markers)
 {
     m_editor->setShowForAdd(false);
     m_editor->applyRecord(record);
-    openNew(folder);
+    openNew(folder, markers);
 }
 
 /// With what the editor shows.
-void EditSession::openNew(const QString& folder)
+void EditSession::openNew(const QString& folder, const MarkerData& markers)
 {
     Draft draft;
     draft.folder = folder;
+    draft.document = ChartRecordFile::withMarkers({}, markers);
     draft.record = m_editor->getTestChartToolsData();
     open(draft, DraftFolder::create(draftsRoot()));
     m_unchanged = current();
@@ -220,13 +227,31 @@ bool EditSession::isChanged() const
 
 QByteArray EditSession::current() const
 {
-    return ChartRecordFile::toJson(m_editor->getTestChartToolsData());
+    return contentOf(m_editor->getTestChartToolsData(), shownMarkers());
+}
+
+MarkerData EditSession::shownMarkers() const
+{
+    return {m_editor->markersShown()};
+}
+
+bool EditSession::hasMarkers() const
+{
+    return m_isOpen && m_editor->markersShown();
+}
+
+void EditSession::setMarkers(bool shown)
+{
+    m_editor->setMarkersShown(shown);
+    m_editor->updateShowSaveBtnStatus(true);
+    m_keeper.touch();
 }
 
 Draft EditSession::collect() const
 {
     Draft draft = m_edited;
     draft.record = m_editor->getTestChartToolsData();
+    draft.document = ChartRecordFile::withMarkers(m_edited.document, shownMarkers());
     return draft;
 }
 
@@ -255,7 +280,7 @@ void EditSession::saveBegan(bool ends)
 {
     if (!m_isOpen)
         return;
-    m_saves.push_back({m_saveRoot, m_editor->getTestChartToolsData(), ends, {}});
+    m_saves.push_back({m_saveRoot, m_editor->getTestChartToolsData(), shownMarkers(), ends, {}});
     prepareSave();
 }
 
@@ -288,7 +313,8 @@ EditSession::Save EditSession::takeSave(const QString& path)
         return path.startsWith(save.root + QLatin1Char('/'));
     });
     if (it == m_saves.end())
-        return {QString(), m_editor->getTestChartToolsData(), true, {}}; // not begun by this desk
+        return {
+            QString(), m_editor->getTestChartToolsData(), shownMarkers(), true, {}}; // not begun by this desk
     const Save save = *it;
     m_saves.erase(it);
     return save;
@@ -336,7 +362,7 @@ void EditSession::publishNext()
     const Save& save = m_publishing.front();
     const Publication next = {save.path,
                               save.record,
-                              m_edited.document,
+                              ChartRecordFile::withMarkers(m_edited.document, save.markers),
                               pictureName(save.record),
                               m_edited.editedImage,
                               m_edited.editedDigest};
@@ -363,7 +389,8 @@ void EditSession::accept(const Save& save, const Publication::Outcome& outcome)
         Q_EMIT replacedChartKept(m_edited.editedImage);
     m_edited.editedImage = image;
     m_edited.editedDigest = outcome.digest;
-    m_unchanged = ChartRecordFile::toJson(save.record);
+    m_edited.document = ChartRecordFile::withMarkers(m_edited.document, save.markers);
+    m_unchanged = contentOf(save.record, save.markers);
     m_lastSaved = image;
     Q_EMIT saved(image);
     if (!isChanged()) {

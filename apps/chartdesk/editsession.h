@@ -4,6 +4,7 @@
 #include "draftkeeper.h"
 #include "publication.h"
 
+#include <markerdata.h>
 #include <vtestcharttools.h>
 
 #include <QObject>
@@ -24,8 +25,9 @@ public:
 
     /// Opens a new chart, to be saved in `folder`.
     void add(const QString& folder);
-    /// Opens `record` as a new chart.
-    void add(const QString& folder, const vardeno::testcharttools::TestChartToolsData& record);
+    /// Opens `record` as a new chart, with coded markers where `markers` wants them.
+    void add(const QString& folder, const vardeno::testcharttools::TestChartToolsData& record,
+             const vardeno::testcharttools::MarkerData& markers);
     /// Opens the chart `imagePath` of `folder`; what is wrong with its record, and nothing is opened then.
     /// Nor is one that `notEditable` tells of.
     QStringList edit(const QString& folder, const QString& imagePath);
@@ -41,6 +43,12 @@ public:
     QString folder() const { return m_store.folder(); }
     /// The name of the chart's file, empty for a new one.
     QString chartName() const;
+
+    /// What is being edited, as it is shown.
+    vardeno::testcharttools::TestChartToolsData record() const { return m_editor->getTestChartToolsData(); }
+    /// Whether the chart that is being edited has coded markers. No undo takes a change of it back.
+    bool hasMarkers() const;
+    void setMarkers(bool shown);
 
     /// Saves and ends the edit, as its confirm button does.
     void confirm();
@@ -71,12 +79,13 @@ private:
     {
         QString root;
         vardeno::testcharttools::TestChartToolsData record;
+        vardeno::testcharttools::MarkerData markers;
         bool ends;
         QString path = {}; ///< of its picture, once that is written
     };
 
     void giveUp();
-    void openNew(const QString& folder);
+    void openNew(const QString& folder, const vardeno::testcharttools::MarkerData& markers);
     void connectEditor();
     void connectChanges();
     void open(const Draft& draft, std::unique_ptr<DraftFolder> folder);
@@ -93,6 +102,7 @@ private:
     void fail(const Save& save, const QString& path, const QString& reason);
     Draft collect() const;
     QByteArray current() const;
+    vardeno::testcharttools::MarkerData shownMarkers() const;
     void takePictureIn();
     void fitToWall();
     QString pictureName(const vardeno::testcharttools::TestChartToolsData& record) const;

@@ -16,6 +16,7 @@
 #include "languages.h"
 #include "listbar.h"
 #include "logorefusal.h"
+#include "markerswitch.h"
 #include "messagebox.h"
 #include "nametips.h"
 #include "openedpath.h"
@@ -76,6 +77,7 @@ MainWindow::MainWindow(const QString& folder)
     , m_choose(createAction(QKeySequence::Open, &MainWindow::chooseFolder))
     , m_refresh(createAction(Qt::Key_F5, &MainWindow::refresh))
     , m_quit(createAction(QKeySequence::Quit, nullptr))
+    , m_markers(nullptr)
     , m_languages(new LanguageMenu(this))
     , m_themes(new ThemeMenu(this))
     , m_recent(new RecentFolders(this))
@@ -152,13 +154,14 @@ void MainWindow::createWalls()
 {
     m_walls = new DeskWalls(m_list, this);
     connect(m_walls, &DeskWalls::failed, this, &MainWindow::tell);
-    connect(m_walls, &DeskWalls::chartWanted, this, [this](const TestChartToolsData& record) {
-        if (m_session->isOpen())
-            return m_walls->endChart();
-        raise();
-        activateWindow();
-        addChartFrom(record);
-    });
+    connect(m_walls, &DeskWalls::chartWanted, this,
+            [this](const TestChartToolsData& record, const MarkerData& markers) {
+                if (m_session->isOpen())
+                    return m_walls->endChart();
+                raise();
+                activateWindow();
+                addChartFrom(record, markers);
+            });
     connect(m_session, &EditSession::saved, m_walls, &DeskWalls::takeChart);
     connect(m_session, &EditSession::ended, m_walls, &DeskWalls::endChart);
 }
@@ -171,13 +174,14 @@ void MainWindow::updateActions()
     m_choose->setEnabled(!isEditing);
     const bool isAny = !m_list->selectedChart().isEmpty() || !m_list->selectedDocument().isEmpty();
     m_edit->setEnabled(!isEditing && isAny);
+    m_markers->update();
     m_library->update(isEditing);
     m_output->update();
 }
 
-void MainWindow::addChartFrom(const TestChartToolsData& record)
+void MainWindow::addChartFrom(const TestChartToolsData& record, const MarkerData& markers)
 {
-    m_session->add(m_folder, record);
+    m_session->add(m_folder, record, markers);
     openEditor();
 }
 
@@ -204,7 +208,7 @@ QAction* MainWindow::createAction(const QKeySequence& shortcut, void (MainWindow
 void MainWindow::createMenus()
 {
     QMenu* charts = menuBar()->addMenu(QString());
-    charts->addActions({m_new, m_walls->newAction(), m_edit, m_choose});
+    charts->addActions({m_new, m_walls->newAction(), m_edit, m_markers, m_choose});
     charts->addMenu(m_recent);
     charts->addAction(m_refresh);
     charts->addSeparator();
@@ -212,6 +216,8 @@ void MainWindow::createMenus()
     for (QMenu* menu : {m_library->menu(), m_output->menu(), static_cast<QMenu*>(m_languages),
                         static_cast<QMenu*>(m_themes), static_cast<QMenu*>(m_help)})
         menuBar()->addMenu(menu);
+    connect(m_markers, &MarkerSwitch::noted, this,
+            [this](const QString& note) { statusBar()->showMessage(note, 10000); });
     connect(m_recent, &RecentFolders::chosen, this, &MainWindow::openFolder);
     connect(m_languages, &LanguageMenu::chosen, this, [this](const QString& code) {
         switchLanguage(code);
@@ -258,6 +264,7 @@ QWidget* MainWindow::createEditorPage()
     scroll->setWidget(m_editor);
     scroll->setWidgetResizable(true); // the editor follows
     m_session = new EditSession(m_editor, this);
+    m_markers = new MarkerSwitch(m_session, this);
     new EditorLook(m_editor);
     giveLook(scroll, m_editor->styleSheet());
     giveLook(m_list, m_editor->styleSheet());
@@ -280,6 +287,7 @@ void MainWindow::retranslate()
 {
     m_new->setText(hostText(QStringLiteral("New chart")));
     m_edit->setText(hostText(QStringLiteral("Edit chart")));
+    m_markers->retranslate();
     m_choose->setText(hostText(QStringLiteral("Choose folder…")));
     m_refresh->setText(hostText(QStringLiteral("Refresh")));
     m_quit->setText(hostText(QStringLiteral("Quit")));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <markerdata.h>
 #include <vtestcharttools.h>
 
 #include <QMainWindow>
@@ -17,6 +18,7 @@ class QAction;
 class QLabel;
 class QMessageBox;
 class QStackedWidget;
+class MarkerSwitch;
 class RecentFolders;
 class SaveQuestions;
 class ThemeMenu;
@@ -67,7 +69,8 @@ private:
     void createLibrary();
     void createWalls();
     void updateActions();
-    void addChartFrom(const vardeno::testcharttools::TestChartToolsData& record);
+    void addChartFrom(const vardeno::testcharttools::TestChartToolsData& record,
+                      const vardeno::testcharttools::MarkerData& markers);
     void fitToEditor();
     void retranslate();
 
@@ -103,6 +106,7 @@ private:
     QAction* m_choose;
     QAction* m_refresh;
     QAction* m_quit;
+    MarkerSwitch* m_markers;
     LanguageMenu* m_languages;
     ThemeMenu* m_themes;
     RecentFolders* m_recent;

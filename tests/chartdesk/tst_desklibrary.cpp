@@ -303,14 +303,30 @@ private Q_SLOTS:
         m_window->session()->end();
     }
 
+    void newFromThePresetWithMarkers()
+    {
+        QVERIFY(trigger(*m_window, QStringLiteral("New from…")));
+        auto* presets = dialog<NewFromDialog>();
+        QVERIFY(presets);
+        auto* pictures = presets->findChild<QListWidget*>(QStringLiteral("presetPictures"));
+        pictures->setCurrentItem(
+            pictures->findItems(QStringLiteral("Coded markers"), Qt::MatchExactly).first());
+        presets->accept();
+        QVERIFY(m_window->session()->hasMarkers());
+        QVERIFY(m_window->editor()->markersShown());
+        QVERIFY(settle(*m_window));
+        QVERIFY(!m_window->session()->isChanged());
+        m_window->session()->end();
+        QVERIFY(!m_window->session()->hasMarkers());
+    }
+
     void everyPresetHasItsPicture()
     {
         NewFromDialog presets(m_window.get());
         presets.setAttribute(Qt::WA_DeleteOnClose, false);
         const auto* pictures = presets.findChild<QListWidget*>(QStringLiteral("presetPictures"));
-        const auto count = std::count_if(::presets().begin(), ::presets().end(), [](const Preset& preset) {
-            return !preset.isWall() && !preset.markers.showMarkers;
-        });
+        const auto count = std::count_if(::presets().begin(), ::presets().end(),
+                                         [](const Preset& preset) { return !preset.isWall(); });
         QCOMPARE(pictures->count(), int(count) + 1);
         for (int row = 0; row < pictures->count(); ++row) {
             const QListWidgetItem* picture = pictures->item(row);

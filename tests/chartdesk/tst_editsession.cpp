@@ -1,6 +1,10 @@
 #include "deskwalls.h"
 #include "edittestcase.h"
 
+#include <chartpicture.h>
+
+#include <QStatusBar>
+
 using namespace vardeno::testcharttools;
 using namespace chartfiles;
 using namespace deskwindow;
@@ -62,12 +66,57 @@ private Q_SLOTS:
         wall.publicData.resolutionHeight = 1152;
         wall.publicData.boxCol = 15;
         wall.publicData.boxRow = 9;
-        Q_EMIT m_window->findChild<DeskWalls*>()->chartWanted(wall);
+        Q_EMIT m_window->findChild<DeskWalls*>()->chartWanted(wall, {});
         QVERIFY(settle(*m_window));
         QTRY_COMPARE(m_window->editor()->getTestChartToolsData().inLineData.circleSize, 576);
         QVERIFY(!m_window->session()->isChanged());
         QVERIFY(setRows(*m_window, 4));
         QVERIFY(m_window->session()->isChanged());
+        m_window->session()->end();
+    }
+
+    /// The switch is in a menu; the document has it, beside what it had.
+    void markersGoOnAndOff()
+    {
+        openDesk();
+        auto* markers = m_window->findChild<QAction*>(QStringLiteral("markerSwitch"));
+        QVERIFY(!markers->isEnabled());
+        QVERIFY(openNewChart());
+        QVERIFY(markers->isEnabled() && !markers->isChecked());
+        markers->trigger();
+        QVERIFY(m_window->editor()->markersShown());
+        QVERIFY(m_window->session()->isChanged());
+        QVERIFY(settle(*m_window));
+        const TestChartToolsData record = m_window->editor()->getTestChartToolsData();
+        QVERIFY(click(*m_window, "Confirm"));
+        QTRY_VERIFY(isEnded());
+        QVERIFY(!markers->isEnabled() && !markers->isChecked());
+        const QString image = charts().first();
+        const auto saved = ChartRecordFile::read(ChartFolderList::recordPath(image));
+        QVERIFY(ChartRecordFile::markersOf(saved.document).showMarkers);
+        const ChartPicture expected(record, ChartCaptions::current(), {true});
+        QCOMPARE(imageDifference(QImage(image).convertToFormat(QImage::Format_RGB32), expected.image()),
+                 QString());
+
+        QVERIFY(m_window->session()->edit(m_window->session()->folder(), image).isEmpty());
+        QVERIFY(m_window->session()->hasMarkers());
+        QVERIFY(!m_window->session()->isChanged());
+        m_window->session()->setMarkers(false);
+        QVERIFY(m_window->session()->isChanged());
+        m_window->session()->setMarkers(true);
+        QVERIFY(!m_window->session()->isChanged());
+        m_window->session()->end();
+    }
+
+    void markersWithoutRoomAreTold()
+    {
+        openDesk();
+        QVERIFY(openNewChart());
+        QVERIFY(setRows(*m_window, 100));
+        auto* markers = m_window->findChild<QAction*>(QStringLiteral("markerSwitch"));
+        markers->trigger();
+        QTRY_COMPARE(m_window->statusBar()->currentMessage(),
+                     QStringLiteral("The cabinets have no room for markers."));
         m_window->session()->end();
     }
 

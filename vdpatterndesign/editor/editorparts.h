@@ -46,8 +46,8 @@ public:
     /// The same, and then gives every layer what the panels show.
     void apply(const TestChartToolsData& data);
     /// The same with the record's own colour bar in any case.
-    void showMarkers(bool shown);
     void applyWhole(const TestChartToolsData& data);
+    void showMarkers(bool shown);
 
     LayerStack layers;
     EditorPanels panels;

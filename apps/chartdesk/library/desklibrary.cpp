@@ -85,7 +85,8 @@ void DeskLibrary::update(bool isEditing)
 void DeskLibrary::newFrom()
 {
     auto* dialog = new NewFromDialog(m_window);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { Q_EMIT newWanted(dialog->record()); });
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { Q_EMIT newWanted(dialog->record(), dialog->markers()); });
     dialog->open();
 }
 

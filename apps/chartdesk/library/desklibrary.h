@@ -2,6 +2,7 @@
 
 #include "chartshelf.h"
 
+#include <markerdata.h>
 #include <testcharttoolsdata.h>
 
 #include <QObject>
@@ -50,7 +51,8 @@ public:
 
 Q_SIGNALS:
     /// A new chart is wanted that begins with `record`.
-    void newWanted(const vardeno::testcharttools::TestChartToolsData& record);
+    void newWanted(const vardeno::testcharttools::TestChartToolsData& record,
+                   const vardeno::testcharttools::MarkerData& markers);
     void failed(const QString& what, const QString& details);
     /// What was done besides what is seen.
     void noted(const QString& what);

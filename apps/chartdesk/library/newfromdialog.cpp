@@ -47,6 +47,7 @@ constexpr PictureTitle pictureTitles[] = {
     {"numbering-top-right", hostSource("Numbers from top right")},
     {"numbering-bottom-left", hostSource("Numbers from bottom left")},
     {"numbering-bottom-right", hostSource("Numbers from bottom right")},
+    {"tags", hostSource("Coded markers")},
 };
 
 /// Its name where it has no title.
@@ -68,9 +69,10 @@ QString wallText(const Preset& wall)
                .arg(wall.cabinets.height());
 }
 
-QImage drawnPreset(const TestChartToolsData& record, const ChartCaptions& captions, qreal ratio)
+QImage drawnPreset(const TestChartToolsData& record, const MarkerData& markers, const ChartCaptions& captions,
+                   qreal ratio)
 {
-    const QImage chart = ChartPicture(record, captions).image();
+    const QImage chart = ChartPicture(record, captions, markers).image();
     QImage picture = chart.scaled(presetPictureSize * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPainter painter(&picture);
     painter.setPen(QColor(128, 128, 128)); // a white chart stands out from a light list
@@ -96,7 +98,7 @@ NewFromDialog::NewFromDialog(QWidget* parent)
     auto* standard = new QListWidgetItem(hostText(QStringLiteral("Standard")), m_pictures);
     standard->setData(Qt::UserRole, QString());
     for (const Preset& preset : presets()) {
-        if (preset.isWall() || preset.markers.showMarkers) // which the editor does not show
+        if (preset.isWall())
             continue;
         auto* item = new QListWidgetItem(titleOf(preset), m_pictures);
         item->setData(Qt::UserRole, preset.name);
@@ -161,9 +163,20 @@ TestChartToolsData NewFromDialog::recordOf(int picture) const
     return record;
 }
 
+MarkerData NewFromDialog::markersOf(int picture) const
+{
+    const Preset* content = findPreset(m_pictures->item(picture)->data(Qt::UserRole).toString());
+    return content ? content->markers : MarkerData();
+}
+
 TestChartToolsData NewFromDialog::record() const
 {
     return recordOf(m_pictures->currentRow());
+}
+
+MarkerData NewFromDialog::markers() const
+{
+    return markersOf(m_pictures->currentRow());
 }
 
 void NewFromDialog::drawPictures()
@@ -172,14 +185,14 @@ void NewFromDialog::drawPictures()
     ++m_round;
     const qreal ratio = devicePixelRatioF();
     for (int row = 0; row < m_pictures->count(); ++row) {
-        m_pool.start(
-            [this, row, ratio, round = m_round, record = recordOf(row), captions = ChartCaptions::current()] {
-                const QImage picture = drawnPreset(record, captions, ratio);
-                const auto show = [this, row, round, picture] {
-                    if (round == m_round)
-                        m_pictures->item(row)->setIcon(QIcon(QPixmap::fromImage(picture)));
-                };
-                QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
-            });
+        m_pool.start([this, row, ratio, round = m_round, record = recordOf(row), markers = markersOf(row),
+                      captions = ChartCaptions::current()] {
+            const QImage picture = drawnPreset(record, markers, captions, ratio);
+            const auto show = [this, row, round, picture] {
+                if (round == m_round)
+                    m_pictures->item(row)->setIcon(QIcon(QPixmap::fromImage(picture)));
+            };
+            QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+        });
     }
 }

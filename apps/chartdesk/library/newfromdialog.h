@@ -1,5 +1,6 @@
 #pragma once
 
+#include <markerdata.h>
 #include <testcharttoolsdata.h>
 
 #include <QDialog>
@@ -19,11 +20,14 @@ public:
 
     /// What is chosen, as a record.
     vardeno::testcharttools::TestChartToolsData record() const;
+    /// And whether it has coded markers.
+    vardeno::testcharttools::MarkerData markers() const;
 
 private:
     void createLayout();
     void drawPictures();
     vardeno::testcharttools::TestChartToolsData recordOf(int picture) const;
+    vardeno::testcharttools::MarkerData markersOf(int picture) const;
 
     QComboBox* m_walls;
     QListWidget* m_pictures;

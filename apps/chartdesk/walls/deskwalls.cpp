@@ -74,7 +74,9 @@ WallWindow* DeskWalls::open(const QString& path)
             return nullptr;
         }
         connect(window, &WallWindow::chartWanted, this,
-                [this, asking = window.data()](const TestChartToolsData& record) { askFor(asking, record); });
+                [this, asking = window.data()](const TestChartToolsData& record, const MarkerData& markers) {
+                    askFor(asking, record, markers);
+                });
     }
     window->show();
     window->raise();
@@ -110,7 +112,7 @@ void DeskWalls::create()
     open(path);
 }
 
-void DeskWalls::askFor(WallWindow* window, TestChartToolsData record)
+void DeskWalls::askFor(WallWindow* window, TestChartToolsData record, const MarkerData& markers)
 {
     PublicChartData& screen = record.publicData;
     screen.resolutionWidth = std::min(screen.resolutionWidth, editorSide);
@@ -118,7 +120,7 @@ void DeskWalls::askFor(WallWindow* window, TestChartToolsData record)
     screen.boxCol = std::min(screen.boxCol, editorCabinets);
     screen.boxRow = std::min(screen.boxRow, editorCabinets);
     m_asking = window;
-    Q_EMIT chartWanted(record);
+    Q_EMIT chartWanted(record, markers);
 }
 
 void DeskWalls::takeChart(const QString& imagePath)

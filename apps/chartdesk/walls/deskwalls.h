@@ -1,5 +1,6 @@
 #pragma once
 
+#include <markerdata.h>
 #include <testcharttoolsdata.h>
 
 #include <QHash>
@@ -36,12 +37,14 @@ public:
 
 Q_SIGNALS:
     /// The record of a wall is to be edited.
-    void chartWanted(const vardeno::testcharttools::TestChartToolsData& record);
+    void chartWanted(const vardeno::testcharttools::TestChartToolsData& record,
+                     const vardeno::testcharttools::MarkerData& markers);
     void failed(const QString& what, const QString& details);
 
 private:
     void create();
-    void askFor(WallWindow* window, vardeno::testcharttools::TestChartToolsData record);
+    void askFor(WallWindow* window, vardeno::testcharttools::TestChartToolsData record,
+                const vardeno::testcharttools::MarkerData& markers);
 
     ChartList* m_list;
     MainWindow* m_window;

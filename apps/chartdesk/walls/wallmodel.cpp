@@ -76,6 +76,11 @@ WallFile::Chart WallModel::chart() const
     return WallFile::chartOf(*m_wall, QFileInfo(m_path).absolutePath());
 }
 
+vardeno::testcharttools::MarkerData WallModel::markers() const
+{
+    return WallFile::markersOf(*m_wall, chart().file);
+}
+
 const std::vector<QString>& WallModel::names()
 {
     if (!m_names)

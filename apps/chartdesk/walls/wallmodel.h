@@ -27,6 +27,8 @@ public:
     const vardeno::walls::CabinetPlan& plan() const { return *m_plan; }
     /// What is drawn on it, by its file or its document. A default record where that cannot be read.
     vardeno::walls::WallFile::Chart chart() const;
+    /// And whether it has coded markers.
+    vardeno::testcharttools::MarkerData markers() const;
     /// These are found when they are asked for first.
     const std::vector<QString>& names();
     const std::vector<vardeno::walls::CableRun>& dataRuns();

@@ -92,7 +92,7 @@ void WallWindow::createActions()
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     bar->addAction(add("wallSave", hostSource("Save"), QKeySequence::Save, [this] { save(); }));
     bar->addAction(add("wallChart", hostSource("Edit chart"), Qt::CTRL + Qt::Key_E,
-                       [this] { Q_EMIT chartWanted(m_model->chart().record); }));
+                       [this] { Q_EMIT chartWanted(m_model->chart().record, m_model->markers()); }));
     auto* undo =
         add("wallUndo", hostSource("Undo"), QKeySequence::Undo, [this] { m_model->history()->undo(); });
     auto* redo = add("wallRedo", hostSource("Redo"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <markerdata.h>
 #include <testcharttoolsdata.h>
 
 #include <QMainWindow>
@@ -30,7 +31,8 @@ public:
 
 Q_SIGNALS:
     /// The record of the wall is to be edited.
-    void chartWanted(const vardeno::testcharttools::TestChartToolsData& record);
+    void chartWanted(const vardeno::testcharttools::TestChartToolsData& record,
+                     const vardeno::testcharttools::MarkerData& markers);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
