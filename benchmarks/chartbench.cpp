@@ -269,13 +269,3 @@ BENCHMARK_TEMPLATE(pushRecord, Editor)->Apply(largeCharts);
 BENCHMARK_TEMPLATE(pushRecord, Reference)->Apply(largeCharts);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
