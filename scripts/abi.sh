@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Compares the binary interface of the libraries with that of a release: scripts/abi.sh [TAG]. Without TAG the last one is
-# taken. Fails where a program that was built with it would break and the libraries' name (SOVERSION) does not say so.
+# taken. Fails where a program that was built with it would break and the libraries' name (SOVERSION) does not say so. What
+# no installed header names is the libraries' own.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 release=${1:-$(git describe --tags --abbrev=0 --match 'v*' 2> /dev/null || true)}
@@ -23,17 +24,29 @@ git archive "$release" | tar -x -C build/abi/sources
 installed build/abi/sources build/abi/old
 installed . build/abi/new
 
+# missing CHANGES: of the functions that are gone by abidiff's CHANGES, those that installed headers name.
+missing() {
+  sed -n 's/^ *\[D\].*{\(_Z[^}]*\)}.*/\1/p' "$1" | c++filt -p | while read -r function; do
+    [[ $function == std::* ]] && continue
+    name=${function%%<*}
+    ! grep -rqwF -- "${name##*::}" build/abi/old/include || echo "$function"
+  done
+}
+
 broken=
 for new in build/abi/new/lib/lib*.so; do
   name=$(basename "$new")
   old=build/abi/old/lib/$name
   [ -e "$old" ] || { echo "$name: new since $release" && continue; }
   changes=0
-  abidiff --drop-private-types --stat --headers-dir1 build/abi/old/include --headers-dir2 build/abi/new/include "$old" "$new" ||
-    changes=$?
-  if [ "$(basename "$(readlink "$old")")" = "$(basename "$(readlink "$new")")" ] && ((changes & 8)); then
+  abidiff --drop-private-types --headers-dir1 build/abi/old/include --headers-dir2 build/abi/new/include "$old" "$new" \
+    > build/abi/changes || changes=$?
+  sed -n '/changes summary/p' build/abi/changes
+  gone=$(missing build/abi/changes)
+  if [ "$(basename "$(readlink "$old")")" = "$(basename "$(readlink "$new")")" ] &&
+    { [ -n "$gone" ] || { ((changes & 8)) && ! grep -q ' \[D\]' build/abi/changes; }; }; then
     broken=1
-    echo "$name: programs built with $release would break" >&2
+    printf '%s: programs built with %s would break\n%s\n' "$name" "$release" "$gone" >&2
   else
     echo "$name: compared with $release"
   fi
