@@ -9,10 +9,7 @@ using namespace testcharttools;
 
 std::vector<CabinetMarker> cabinetMarkers(const CabinetPlan& plan, const TestChartToolsData& record)
 {
-    LabelRoom labels;
-    labels.position = record.inLineData.serialPosition;
-    if (record.inLineData.showSerialNumber)
-        labels.height = labelLineHeight(fittedLabelSize(plan, record.inLineData.serialSize));
+    const LabelRoom labels = labelRoom(record, fittedLabelSize(plan, record.inLineData.serialSize));
     std::vector<CabinetMarker> markers;
     for (const WallCabinet& cabinet : plan.cabinets())
         markers.push_back({markerOf(int(markers.size())), markerSquare(cabinet.rect, labels)});

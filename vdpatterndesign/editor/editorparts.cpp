@@ -268,9 +268,7 @@ void EditorParts::apply(const TestChartToolsData& data)
 
 void EditorParts::showMarkers(bool shown)
 {
-    layers.setHeld(true);
     layers.find<PaintInLineWidget>()->setMarkersVisible(shown);
-    layers.setHeld(false);
     captureAndDisplay();
 }
 

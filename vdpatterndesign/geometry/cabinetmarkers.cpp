@@ -83,13 +83,16 @@ int labelLineHeight(int pixelSize)
     return QFontMetrics(font).height();
 }
 
+LabelRoom labelRoom(const TestChartToolsData& record, int pixelSize)
+{
+    const InLineChartData& lines = record.inLineData;
+    return {lines.showSerialNumber ? labelLineHeight(pixelSize) : 0, lines.serialPosition};
+}
+
 std::vector<CabinetMarker> cabinetMarkers(const TestChartToolsData& record)
 {
     const CabinetGrid grid = cabinetGrid(record.publicData);
-    LabelRoom labels;
-    labels.position = record.inLineData.serialPosition;
-    if (record.inLineData.showSerialNumber)
-        labels.height = labelLineHeight(fittedLabelSize(record));
+    const LabelRoom labels = labelRoom(record, fittedLabelSize(record));
     std::vector<CabinetMarker> markers;
     for (int row = 0; row < grid.rows; ++row) {
         for (int column = 0; column < grid.columns; ++column) {

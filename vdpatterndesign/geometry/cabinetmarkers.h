@@ -44,6 +44,9 @@ VDCHARTCORE_EXPORT int leastMarkerRoom();
 /// How high a line of labels in a font of so many pixels is. Needs the application's fonts.
 VDCHARTCORE_EXPORT int labelLineHeight(int pixelSize);
 
+/// What the labels of `record` take in a font of so many pixels. Needs the application's fonts.
+VDCHARTCORE_EXPORT LabelRoom labelRoom(const TestChartToolsData& record, int pixelSize);
+
 struct CabinetMarker
 {
     int marker = 0;

@@ -12,11 +12,18 @@ using namespace vardeno::testcharttools;
 
 namespace {
 
+ShownChart refused(const QString& problem)
+{
+    ShownChart chart;
+    chart.problem = problem;
+    return chart;
+}
+
 ShownChart drawn(const QString& path, const ChartCaptions& captions)
 {
     const auto reading = ChartRecordFile::read(path);
     if (!reading.problems.isEmpty())
-        return {{}, reading.problems.join(QLatin1Char('\n')), {}, {}, {}};
+        return refused(reading.problems.join(QLatin1Char('\n')));
     const MarkerData markers = ChartRecordFile::markersOf(reading.document);
     const QImage picture = ChartPicture(reading.record, captions, markers).image();
     return {picture, {}, reading.record, {}, markers};
@@ -25,13 +32,14 @@ ShownChart drawn(const QString& path, const ChartCaptions& captions)
 ShownChart readPicture(const QString& path)
 {
     if (hasTooMuchText(path))
-        return {{}, path + QLatin1String(": its texts are too long"), {}, {}};
+        return refused(path + QLatin1String(": its texts are too long"));
     QImageReader reader(path);
     reader.setAutoTransform(true);
     const QImage picture = reader.read();
     if (picture.isNull())
-        return {{}, path + QLatin1String(": ") + reader.errorString(), {}, {}, {}};
-    ShownChart chart{picture.convertToFormat(QImage::Format_RGB32), {}, {}, {}, {}};
+        return refused(path + QLatin1String(": ") + reader.errorString());
+    ShownChart chart;
+    chart.picture = picture.convertToFormat(QImage::Format_RGB32);
     const QString record = ChartFolderList::recordPath(path);
     if (!QFileInfo(record).isFile())
         return chart;
