@@ -13,6 +13,7 @@ tests/reliability/bombs.py build/dev/bin
 build/dev/bin/reliability_pictures 100000 1 tests/fuzz/corpus/logo/* -platform offscreen
 build/dev/bin/reliability_idler 60 -platform offscreen
 scripts/threads.sh
+tests/mutation/run.py || true # what survives still is told by docs/reliability.md
 cmake --preset asan > /dev/null
 cmake --build --preset asan --target reliability_destroyer
 LSAN_OPTIONS=suppressions=tests/harness/lsan.supp:print_suppressions=0 build/asan/bin/reliability_destroyer 1000
