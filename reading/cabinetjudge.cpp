@@ -253,6 +253,8 @@ private:
         const std::vector<Explanation>& all = m_explanations[cabinet];
         if (lead(cabinet, best, all.front()) < leadOverOwn || isWithinUsual(best))
             return false;
+        if (best.kind == Kind::Brightness && best.cost > mostOfOwnDimmed * all.front().cost)
+            return false;
         const bool isPlain = best.kind == Kind::Dark || best.kind == Kind::Flat;
         if (isPlain && m_reading.doubt != Doubt::None && best.cost > mostOfOwnPlain * all.front().cost)
             return false;

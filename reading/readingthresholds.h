@@ -90,6 +90,10 @@ constexpr double leastBrightness = 0.3;
 /// Brightness in values of the picture: less than this change is the camera's.
 constexpr double leastDimming = 0.18;
 
+/// What another brightness leaves of the cost of the cabinet's own picture: what somebody covers for the most
+/// part looks dimmer as well, but little alike.
+constexpr double mostOfOwnDimmed = 0.5;
+
 /// A channel that has less of what it should have is missing; of white, it should have this much.
 constexpr double mostMissing = 0.55;
 constexpr double leastOfChannel = 0.12;
