@@ -11,7 +11,7 @@ scripts/setup.sh abigail-tools
 # installed SOURCES FOLDER: builds the libraries with their types' names, and installs them there.
 installed() {
   cmake -S "$1" -B "$2/build" -G Ninja -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_BUILD_TYPE=Debug \
-    -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=10 \
+    -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=20 \
     -DCMAKE_INSTALL_PREFIX="$PWD/$2" -DCMAKE_INSTALL_LIBDIR=lib -DVD_BUILD_APPS=OFF -DVD_BUILD_BENCHMARKS=OFF \
     -DVD_BUILD_EXAMPLES=OFF -DVD_BUILD_READING=OFF -DVD_BUILD_TESTS=OFF > /dev/null
   cmake --build "$2/build" > /dev/null

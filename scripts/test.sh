@@ -47,7 +47,7 @@ packages=(mold python3-minimal xvfb clang-format fonts-noto-cjk xserver-xorg-cor
 scripts/setup.sh "${packages[@]}"
 scripts/format.sh --check
 step 'Build'
-cmake --preset dev -DVD_TEST_SYMBOLS=OFF # -DVD_TEST_SYMBOLS=ON brings them back
+cmake --preset dev -DVD_SYMBOLS=OFF # -DVD_SYMBOLS=ON brings back what debuggers read
 cmake --build --preset dev
 step 'Tests'
 run_tests dev

@@ -55,7 +55,7 @@ void sweepAbandoned(const QString& folder)
     }
 }
 
-std::filesystem::path native(const QString& path)
+std::filesystem::path nativePath(const QString& path)
 {
     return QFile::encodeName(path).toStdString();
 }
@@ -74,7 +74,7 @@ QString giveFreeName(const QString& folder, const QString& name, QString& proble
     std::error_code error;
     for (int number = 1; number < attempts; ++number) {
         const QString target = number == 1 ? name : name + QLatin1Char('-') + QString::number(number);
-        std::filesystem::rename(native(folder), native(target), error);
+        std::filesystem::rename(nativePath(folder), nativePath(target), error);
         if (!error)
             return target;
         if (!isTaken(error))
