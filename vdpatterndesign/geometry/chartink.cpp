@@ -21,7 +21,7 @@ int labelSize(const TestChartToolsData& record)
 
 bool coversLabels(const TestChartToolsData& record, const QRect& area)
 {
-    return coveredLabels(record, area).count > 0;
+    return testcharttools::coversLabels(record, area);
 }
 
 } // namespace vardeno::testcharttools::ChartInk

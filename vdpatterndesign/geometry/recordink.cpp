@@ -86,6 +86,34 @@ QRect labelInk(const PlacedText& placed, const QFontMetrics& metrics)
     return metrics.tightBoundingRect(text).translated(line.left(), line.top() + metrics.ascent());
 }
 
+/// Calls `found(row, column)` for each cabinet whose label `area` touches, row by row, for as long as it
+/// returns true.
+template <typename Found>
+void forEachCoveredLabel(const TestChartToolsData& record, const QRect& area, Found found)
+{
+    if (!record.inLineData.showSerialNumber || record.inLineData.serialColor.alpha == 0 || area.isEmpty())
+        return;
+    const CabinetGrid grid = cabinetGrid(record.publicData);
+    const LabelStyle style = labelStyle(record.inLineData);
+    const QFontMetrics metrics(labelFont(record));
+    const auto touches = [&](int row, int column) {
+        const QRect cell = grid.cell(row, column);
+        if (!cell.intersects(area))
+            return false;
+        const auto label = cabinetLabel(style, row, column, grid.rows, grid.columns);
+        const auto texts = label ? placedLabel(*label, style.position, cell) : std::vector<PlacedText>();
+        return std::any_of(texts.begin(), texts.end(), [&](const PlacedText& placed) {
+            return labelInk(placed, metrics).intersects(area);
+        });
+    };
+    for (int row = 0; row < grid.rows; ++row) {
+        for (int column = 0; column < grid.columns; ++column) {
+            if (touches(row, column) && !found(row, column))
+                return;
+        }
+    }
+}
+
 } // namespace
 
 QSize chartSize(const TestChartToolsData& record)
@@ -162,28 +190,22 @@ int fittedLabelSize(const TestChartToolsData& record)
 CoveredLabels coveredLabels(const TestChartToolsData& record, const QRect& area)
 {
     CoveredLabels covered;
-    if (!record.inLineData.showSerialNumber || record.inLineData.serialColor.alpha == 0 || area.isEmpty())
-        return covered;
-    const CabinetGrid grid = cabinetGrid(record.publicData);
-    const LabelStyle style = labelStyle(record.inLineData);
-    const QFontMetrics metrics(labelFont(record));
-    const auto touches = [&](int row, int column) {
-        const QRect cell = grid.cell(row, column);
-        if (!cell.intersects(area))
-            return false;
-        const auto label = cabinetLabel(style, row, column, grid.rows, grid.columns);
-        const auto texts = label ? placedLabel(*label, style.position, cell) : std::vector<PlacedText>();
-        return std::any_of(texts.begin(), texts.end(), [&](const PlacedText& placed) {
-            return labelInk(placed, metrics).intersects(area);
-        });
-    };
-    for (int row = 0; row < grid.rows; ++row) {
-        for (int column = 0; column < grid.columns; ++column) {
-            if (touches(row, column) && covered.count++ == 0)
-                covered.first = ChartCabinets::label(record, row, column);
-        }
-    }
+    forEachCoveredLabel(record, area, [&](int row, int column) {
+        if (covered.count++ == 0)
+            covered.first = ChartCabinets::label(record, row, column);
+        return true;
+    });
     return covered;
+}
+
+bool coversLabels(const TestChartToolsData& record, const QRect& area)
+{
+    bool covers = false;
+    forEachCoveredLabel(record, area, [&](int, int) {
+        covers = true;
+        return false;
+    });
+    return covers;
 }
 
 } // namespace vardeno::testcharttools

@@ -41,5 +41,7 @@ struct CoveredLabels
     QString first;
 };
 CoveredLabels coveredLabels(const TestChartToolsData& record, const QRect& area);
+/// Whether there is one, which is known as soon as it is found.
+bool coversLabels(const TestChartToolsData& record, const QRect& area);
 
 } // namespace vardeno::testcharttools
