@@ -83,6 +83,20 @@ private Q_SLOTS:
         QCOMPARE(output.walk()->mode(), Walk::Mode::None);
     }
 
+    /// So that the desk's menu does not take them, too.
+    void keysThatDoSomethingAreTaken()
+    {
+        Output output;
+        output.setCharts(m_charts);
+        output.start(display(), QPoint(), m_charts.at(5));
+        for (const int key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Left, Qt::Key_Up,
+                              Qt::Key_PageUp, Qt::Key_X}) {
+            QKeyEvent event(QEvent::KeyPress, key, {});
+            output.press(&event);
+            QCOMPARE(event.isAccepted(), key != Qt::Key_X);
+        }
+    }
+
     void escapeLeaves()
     {
         Output output;

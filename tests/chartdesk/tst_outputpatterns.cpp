@@ -227,6 +227,10 @@ private Q_SLOTS:
         for (int box = 0; box < 10; ++box)
             QCOMPARE(lit(counter.boxPlace(box)) > 0, box == 8);
         QVERIFY(QRect(QPoint(), size).contains(counter.boxPlace(9)));
+        QCOMPARE(counter.boxPlace(0).left(),
+                 counter.digitPlace(0).left()); // the boxes are as wide as the digits
+        const int missing = counter.digitPlace(5).right() - counter.boxPlace(9).right();
+        QVERIFY(missing >= 0 && missing < 9); // what is left by nine whole steps
         QCOMPARE(counter.text(42), QStringLiteral("Frame 000042"));
     }
 

@@ -188,6 +188,42 @@ private Q_SLOTS:
         QCOMPARE(shown.picture, before);
     }
 
+    /// At 1000 frames and 60 steps a second.
+    void aStepTakesItsFrames()
+    {
+        Walk walk;
+        walk.setFrameRate(1000);
+        walk.setChart(chart());
+        walk.press(Qt::Key_H);
+        QCOMPARE(walk.stepsPerMinute(), 60); // at first
+        walk.changePace(100);
+        QSignalSpy frames(&walk.pacer(), &FramePacer::frame);
+        QSignalSpy steps(&walk, &Walk::stepChanged);
+        walk.setRunning(true);
+        QTRY_VERIFY(steps.size() >= 3);
+        walk.setRunning(false);
+        QCOMPARE(frames.size() / 17, steps.size());
+    }
+
+    void theStepStaysWhereTheWayIsSet()
+    {
+        Walk walk;
+        walk.setChart(chart());
+        walk.press(Qt::Key_H);
+        walk.press(Qt::Key_Left);
+        walk.setPath(walk.path());
+        QCOMPARE(walk.currentStep(), 5);
+    }
+
+    void noChosenCabinetsWithoutARecord()
+    {
+        Walk walk;
+        walk.setChart(chart(false));
+        walk.setMode(Walk::Mode::White);
+        walk.walkThrough({});
+        QCOMPARE(walk.mode(), Walk::Mode::White); // nothing happens
+    }
+
     void noRateIsSixty()
     {
         Walk walk;
