@@ -30,7 +30,7 @@ import mutate
 
 PLACE = mutate.ROOT / "build/mutation"
 BUILD = PLACE / "build/dev"
-OPTIONS = ("-DVD_TEST_X11=OFF", "-DVD_TEST_SYMBOLS=OFF", "-DVD_BUILD_EXAMPLES=OFF")
+OPTIONS = ("-DVD_TEST_X11=OFF", "-DVD_SYMBOLS=OFF", "-DVD_BUILD_EXAMPLES=OFF")
 EQUIVALENT = Path(__file__).with_name("equivalent.txt")
 SPARE = 1.3  # so many times as many are built, for those that do not compile
 NOBODY = 65534
