@@ -253,20 +253,20 @@ private:
         const std::vector<Explanation>& all = m_explanations[cabinet];
         if (lead(cabinet, best, all.front()) < leadOverOwn || isWithinUsual(best))
             return false;
-        if (best.kind == Kind::Brightness && best.cost > mostOfOwnDimmed * all.front().cost)
-            return false;
         const bool isPlain = best.kind == Kind::Dark || best.kind == Kind::Flat;
         if (isPlain && m_reading.doubt != Doubt::None && best.cost > mostOfOwnPlain * all.front().cost)
             return false;
         const Leaning leaning =
             leaningOf(m_evidence, m_evidence.rects[cabinet], all.front().expected, best.expected);
-        if (leaning.along < leastLeaning || leaning.rest > mostRest)
+        if (leaning.along < leastLeaning || leaning.rest > mostRestFor(best.kind))
             return false;
         return std::all_of(all.begin(), all.end(), [&](const Explanation& other) {
             const bool isMilder = isDimmed(best) && (other.kind == Kind::Flat || other.kind == Kind::Dark);
             return isSame(best, other) || isMilder || lead(cabinet, best, other) > leadOverNext;
         });
     }
+
+    static double mostRestFor(Kind kind) { return kind == Kind::Brightness ? mostRestDimmed : mostRest; }
 
     static bool isSame(const Explanation& a, const Explanation& b)
     {

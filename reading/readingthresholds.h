@@ -51,6 +51,10 @@ constexpr double leastLeaning = 0.7;
 /// Where the two differ, the other one has to leave less than this part of the error.
 constexpr double mostRest = 0.4;
 
+/// The same for another brightness: of what is dimmed it leaves a hundredth; of what the light model misses,
+/// or somebody covers for the most part, six hundredths and more.
+constexpr double mostRestDimmed = 0.04;
+
 /// Of white: a cabinet that is brighter in any channel is not dark.
 constexpr float mostDark = 0.34F;
 
@@ -89,10 +93,6 @@ constexpr double leastBrightness = 0.3;
 
 /// Brightness in values of the picture: less than this change is the camera's.
 constexpr double leastDimming = 0.18;
-
-/// What another brightness leaves of the cost of the cabinet's own picture: what somebody covers for the most
-/// part looks dimmer as well, but little alike.
-constexpr double mostOfOwnDimmed = 0.5;
 
 /// A channel that has less of what it should have is missing; of white, it should have this much.
 constexpr double mostMissing = 0.55;

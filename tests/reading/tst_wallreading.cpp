@@ -155,6 +155,9 @@ private Q_SLOTS:
                                                                     << "0/8" << QString();
         QTest::newRow("a cabinet that somebody covers for the most part is not dimmed") << 12005 << "tags"
                                                                                         << "3/7" << QString();
+        QTest::newRow("a corner that is a little too bright for the light model is right")
+            << 12034 << "tags"
+            << "8/0" << QString();
     }
 
     void onceMisread()
