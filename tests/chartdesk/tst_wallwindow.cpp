@@ -524,6 +524,32 @@ private Q_SLOTS:
         QTRY_VERIFY(!desk.isVisible());
     }
 
+    /// The editor is asked for no more than it can show.
+    void theChartOfALargeWallIsCut()
+    {
+        writeWall("a.wall.json");
+        MainWindow desk(m_folder->path());
+        desk.show();
+        WallWindow* window = desk.walls()->open(path("a.wall.json"));
+        QVERIFY(window);
+        TestChartToolsData asked;
+        const auto wanted =
+            connect(desk.walls(), &DeskWalls::chartWanted, this,
+                    [&](const TestChartToolsData& record, const MarkerData&) { asked = record; });
+        TestChartToolsData large;
+        large.publicData.resolutionWidth = 5000;
+        large.publicData.resolutionHeight = 6000;
+        large.publicData.boxCol = 1000;
+        large.publicData.boxRow = 1000;
+        Q_EMIT window->chartWanted(large, {});
+        disconnect(wanted);
+        QCOMPARE(asked.publicData.resolutionWidth, 4320);
+        QCOMPARE(asked.publicData.resolutionHeight, 4320);
+        QCOMPARE(int(asked.publicData.boxCol), 100);
+        QCOMPARE(int(asked.publicData.boxRow), 100);
+        desk.session()->end();
+    }
+
     /// The chart of a wall is edited as any other, and saved beside it.
     void itsChartIsEdited()
     {

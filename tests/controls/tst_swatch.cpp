@@ -130,6 +130,17 @@ private Q_SLOTS:
         QCOMPARE(swatchColor(&button), QColor(Qt::cyan));
     }
 
+    void pickingStartsWithWhatTheButtonShows()
+    {
+        QPushButton button;
+        button.resize(30, 16);
+        button.setFlat(true);
+        button.setStyleSheet(QStringLiteral("background: #204060; border: none"));
+        QCOMPARE(startColor(&button), QColor(0x20, 0x40, 0x60));
+        paintSwatch(&button, Qt::red);
+        QCOMPARE(startColor(&button), QColor(Qt::red));
+    }
+
     void disabledSwatchLooks()
     {
         QPushButton button;

@@ -7,9 +7,8 @@ Builds the tree of mutate.py in build/mutation, without what does not compile; r
 see which faults it reaches; then, for each fault, the tests that reach it, the fastest first, until one fails. A crash
 and a run of more than four times as long count as failures. What is known stands in build/mutation/results.jsonl, so
 that a run goes on where the last one ended: a fault that survived meets the tests that have been built anew since.
-With `--patience` a fault that survived tests
-of so many seconds is left for the next run. `--report` prints only that. Those of which nothing can be seen are
-explained in equivalent.txt.
+With `--patience` a fault that survived tests of so many seconds is left for the next run. `--report` prints only what
+is known. Those of which nothing can be seen are explained in equivalent.txt.
 
 As root the tests run as another user: what a fault has them remove shall be theirs.
 """
