@@ -47,8 +47,11 @@ struct Collector
 void addCell(void* bytes, std::size_t count, void* data)
 {
     auto& collector = *static_cast<Collector*>(data);
-    collector.take(
-        [&] { collector.row.append(QString::fromUtf8(static_cast<const char*>(bytes), int(count))); });
+    collector.take([&] {
+        // A byte order mark is left by files that were joined; nobody sees it in a name.
+        collector.row.append(
+            QString::fromUtf8(static_cast<const char*>(bytes), int(count)).remove(QChar::ByteOrderMark));
+    });
     collector.isTooLong |= collector.row.size() > mostColumns;
 }
 

@@ -31,6 +31,10 @@ private Q_SLOTS:
         QTest::newRow("no line end at the end") << QByteArray("name,width\nleft,1920") << left;
         QTest::newRow("line ends of other systems") << QByteArray("name,width\r\nleft,1920\r\n") << left;
         QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbfname,width\nleft,1920\n") << left;
+        QTest::newRow("byte order marks inside")
+            << QByteArray("name,width\n\xef\xbb\xbf\xef\xbb\xbfle\xef\xbb\xbf"
+                          "ft,1920\n")
+            << left;
         QTest::newRow("semicolons") << QByteArray("name;width;selfData.selfText\nleft;1920;a, b\n")
                                     << QStringList{
                                            "left publicData.resolutionWidth=1920 selfData.selfText=a, b"};
