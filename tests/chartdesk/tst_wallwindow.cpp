@@ -87,6 +87,14 @@ private:
 
     void trigger(const char* name) const { m_window->findChild<QAction*>(QLatin1String(name))->trigger(); }
 
+    /// The window of a new wall in the desk, which is shown; null where it did not open.
+    WallWindow* openedWall(MainWindow& desk)
+    {
+        writeWall("a.wall.json");
+        desk.show();
+        return desk.walls()->open(path("a.wall.json"));
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -509,10 +517,8 @@ private Q_SLOTS:
     /// The desk asks before it takes changes along.
     void theDeskWaitsForItsWalls()
     {
-        writeWall("a.wall.json");
         MainWindow desk(m_folder->path());
-        desk.show();
-        WallWindow* window = desk.walls()->open(path("a.wall.json"));
+        WallWindow* window = openedWall(desk);
         QVERIFY(window);
         window->model()->change("turn", WallEdit::turned(window->model()->wall(), {{0, 0}}));
         desk.close();
@@ -527,10 +533,8 @@ private Q_SLOTS:
     /// The editor is asked for no more than it can show.
     void theChartOfALargeWallIsCut()
     {
-        writeWall("a.wall.json");
         MainWindow desk(m_folder->path());
-        desk.show();
-        WallWindow* window = desk.walls()->open(path("a.wall.json"));
+        WallWindow* window = openedWall(desk);
         QVERIFY(window);
         TestChartToolsData asked;
         const auto wanted =
@@ -553,10 +557,8 @@ private Q_SLOTS:
     /// The chart of a wall is edited as any other, and saved beside it.
     void itsChartIsEdited()
     {
-        writeWall("a.wall.json");
         MainWindow desk(m_folder->path());
-        desk.show();
-        WallWindow* window = desk.walls()->open(path("a.wall.json"));
+        WallWindow* window = openedWall(desk);
         QVERIFY(window);
         window->findChild<QAction*>("wallChart")->trigger();
         QVERIFY(desk.session()->isOpen());
